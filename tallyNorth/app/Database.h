@@ -1,0 +1,21 @@
+// The one database session of the program, on the current company's file.
+#pragma once
+
+#include "Result.h"
+
+#include <QSqlDatabase>
+#include <QString>
+
+class Database
+{
+public:
+    // Opens the SQLite file, creating it when missing. Closes an earlier session first.
+    static Result open(const QString& path);
+    static void close();
+    static bool isOpen();
+    static QString path();
+    static QSqlDatabase session();
+
+private:
+    static QString& currentPath();
+};

@@ -1,0 +1,70 @@
+#include "SqlScript.h"
+
+#include "Interaction.h"
+#include "SqlStatement.h"
+
+#include <QFile>
+
+QStringList SplitSqlScript(const QString& script)
+{
+    QStringList statements;
+    QString current;
+    QChar quote;
+    bool lineComment = false;
+    for (qsizetype i = 0; i < script.size(); ++i) {
+        const QChar c = script.at(i);
+        if (lineComment) {
+            if (c == u'\n')
+                lineComment = false;
+            continue;
+        }
+        if (!quote.isNull()) {
+            current += c;
+            if (c == quote)
+                quote = QChar();
+            continue;
+        }
+        if (c == u'-' && i + 1 < script.size() && script.at(i + 1) == u'-') {
+            lineComment = true;
+            continue;
+        }
+        if (c == u'\'' || c == u'"')
+            quote = c;
+        if (c == u';') {
+            const QString s = current.trimmed();
+            if (!s.isEmpty())
+                statements << s;
+            current.clear();
+            continue;
+        }
+        current += c;
+    }
+    const QString rest = current.trimmed();
+    if (!rest.isEmpty())
+        statements << rest;
+    return statements;
+}
+
+QString LoadSqlScript(const QString& resource)
+{
+    QFile f(resource);
+    if (!f.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(f.readAll());
+}
+
+Result ExecSqlScript(const QString& script, Interaction* interaction)
+{
+    const QStringList statements = SplitSqlScript(script);
+    for (const QString& text : statements) {
+        for (;;) {
+            SqlStatement st(text);
+            if (st.exec())
+                break;
+            if (interaction && interaction->sqlError(st.errorText(), text))
+                continue;
+            return st.failure(st.errorText());
+        }
+    }
+    return Result::success();
+}

@@ -1,0 +1,19 @@
+// SQL scripts kept as resources (schema, basic data, upgrade steps), run statement by statement.
+#pragma once
+
+#include "Result.h"
+
+#include <QString>
+#include <QStringList>
+
+class Interaction;
+
+// Splits a script at the ";" that end its statements; quoted texts may hold ";" and line breaks.
+QStringList SplitSqlScript(const QString& script);
+
+// The text of a script resource such as ":/sql/create_tables.sql".
+QString LoadSqlScript(const QString& resource);
+
+// Runs every statement of script. A failed statement is offered to the user for retry through
+// the SQL error dialog when interaction is given; the first failure that is not retried ends it.
+Result ExecSqlScript(const QString& script, Interaction* interaction = nullptr);

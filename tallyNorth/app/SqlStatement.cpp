@@ -1,0 +1,49 @@
+#include "SqlStatement.h"
+
+#include "Database.h"
+
+#include <QSqlError>
+
+SqlStatement::SqlStatement(QString text, QVariantList binds)
+    : m_text(std::move(text)), m_binds(std::move(binds)), m_query(Database::session())
+{
+}
+
+bool SqlStatement::exec()
+{
+    if (!m_query.prepare(m_text))
+        return false;
+    for (const QVariant& v : std::as_const(m_binds))
+        m_query.addBindValue(v);
+    return m_query.exec();
+}
+
+QString SqlStatement::errorText() const
+{
+    const QSqlError e = m_query.lastError();
+    QString text = e.databaseText();
+    if (text.isEmpty())
+        text = e.text();
+    return text;
+}
+
+Result SqlStatement::failure(const QString& message) const
+{
+    return Result::failure(message, errorText(), m_text);
+}
+
+Result ExecSql(const QString& text, const QVariantList& binds, const QString& message)
+{
+    SqlStatement st(text, binds);
+    if (!st.exec())
+        return st.failure(message.isEmpty() ? st.errorText() : message);
+    return Result::success();
+}
+
+QVariant SelectValue(const QString& text, const QVariantList& binds)
+{
+    SqlStatement st(text, binds);
+    if (!st.exec() || !st.next())
+        return {};
+    return st.value(0);
+}

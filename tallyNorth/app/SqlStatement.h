@@ -1,0 +1,40 @@
+// A statement on the current session with every value bound through "?" placeholders.
+#pragma once
+
+#include "Result.h"
+
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+#include <QVariantList>
+
+class SqlStatement
+{
+public:
+    explicit SqlStatement(QString text, QVariantList binds = {});
+
+    // Prepares, binds and executes; false with errorText() on failure.
+    bool exec();
+    bool next() { return m_query.next(); }
+    QVariant value(const char* column) const { return m_query.value(QString::fromLatin1(column)); }
+    QVariant value(int index) const { return m_query.value(index); }
+    int numRowsAffected() const { return m_query.numRowsAffected(); }
+    QVariant lastInsertId() const { return m_query.lastInsertId(); }
+
+    const QString& text() const { return m_text; }
+    QString errorText() const;
+    // A failure carrying message, the database's text and this statement.
+    Result failure(const QString& message) const;
+    QSqlQuery& query() { return m_query; }
+
+private:
+    QString m_text;
+    QVariantList m_binds;
+    QSqlQuery m_query;
+};
+
+// Runs one statement that returns no rows.
+Result ExecSql(const QString& text, const QVariantList& binds = {}, const QString& message = {});
+
+// First column of the first row, or an invalid QVariant when there is no row or it fails.
+QVariant SelectValue(const QString& text, const QVariantList& binds = {});

@@ -1,0 +1,98 @@
+#include "GuiInteraction.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace {
+
+// The system's message texts use "&" as a line break.
+QString MessageHtml(const QString& text)
+{
+    return text.toHtmlEscaped().replace(QLatin1String("&amp;"), QLatin1String("<br>"));
+}
+
+class DialogProgress : public Progress
+{
+public:
+    DialogProgress(const QString& text, QWidget* parent)
+        : m_dialog(text, QApplication::translate("GuiInteraction", "Cancel"), 0, 0, parent)
+    {
+        m_dialog.setWindowModality(Qt::ApplicationModal);
+        m_dialog.setMinimumDuration(300);
+        m_dialog.setValue(0);
+    }
+    void setText(const QString& text) override { m_dialog.setLabelText(text); }
+    void setTotal(int total) override { m_dialog.setMaximum(total); }
+    void setPos(int pos) override { m_dialog.setValue(pos); }
+    bool canceled() override
+    {
+        QApplication::processEvents();
+        return m_dialog.wasCanceled();
+    }
+
+private:
+    QProgressDialog m_dialog;
+};
+
+} // namespace
+
+void GuiInteraction::message(MessageKind kind, const QString& text)
+{
+    const QString title = QApplication::applicationDisplayName();
+    switch (kind) {
+    case MessageKind::Info:
+        QMessageBox::information(m_parent, title, MessageHtml(text));
+        break;
+    case MessageKind::Exclamation:
+        QMessageBox::warning(m_parent, title, MessageHtml(text));
+        break;
+    case MessageKind::Error:
+        QMessageBox::critical(m_parent, title, MessageHtml(text));
+        break;
+    }
+}
+
+bool GuiInteraction::askYesNo(const QString& text)
+{
+    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(), MessageHtml(text),
+                                 QMessageBox::Yes | QMessageBox::No)
+        == QMessageBox::Yes;
+}
+
+Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
+                                            const QString& second, const QString& third)
+{
+    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(), MessageHtml(text),
+                    QMessageBox::NoButton, m_parent);
+    QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
+    QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
+    box.addButton(third, QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == a)
+        return Choice::First;
+    if (box.clickedButton() == b)
+        return Choice::Second;
+    return Choice::Third;
+}
+
+bool GuiInteraction::sqlError(const QString& error, const QString& statement)
+{
+    QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
+                    QApplication::translate("SqlErrorLayout", "SQL error:") + u'\n' + error,
+                    QMessageBox::Retry | QMessageBox::Cancel, m_parent);
+    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' + statement);
+    return box.exec() == QMessageBox::Retry;
+}
+
+std::optional<QList<bool>> GuiInteraction::checkItems(const QString&, const QString&,
+                                                      const QString&, const QStringList& items)
+{
+    return QList<bool>(items.size(), false);
+}
+
+std::unique_ptr<Progress> GuiInteraction::progress(const QString& text)
+{
+    return std::make_unique<DialogProgress>(text, m_parent);
+}
