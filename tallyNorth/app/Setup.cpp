@@ -1,0 +1,106 @@
+#include "Setup.h"
+
+#include "SqlStatement.h"
+#include "SqlValue.h"
+
+#include <QCoreApplication>
+#include <QSqlRecord>
+
+Result Setup::load()
+{
+    m_values.clear();
+    m_changed.clear();
+    SqlStatement st(QStringLiteral("select * from SETUP"));
+    if (!st.exec())
+        return st.failure(QCoreApplication::translate("Setup", "Error loading setup data."));
+    const QSqlRecord record = st.query().record();
+    const bool hasRow = st.next();
+    for (int i = 0; i < record.count(); ++i)
+        m_values.insert(record.fieldName(i), hasRow ? st.value(i) : QVariant());
+    return Result::success();
+}
+
+QVariant Setup::value(const char* column) const
+{
+    return m_values.value(QString::fromLatin1(column));
+}
+
+QString Setup::text(const char* column) const
+{
+    const QVariant v = value(column);
+    return v.isNull() ? QString() : v.toString();
+}
+
+bool Setup::flag(const char* column) const
+{
+    return IsFlagSet(value(column));
+}
+
+qint64 Setup::integer(const char* column, qint64 fallback) const
+{
+    return ToInteger(value(column), fallback);
+}
+
+double Setup::number(const char* column, double fallback) const
+{
+    return ToNumber(value(column), fallback);
+}
+
+void Setup::set(const char* column, const QVariant& value)
+{
+    const QString name = QString::fromLatin1(column);
+    m_values.insert(name, value);
+    if (!m_changed.contains(name))
+        m_changed << name;
+}
+
+void Setup::setFlag(const char* column, bool on)
+{
+    set(column, FlagText(on));
+}
+
+Result Setup::save()
+{
+    if (m_changed.isEmpty())
+        return Result::success();
+    const Result r = save(m_changed);
+    if (r)
+        m_changed.clear();
+    return r;
+}
+
+Result Setup::save(const QStringList& columns)
+{
+    QHash<QString, QVariant> values;
+    for (const QString& c : columns)
+        values.insert(c, m_values.value(c));
+    return write(values);
+}
+
+Result Setup::write(const QHash<QString, QVariant>& values)
+{
+    if (values.isEmpty())
+        return Result::success();
+    QStringList names = values.keys();
+    names.sort();
+    QStringList assignments;
+    QVariantList binds;
+    for (const QString& name : std::as_const(names)) {
+        assignments << name + QLatin1String(" = ?");
+        binds << values.value(name);
+    }
+    // A database made before the row existed gets it on first save.
+    if (SelectValue(QStringLiteral("select count(*) from SETUP")).toInt() == 0
+        && !ExecSql(QStringLiteral("insert into SETUP (SETUP_NAME) values (NULL)")))
+        return Result::failure(QCoreApplication::translate("Setup", "Unable to update SETUP record."));
+    SqlStatement st(QStringLiteral("UPDATE SETUP SET ") + assignments.join(u','), binds);
+    if (!st.exec())
+        return st.failure(QCoreApplication::translate("Setup", "Unable to update SETUP record."));
+    return Result::success();
+}
+
+Setup& Setup::current()
+{
+    static Setup setup;
+    return setup;
+}
