@@ -1,14 +1,82 @@
 // The command-line front end: works on a company database without a window.
+#include "Cli.h"
+#include "CliInteraction.h"
+
+#include "app/BaseFolder.h"
 #include "app/Language.h"
 
-#include <QCoreApplication>
-#include <QTextStream>
+#include <QGuiApplication>
+
+#include <cstring>
+#include <iterator>
+
+// Each subsystem's verbs live in a file of their own; the table below lists them all.
+const CliCommand kCommands[] = {
+    {"version", "version", [](CliContext& c, const QStringList&) {
+         *c.out << QCoreApplication::applicationVersion() << Qt::endl;
+         return int(ExitOk);
+     }},
+};
+
+void PrintMessage(CliContext& context, const QString& text)
+{
+    *context.err << PlainMessage(text) << Qt::endl;
+}
+
+namespace {
+
+int Usage(QTextStream& err)
+{
+    err << "usage: tallynorth-cli [--base DIR] [--db FILE] [--lang hu|en] COMMAND [ARGS]\n";
+    for (const CliCommand& c : kCommands)
+        err << "  " << c.usage << '\n';
+    err.flush();
+    return ExitUsage;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication app(argc, argv);
+    // Documents are rendered with QtGui; no window is ever shown.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyNorth"));
     QCoreApplication::setApplicationVersion(QStringLiteral("3.0.4"));
-    QTextStream(stderr) << "usage: tallynorth-cli [--base DIR] [--db FILE] [--lang hu|en] COMMAND [ARGS]\n";
-    return 2;
+
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    QStringList args = QCoreApplication::arguments().mid(1);
+    QString base;
+    CliContext context;
+    while (!args.isEmpty() && args.first().startsWith(QLatin1String("--"))) {
+        const QString option = args.takeFirst();
+        if (args.isEmpty())
+            return Usage(err);
+        if (option == QLatin1String("--base"))
+            base = args.takeFirst();
+        else if (option == QLatin1String("--db"))
+            context.dbPath = args.takeFirst();
+        else if (option == QLatin1String("--lang"))
+            context.language = args.takeFirst();
+        else
+            return Usage(err);
+    }
+    if (args.isEmpty())
+        return Usage(err);
+    BaseFolder::set(ResolveBaseFolder(base));
+    context.language = ChooseLanguage(context.language);
+    InstallLanguage(context.language);
+
+    CliInteraction interaction(err);
+    context.interaction = &interaction;
+    context.out = &out;
+    context.err = &err;
+    const QString verb = args.takeFirst();
+    for (const CliCommand& c : kCommands) {
+        if (verb == QLatin1String(c.name))
+            return c.run(context, args);
+    }
+    return Usage(err);
 }

@@ -1,0 +1,30 @@
+// The command-line front end's shared pieces: the context every verb runs in.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTextStream>
+
+class Interaction;
+
+struct CliContext
+{
+    QString dbPath;  // --db FILE, empty when not given
+    QString language;
+    Interaction* interaction = nullptr;
+    QTextStream* out = nullptr;
+    QTextStream* err = nullptr;
+};
+
+enum CliExit { ExitOk = 0, ExitFailure = 1, ExitUsage = 2 };
+
+// One verb: its name, a one-line usage and the function that runs it with its own arguments.
+struct CliCommand
+{
+    const char* name;
+    const char* usage;
+    int (*run)(CliContext& context, const QStringList& args);
+};
+
+// Prints a message of the system on standard error: "&" is a line break, formatting dropped.
+void PrintMessage(CliContext& context, const QString& text);
