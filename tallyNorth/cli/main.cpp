@@ -1,9 +1,11 @@
 // The command-line front end: works on a company database without a window.
 #include "Cli.h"
 #include "CliInteraction.h"
+#include "DocumentCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
+#include "documents/MessageText.h"
 
 #include <QGuiApplication>
 
@@ -12,15 +14,20 @@
 
 // Each subsystem's verbs live in a file of their own; the table below lists them all.
 const CliCommand kCommands[] = {
-    {"version", "version", [](CliContext& c, const QStringList&) {
+    {"version", "version",
+     [](CliContext& c, const QStringList&) {
          *c.out << QCoreApplication::applicationVersion() << Qt::endl;
          return int(ExitOk);
      }},
+    {"qtf",
+     "qtf FILE [--header FILE] [--footer FILE] [--page WxH] [--shift-mm X,Y] --pdf OUT | --text",
+     RunQtfCommand},
+    {"template", "template check DIR | template install DIR", RunTemplateCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
 {
-    *context.err << PlainMessage(text) << Qt::endl;
+    *context.err << MessagePlainText(text) << Qt::endl;
 }
 
 namespace {

@@ -1,17 +1,13 @@
 #include "GuiInteraction.h"
 
+#include "documents/MessageText.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 
 namespace {
-
-// The system's message texts use "&" as a line break.
-QString MessageHtml(const QString& text)
-{
-    return text.toHtmlEscaped().replace(QLatin1String("&amp;"), QLatin1String("<br>"));
-}
 
 class DialogProgress : public Progress
 {
@@ -43,29 +39,29 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
     const QString title = QApplication::applicationDisplayName();
     switch (kind) {
     case MessageKind::Info:
-        QMessageBox::information(m_parent, title, MessageHtml(text));
+        QMessageBox::information(m_parent, title, MessageRichText(text));
         break;
     case MessageKind::Exclamation:
-        QMessageBox::warning(m_parent, title, MessageHtml(text));
+        QMessageBox::warning(m_parent, title, MessageRichText(text));
         break;
     case MessageKind::Error:
-        QMessageBox::critical(m_parent, title, MessageHtml(text));
+        QMessageBox::critical(m_parent, title, MessageRichText(text));
         break;
     }
 }
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(), MessageHtml(text),
-                                 QMessageBox::Yes | QMessageBox::No)
-        == QMessageBox::Yes;
+    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(),
+                                 MessageRichText(text),
+                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(), MessageHtml(text),
-                    QMessageBox::NoButton, m_parent);
+    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
+                    MessageRichText(text), QMessageBox::NoButton, m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);
@@ -82,7 +78,8 @@ bool GuiInteraction::sqlError(const QString& error, const QString& statement)
     QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
                     QApplication::translate("SqlErrorLayout", "SQL error:") + u'\n' + error,
                     QMessageBox::Retry | QMessageBox::Cancel, m_parent);
-    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' + statement);
+    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' +
+                        statement);
     return box.exec() == QMessageBox::Retry;
 }
 

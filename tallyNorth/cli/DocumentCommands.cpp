@@ -1,0 +1,199 @@
+#include "DocumentCommands.h"
+
+#include "app/Database.h"
+#include "app/MessageArgs.h"
+#include "app/Setup.h"
+#include "app/SqlTransaction.h"
+#include "documents/InvoiceTemplate.h"
+#include "documents/QtfReader.h"
+#include "documents/Report.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <optional>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("DocumentCommands", text);
+}
+
+std::optional<QString> ReadQtfFile(CliContext& context, const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        PrintMessage(context, FillArgs(tr("Unable to read file %s."), {QtfEscape(path)}));
+        return std::nullopt;
+    }
+    return QtfTopicBody(QString::fromUtf8(file.readAll()));
+}
+
+// "WxH" in dots.
+std::optional<QSize> ParseSize(const QString& text)
+{
+    const QStringList parts = text.split(u'x');
+    bool okW = false;
+    bool okH = false;
+    const int w = parts.value(0).toInt(&okW);
+    const int h = parts.value(1).toInt(&okH);
+    if (parts.size() != 2 || !okW || !okH || w < 100 || h < 100 || w > 100000 || h > 100000)
+        return std::nullopt;
+    return QSize(w, h);
+}
+
+// "X,Y" in millimetres.
+std::optional<QPointF> ParseShift(const QString& text)
+{
+    const QStringList parts = text.split(u',');
+    bool okX = false;
+    bool okY = false;
+    const double x = parts.value(0).toDouble(&okX);
+    const double y = parts.value(1).toDouble(&okY);
+    if (parts.size() != 2 || !okX || !okY || std::abs(x) > 1000 || std::abs(y) > 1000)
+        return std::nullopt;
+    return QPointF(x, y);
+}
+
+struct QtfOptions
+{
+    QString file;
+    QString header;
+    QString footer;
+    QString pdf;
+    bool text = false;
+    QSize page = Report::kDefaultPage;
+    QPointF shift;
+};
+
+std::optional<QtfOptions> ParseQtfOptions(QStringList args)
+{
+    QtfOptions o;
+    while (!args.isEmpty()) {
+        const QString a = args.takeFirst();
+        if (a == QLatin1String("--text")) {
+            o.text = true;
+            continue;
+        }
+        if (!a.startsWith(QLatin1String("--"))) {
+            if (!o.file.isEmpty())
+                return std::nullopt;
+            o.file = a;
+            continue;
+        }
+        if (args.isEmpty())
+            return std::nullopt;
+        const QString value = args.takeFirst();
+        if (a == QLatin1String("--header"))
+            o.header = value;
+        else if (a == QLatin1String("--footer"))
+            o.footer = value;
+        else if (a == QLatin1String("--pdf"))
+            o.pdf = value;
+        else if (a == QLatin1String("--page") && ParseSize(value))
+            o.page = *ParseSize(value);
+        else if (a == QLatin1String("--shift-mm") && ParseShift(value))
+            o.shift = *ParseShift(value);
+        else
+            return std::nullopt;
+    }
+    if (o.file.isEmpty() || o.text == !o.pdf.isEmpty())
+        return std::nullopt;
+    return o;
+}
+
+std::optional<QString> ReadOptionalFile(CliContext& context, const QString& path)
+{
+    return path.isEmpty() ? std::optional<QString>(QString()) : ReadQtfFile(context, path);
+}
+
+int TemplateCheck(CliContext& context, const QString& dir)
+{
+    const InvoiceTemplate t = LoadTemplateDir(dir);
+    *context.out << tr("Computed digest: ") << t.computeDigest() << Qt::endl
+                 << tr("Digest in invoice.cfg: ") << t.digest() << Qt::endl
+                 << (t.certified() ? tr("Certified: yes") : tr("Certified: no")) << Qt::endl;
+    return t.certified() ? ExitOk : ExitFailure;
+}
+
+int TemplateInstall(CliContext& context, const QString& dir)
+{
+    if (context.dbPath.isEmpty() || !QFileInfo::exists(context.dbPath)) {
+        PrintMessage(context, tr("Give an existing company database with --db FILE."));
+        return ExitUsage;
+    }
+    const Result opened = Database::open(context.dbPath);
+    if (!opened) {
+        PrintMessage(context, opened.message());
+        return ExitFailure;
+    }
+    const InvoiceTemplate t = LoadTemplateDir(dir);
+    SqlTransaction transaction;
+    Result r = SaveTemplateToSetup(t);
+    if (r) {
+        r = Setup::write(
+            {{QStringLiteral("SETUP_INVOICE_CURR_TMPL_DIR"), QFileInfo(dir).absoluteFilePath()}});
+    }
+    if (!r || !transaction.commit()) {
+        PrintMessage(context, r ? tr("Unable to save data.") : r.message());
+        return ExitFailure;
+    }
+    if (!t.certified())
+        PrintMessage(context, tr("The template is installed, but it is not certified: invoices "
+                                 "can't be printed with it."));
+    return ExitOk;
+}
+
+} // namespace
+
+int RunQtfCommand(CliContext& context, const QStringList& args)
+{
+    const std::optional<QtfOptions> o = ParseQtfOptions(args);
+    if (!o) {
+        *context.err << "usage: qtf FILE [--header FILE] [--footer FILE] [--page WxH] "
+                        "[--shift-mm X,Y] --pdf OUT | --text"
+                     << Qt::endl;
+        return ExitUsage;
+    }
+    const auto body = ReadQtfFile(context, o->file);
+    const auto header = ReadOptionalFile(context, o->header);
+    const auto footer = ReadOptionalFile(context, o->footer);
+    if (!body || !header || !footer)
+        return ExitFailure;
+    if (o->text) {
+        *context.out << QtfToPlainText(*body) << Qt::endl;
+        return ExitOk;
+    }
+    Report report;
+    report.setPageSize(o->page);
+    report.setShift(o->shift);
+    report.setHeader(*header);
+    report.setFooter(*footer);
+    report.setBody(*body);
+    const Result r = report.exportPdf(o->pdf, QFileInfo(o->file).completeBaseName());
+    if (!r) {
+        PrintMessage(context, r.message());
+        return ExitFailure;
+    }
+    return ExitOk;
+}
+
+int RunTemplateCommand(CliContext& context, const QStringList& args)
+{
+    if (args.size() != 2 ||
+        (args[0] != QLatin1String("check") && args[0] != QLatin1String("install"))) {
+        *context.err << "usage: template check DIR | template install DIR" << Qt::endl;
+        return ExitUsage;
+    }
+    if (!QFileInfo(args[1]).isDir()) {
+        PrintMessage(context,
+                     FillArgs(tr("Template directory %s does not exist."), {QtfEscape(args[1])}));
+        return ExitFailure;
+    }
+    return args[0] == QLatin1String("check") ? TemplateCheck(context, args[1])
+                                             : TemplateInstall(context, args[1]);
+}
