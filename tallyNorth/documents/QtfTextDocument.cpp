@@ -149,7 +149,8 @@ private:
     QTextCharFormat charFormat(const CharFormat& f) const;
     QTextImageFormat objectFormat(const Run& run);
     QString numberLabel(const ParaFormat& f);
-    void markFiller(QTextCursor& cursor) const;
+    void markFiller(QTextCursor& cursor);
+    void setBlockCharFormat(QTextCursor& cursor, const QTextCharFormat& format);
     double units(double dots) const { return dots * m_unit; }
 
     QTextDocument& m_doc;
@@ -159,10 +160,21 @@ private:
     int m_counters[8] = {};
     QTextList* m_list = nullptr;
     Bullet m_listBullet = Bullet::None;
+    bool m_cellStart = false;
 };
 
+// The first block of a table cell carries the cell's format as its character format.
+void Builder::setBlockCharFormat(QTextCursor& cursor, const QTextCharFormat& format)
+{
+    if (m_cellStart)
+        cursor.mergeBlockCharFormat(format);
+    else
+        cursor.setBlockCharFormat(format);
+    m_cellStart = false;
+}
+
 // Qt keeps a block before and after every table; in QTF there is none, so they get no height.
-void Builder::markFiller(QTextCursor& cursor) const
+void Builder::markFiller(QTextCursor& cursor)
 {
     QTextBlockFormat bf;
     bf.setLineHeight(0, QTextBlockFormat::FixedHeight);
@@ -170,7 +182,7 @@ void Builder::markFiller(QTextCursor& cursor) const
     cursor.setBlockFormat(bf);
     QTextCharFormat cf;
     cf.setFontPointSize(0.05);
-    cursor.setBlockCharFormat(cf);
+    setBlockCharFormat(cursor, cf);
 }
 
 void Builder::flow(QTextCursor& cursor, const QList<Block>& blocks, double width)
@@ -201,6 +213,9 @@ void Builder::flow(QTextCursor& cursor, const QList<Block>& blocks, double width
         if (!blockFree)
             cursor.insertBlock();
         paragraph(cursor, b.paragraph, width, gap, i == 0, !next || next->isTable());
+        // Qt gives an empty block beside a table no height; an empty QTF paragraph has one.
+        if (b.paragraph.runs.isEmpty() && (afterTable || (next && next->isTable())))
+            cursor.insertText(QString(QChar(0x200B)), charFormat(b.paragraph.endFormat));
         blockFree = false;
     }
     if (blockFree)
@@ -223,7 +238,7 @@ void Builder::paragraph(QTextCursor& cursor, const Paragraph& p, double width, d
         cursor.setBlockFormat(spacer);
         QTextCharFormat tiny;
         tiny.setFontPointSize(0.05);
-        cursor.setBlockCharFormat(tiny);
+        setBlockCharFormat(cursor, tiny);
         cursor.insertBlock();
         bf.setPageBreakPolicy(QTextFormat::PageBreak_Auto);
     } else {
@@ -238,7 +253,7 @@ void Builder::paragraph(QTextCursor& cursor, const Paragraph& p, double width, d
                                     units(f.leftMargin)});
     }
     cursor.setBlockFormat(bf);
-    cursor.setBlockCharFormat(charFormat(p.endFormat));
+    setBlockCharFormat(cursor, charFormat(p.endFormat));
 
     const bool listed = f.bullet != Bullet::None && f.bullet != Bullet::Text;
     if (listed) {
@@ -546,16 +561,17 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     cf.setBottomBorderBrush(color[3]);
     cf.setBottomBorderStyle(style(3));
     QTextTableCell qcell = table->cellAt(row, col);
+    QTextTableCellFormat full = qcell.format().toTableCellFormat(); // keeps the spans
+    full.merge(cf);
+    qcell.setFormat(full);
     int share = 0;
     for (int c = col; c <= std::min(col + f.hspan, cols - 1); ++c)
         share += tf.widths.at(c);
     const double contentWidth = tableWidth * share / 10000.0 - f.margin[0] - f.margin[2];
     QTextCursor cursor = qcell.firstCursorPosition();
+    m_cellStart = true;
     flow(cursor, cell.blocks, std::max(contentWidth, 1.0));
-    // The cell's format is the character format of its first block: set it last.
-    QTextCharFormat merged = qcell.format();
-    merged.merge(cf);
-    qcell.setFormat(merged);
+    m_cellStart = false;
 
     // A minimum height lifts the first line of a one-line cell.
     if (f.minHeight > 0 && cell.blocks.size() == 1 && !cell.blocks.first().isTable()) {

@@ -320,7 +320,8 @@ void Report::paintPage(QPainter& painter, int page) const
     painter.setClipRect(QRectF(-width, 0, 3 * width, s.bodyHeight), Qt::IntersectClip);
     painter.translate(0, -local * s.bodyHeight);
     QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = QRectF(-width, local * s.bodyHeight, 3 * width, s.bodyHeight);
+    // Qt also draws what only touches the clip's edge: the next page's first line.
+    context.clip = QRectF(-width, local * s.bodyHeight, 3 * width, s.bodyHeight - 0.5);
     context.palette.setColor(QPalette::Text, Qt::black);
     s.doc->documentLayout()->draw(&painter, context);
     PaintQtfExtras(painter, *s.doc, context.clip);

@@ -78,8 +78,7 @@ bool GuiInteraction::sqlError(const QString& error, const QString& statement)
     QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
                     QApplication::translate("SqlErrorLayout", "SQL error:") + u'\n' + error,
                     QMessageBox::Retry | QMessageBox::Cancel, m_parent);
-    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' +
-                        statement);
+    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' + statement);
     return box.exec() == QMessageBox::Retry;
 }
 
