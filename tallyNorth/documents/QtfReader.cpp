@@ -11,9 +11,10 @@ namespace {
 
 // Limits that keep hostile input from exhausting the stack or memory; real documents stay far
 // below them.
-constexpr int kMaxTableDepth = 24;
+constexpr int kMaxTableDepth = 12; // Qt lays nested tables out in time doubling per level
 constexpr int kMaxColumns = 200;
 constexpr qint64 kNumberLimit = 1000000;
+constexpr int kMaxObjectSize = 100000;
 
 bool IsDigit(QChar c)
 {
@@ -362,7 +363,7 @@ void Parser::object(FlowState& f)
     run.kind = Run::Kind::Object;
     run.format = m_fmt.chr;
     run.type = readUntil(u':');
-    run.cx = readInt(0, int(kNumberLimit));
+    run.cx = readInt(0, kMaxObjectSize);
     if (m_failed)
         return;
     const QChar sep = take();
@@ -371,7 +372,7 @@ void Parser::object(FlowState& f)
         return;
     }
     run.keepRatio = sep == u'&';
-    run.cy = readInt(0, int(kNumberLimit));
+    run.cy = readInt(0, kMaxObjectSize);
     if (!m_failed && cur() == u'/') {
         ++m_pos;
         run.lower = readInt(-int(kNumberLimit), int(kNumberLimit), true);

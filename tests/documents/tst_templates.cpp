@@ -81,13 +81,13 @@ void TestTemplates::parse_data()
     QTest::newRow("one") << "Net: !ORDERHEAD.TOTAL.NET! Ft" << QStringList{"ORDERHEAD.TOTAL.NET"}
                          << "Net: | Ft";
     QTest::newRow("two in a row") << "!A!!B!" << QStringList{"A", "B"} << "||";
-    QTest::newRow("exclamation before space") << "Thank you! Come again!"
-                                              << QStringList{} << "Thank you! Come again!";
+    QTest::newRow("exclamation before space")
+        << "Thank you! Come again!" << QStringList{} << "Thank you! Come again!";
     QTest::newRow("exclamation before punctuation") << "Hi!, !X!" << QStringList{"X"} << "Hi!, |";
     QTest::newRow("empty name is text") << "a !! b" << QStringList{} << "a !! b";
     QTest::newRow("empty name then name") << "!!X!" << QStringList{} << "!!X!";
-    QTest::newRow("name split by line break") << "!ORDERHEAD.\r\nSUBJECT! x"
-                                              << QStringList{"ORDERHEAD.SUBJECT"} << "| x";
+    QTest::newRow("name split by line break")
+        << "!ORDERHEAD.\r\nSUBJECT! x" << QStringList{"ORDERHEAD.SUBJECT"} << "| x";
     QTest::newRow("unclosed at end") << "total !P.TOTAL" << QStringList{} << "total !P.TOTAL";
     QTest::newRow("QTF around") << "[* !TR.INVOICE!]&[> !P.PAGE!]"
                                 << QStringList{"TR.INVOICE", "P.PAGE"} << "[* |]&[> |]";
@@ -146,7 +146,8 @@ void TestTemplates::placeholderValues_data()
     QTest::newRow("big real has no exponent") << QVariant(1e15) << "1000000000000000" << false;
     QTest::newRow("null number") << QVariant(-1e308) << "" << true;
     QTest::newRow("date") << QVariant(QDate(2024, 3, 5)) << "2024.03.05." << false;
-    QTest::newRow("stored date text") << QVariant(QStringLiteral("2024-03-05")) << "2024-03-05" << false;
+    QTest::newRow("stored date text")
+        << QVariant(QStringLiteral("2024-03-05")) << "2024-03-05" << false;
 }
 
 void TestTemplates::placeholderValues()
@@ -194,7 +195,8 @@ void TestTemplates::loadDirectory()
     for (int i = 0; i < InvoiceTemplate::kPieces; ++i) {
         const Piece p = Piece(i);
         if (p != Piece::Signings)
-            WriteFile(dir.filePath(QString::fromLatin1(InvoiceTemplate::fileName(p))), known.text(p).toUtf8());
+            WriteFile(dir.filePath(QString::fromLatin1(InvoiceTemplate::fileName(p))),
+                      known.text(p).toUtf8());
     }
     WriteFile(dir.filePath(QStringLiteral("invoice.cfg")),
               "# made by hand\r\nName=Test\r\nDigest = " + kKnownDigest.toLatin1() + "\r\n");
@@ -297,7 +299,8 @@ void TestTemplates::messages()
     QVERIFY(html.contains(QStringLiteral("Done &amp; ok")));
     QCOMPARE(html.count(QStringLiteral("<p ")), 4);
     // A message's own "[G1 ...]" block means the same as the box's font.
-    const QString wrapped = MessageRichText(QStringLiteral("[G1 The partner`'s data has changed.&What?]"));
+    const QString wrapped =
+        MessageRichText(QStringLiteral("[G1 The partner`'s data has changed.&What?]"));
     QVERIFY(wrapped.contains(QStringLiteral("The partner's data has changed.")));
     QVERIFY(!wrapped.contains(QStringLiteral("ERROR")));
     QCOMPARE(MessagePlainText(QStringLiteral("[G1 a&b]")), QStringLiteral("a\nb"));
