@@ -13,6 +13,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -120,6 +121,82 @@ void ApplyKeeps(QTextDocument& doc, double pageHeight)
             return;
         BreakBefore(items.at(target));
         doc.documentLayout()->documentSize(); // lays out again
+    }
+}
+
+// The first row of a top-level table whose lines a page end divides: Qt would print it in two
+// parts. Rows taller than most of a page are left to be divided.
+std::pair<int, int> SplitRow(QTextDocument& doc, double pageHeight)
+{
+    QAbstractTextDocumentLayout* layout = doc.documentLayout();
+    const auto page = [&](double y) { return int(std::floor(y / pageHeight)); };
+    int index = -1;
+    for (QTextFrame* frame : doc.rootFrame()->childFrames()) {
+        auto* table = qobject_cast<QTextTable*>(frame);
+        if (!table)
+            continue;
+        ++index;
+        for (int r = table->format().headerRowCount(); r < table->rows(); ++r) {
+            double top = 1e300;
+            double bottom = -1e300;
+            for (int c = 0; c < table->columns(); ++c) {
+                const QTextTableCell cell = table->cellAt(r, c);
+                if (cell.row() != r || cell.column() != c || cell.rowSpan() > 1)
+                    continue;
+                for (QTextBlock b = doc.findBlock(cell.firstPosition());
+                     b.isValid() && b.position() <= cell.lastPosition(); b = b.next()) {
+                    const QRectF rect = layout->blockBoundingRect(b);
+                    if (rect.height() <= 0)
+                        continue;
+                    top = std::min(top, rect.top());
+                    bottom = std::max(bottom, rect.bottom());
+                }
+            }
+            if (top < bottom && page(top) != page(bottom - 1) && bottom - top < pageHeight * 0.8)
+                return {index, r};
+        }
+    }
+    return {-1, -1};
+}
+
+// Cuts a top-level table before row: the rest, under a copy of the header rows, becomes a
+// table of its own that starts a page.
+void SplitTable(Qtf::Document& doc, int tableIndex, int row)
+{
+    int index = -1;
+    for (qsizetype i = 0; i < doc.blocks.size(); ++i) {
+        if (!doc.blocks[i].isTable() || ++index != tableIndex)
+            continue;
+        Qtf::Table& first = *doc.blocks[i].table;
+        auto rest = std::make_shared<Qtf::Table>();
+        rest->format = first.format;
+        rest->format.before = 0;
+        first.format.after = 0;
+        const int header = std::min<int>(first.format.headerRows, row);
+        rest->rows = first.rows.mid(0, header) + first.rows.mid(row);
+        first.rows.resize(row);
+        for (int r = 0; r < int(first.rows.size()); ++r) {
+            for (Qtf::Cell& c : first.rows[r])
+                c.format.vspan = std::min(c.format.vspan, int(first.rows.size()) - r - 1);
+        }
+        // Cells that a span from above the cut covered are plain empty cells now.
+        QSet<qint64> covered;
+        const int columns = rest->columns();
+        for (int r = 0; r < int(rest->rows.size()); ++r) {
+            for (int c = 0; c < int(rest->rows[r].size()); ++c) {
+                Qtf::Cell& cell = rest->rows[r][c];
+                cell.covered = covered.contains(qint64(r) * columns + c);
+                for (int dr = 0; !cell.covered && dr <= cell.format.vspan; ++dr) {
+                    for (int dc = 0; dc <= cell.format.hspan; ++dc)
+                        covered.insert(qint64(r + dr) * columns + c + dc);
+                }
+            }
+        }
+        Qtf::Block block;
+        block.table = rest;
+        block.pageBreak = true;
+        doc.blocks.insert(i + 1, block);
+        return;
     }
 }
 
@@ -240,7 +317,7 @@ void Report::layoutSection(Section& s) const
     QtfLayout layout;
     layout.units = QtfUnits::Dots;
     layout.width = m_page.width();
-    const Qtf::Document body = ReadQtf(s.body);
+    Qtf::Document body = ReadQtf(s.body);
     s.usedHeader = s.header.isEmpty() ? body.header : s.header;
     s.usedFooter = s.footer.isEmpty() ? body.footer : s.footer;
     // Heights are measured with the widest page number.
@@ -254,14 +331,21 @@ void Report::layoutSection(Section& s) const
     s.bodyTop = s.usedHeader.isEmpty() ? 0 : s.headerHeight + m_spacing;
     const double bottom = s.usedFooter.isEmpty() ? 0 : s.footerHeight + m_spacing;
     s.bodyHeight = std::max(m_page.height() - s.bodyTop - bottom, m_page.height() / 5.0);
-    s.doc = MakeTextDocument(body, layout);
-    // Qt stretches the last table row before a page break down to the page's bottom margin:
-    // a small one keeps that row's bottom line on the page.
-    QTextFrameFormat root = s.doc->rootFrame()->frameFormat();
-    root.setBottomMargin(kPageBottomMargin);
-    s.doc->rootFrame()->setFrameFormat(root);
-    s.doc->setPageSize(QSizeF(m_page.width(), s.bodyHeight));
-    ApplyKeeps(*s.doc, s.bodyHeight);
+    // Each round moves one table row that a page end would cut in two to the next page.
+    for (int round = 0; round < 500; ++round) {
+        s.doc = MakeTextDocument(body, layout);
+        // Qt stretches the last table row before a page break down to the page's bottom
+        // margin: a small one keeps that row's bottom line on the page.
+        QTextFrameFormat root = s.doc->rootFrame()->frameFormat();
+        root.setBottomMargin(kPageBottomMargin);
+        s.doc->rootFrame()->setFrameFormat(root);
+        s.doc->setPageSize(QSizeF(m_page.width(), s.bodyHeight));
+        ApplyKeeps(*s.doc, s.bodyHeight);
+        const auto [table, row] = SplitRow(*s.doc, s.bodyHeight);
+        if (table < 0)
+            break;
+        SplitTable(body, table, row);
+    }
     s.pages = std::max(1, s.doc->pageCount());
 }
 

@@ -8,10 +8,16 @@
 #include "documents/InvoiceTemplate.h"
 #include "documents/MessageText.h"
 #include "documents/PlaceholderMap.h"
+#include "documents/QtfReader.h"
+#include "documents/Report.h"
 #include "documents/TemplateText.h"
 
+#include <QBuffer>
 #include <QDate>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -71,6 +77,7 @@ private Q_SLOTS:
     void formatAmount_data();
     void formatAmount();
     void messages();
+    void shippedTemplatePrintsAnInvoice();
 };
 
 void TestTemplates::parse_data()
@@ -304,6 +311,167 @@ void TestTemplates::messages()
     QVERIFY(wrapped.contains(QStringLiteral("The partner's data has changed.")));
     QVERIFY(!wrapped.contains(QStringLiteral("ERROR")));
     QCOMPARE(MessagePlainText(QStringLiteral("[G1 a&b]")), QStringLiteral("a\nb"));
+}
+
+namespace {
+
+// What the invoice renderer puts into the map, for a sample forint invoice of a German partner:
+// texts escaped for QTF, amounts formatted, labels bilingual.
+PlaceholderMap SampleOrder()
+{
+    PlaceholderMap m;
+    const auto text = [&m](const char* name, const QString& value) {
+        m.set(QString::fromLatin1(name), QtfEscape(value));
+    };
+    text("SETUP.NAME", QStringLiteral("Példa & Társa Kft."));
+    text("SETUP.ZIP", QStringLiteral("9021"));
+    text("SETUP.CITY", QStringLiteral("Győr"));
+    text("SETUP.ADDRESS", QStringLiteral("Árpád út 1."));
+    text("X.TAX.DATA", QStringLiteral("Adószám: 12345678-2-08\nKözösségi adószám: HU12345678"));
+    text("X.BANK.DATA", QStringLiteral("Számlavezető: OTP Bank\nBankszámla: 11737007-20000000"));
+    text("ORDERHEAD.PARTNER.NAME", QStringLiteral("Müller GmbH"));
+    text("ORDERHEAD.PARTNER.ZIP", QStringLiteral("80331"));
+    text("ORDERHEAD.PARTNER.CITY", QStringLiteral("München"));
+    text("ORDERHEAD.PARTNER.ADDRESS", QStringLiteral("Hauptstraße 5."));
+    text("ORDERHEAD.PARTNER.COUNTRY.NAME", QStringLiteral("Németország"));
+    text("X.PARNER.OTHER.DATA", QStringLiteral("USt-IdNr / Közösségi adószám: DE123456789"));
+    text("ORDERHEAD.DATE.SHIPPED", QStringLiteral("2024.03.05."));
+    text("ORDERHEAD.DATE.CREATED", QStringLiteral("2024.03.05."));
+    text("ORDERHEAD.DATE.PAYMENT.DUE", QStringLiteral("2024.03.13."));
+    text("TR.ORDERHEAD.PAYMENTMETHOD.NAME", QStringLiteral("Überweisung / Átutalás"));
+    text("ORDERHEAD.SUBJECT", QStringLiteral("Alkatrészek (2024/03)"));
+    text("ORDERHEAD.CURRENCY.ABBREVIATION", QStringLiteral("Ft"));
+    text("P.APPLICATION", QStringLiteral("tallyNorth 3.0.4"));
+    text("P.DEVELOPEER", QStringLiteral("tallynorth.example"));
+    text("P.TOTAL.GROSS.TEXT.FULL",
+         QStringLiteral("Bruttó végösszeg: kettőszázhuszonnyolcezer-kilencszázhuszonöt Ft"));
+    m.set(QStringLiteral("ORDERHEAD.TOTAL.NET"), FormatAmount(180256, 0));
+    m.set(QStringLiteral("ORDERHEAD.TOTAL.VAT"), FormatAmount(48669, 0));
+    m.set(QStringLiteral("ORDERHEAD.TOTAL.GROSS"), FormatAmount(228925, 0));
+    m.set(QStringLiteral("P.PAGE"), QStringLiteral("$$P"));
+    const QStringList labels = {"TR.ISSUED.BY=Lieferant / Szállító",
+                                "TR.BILL.TO=Firma/Kundenname / Vevő",
+                                "TR.CUSTOMER=Kunde / Vevő",
+                                "TR.SHIPPING.DATE=Liefertermin / Teljesítés",
+                                "TR.INVOICE.DATE=Datum / Kelt",
+                                "TR.PAYMENT.DUE=Fälligkeitsdatum / Fizetési határidő",
+                                "TR.PAYMENT.METHOD=Zahlungsart / Fizetési mód",
+                                "TR.SUBJECT=Thema / Tárgy",
+                                "TR.DESCRIPTION=Bezeichnung / Megnevezés",
+                                "TR.STAT.CODE=VTSZ/SZJ",
+                                "TR.QUANTITY=Menge / Mennyiség",
+                                "TR.UNIT.PRICE=Einheitspreis / Egységár",
+                                "TR.SUBTOTAL.NET=Netto / Nettó össz.",
+                                "TR.VAT=MwSt / ÁFA",
+                                "TR.VAT.TOTAL=MwStbetrag / ÁFA érték",
+                                "TR.SUBTOTAL.GROSS=Brutto / Bruttó",
+                                "TR.NET.TOTAL=Summe Netto / Nettó érték összesen",
+                                "TR.VAT.TOTAL.IN.TOTALS=Summe MwSt / Áthárított ÁFA összesen",
+                                "TR.GROSS.TOTAL=Gesamtbetrag / A számla bruttó végösszege",
+                                "TR.VAT.PERCENT=MwStsatz / ÁFA kulcs",
+                                "TR.VAT.BASE=Nettobetrag / ÁFA alap",
+                                "TR.GROSS=Brutto / Bruttó",
+                                "TR.INVOICE.NO=Zeilennummer / Sorszám",
+                                "TR.COPY=Exemplar / példány",
+                                "TR.PAGE=Seite / oldal"};
+    for (const QString& l : labels)
+        m.set(l.section(u'=', 0, 0), QtfEscape(l.section(u'=', 1)));
+    return m;
+}
+
+QString LogoObject()
+{
+    QImage logo(120, 40, QImage::Format_RGB32);
+    logo.fill(QColor(20, 70, 140));
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    logo.save(&buffer, "PNG");
+    return QStringLiteral("@@PNG:1200&400(%1)").arg(QString::fromLatin1(png.toBase64()));
+}
+
+} // namespace
+
+// The template set shipped with the program is certified and prints a complete invoice.
+void TestTemplates::shippedTemplatePrintsAnInvoice()
+{
+    const InvoiceTemplate t = LoadTemplateDir(QStringLiteral(TN_TEMPLATE_DIR));
+    QVERIFY(t.certified());
+    PlaceholderMap order = SampleOrder();
+    QString items = t.parsed(Piece::ItemHeader).fill(order);
+    for (int i = 1; i <= 30; ++i) {
+        PlaceholderMap item;
+        item.set(QStringLiteral("TR.ORDERITEM.NAME"),
+                 QtfEscape(QStringLiteral("Zahnrad %1 / Fogaskerék %1").arg(i)));
+        item.set(QStringLiteral("ORDERITEM.STAT.NO"), QStringLiteral("8483"));
+        item.set(QStringLiteral("ORDERITEM.QTY"), FormatAmount(i, 0));
+        item.set(QStringLiteral("TR.ORDERITEM.UNIT"), QStringLiteral("Stk / db"));
+        item.set(QStringLiteral("ORDERITEM.PRICE"), FormatAmount(1250.5, 2));
+        item.set(QStringLiteral("ORDERITEM.TOTAL.NET"), FormatAmount(1250.5 * i, 2));
+        item.set(QStringLiteral("C.ORDERITEM.VAT.PERCENT"), QStringLiteral("27%"));
+        item.set(QStringLiteral("ORDERITEM.TOTAL.VAT"), FormatAmount(1250.5 * i * 0.27, 2));
+        item.set(QStringLiteral("ORDERITEM.TOTAL.GROSS"), FormatAmount(1250.5 * i * 1.27, 2));
+        item.set(QStringLiteral("TR.ORDERITEM.COMMENT"),
+                 QtfEscape(QStringLiteral("Lieferung in 2 Teilen")));
+        items += t.parsed(Piece::Item1).fill(item);
+        if (i % 10 == 0)
+            items += t.parsed(Piece::Item2).fill(item);
+    }
+    order.set(QStringLiteral("P.ITEMS"), items);
+    PlaceholderMap vat;
+    vat.set(QStringLiteral("VATDETAIL.NAME"), QStringLiteral("27%"));
+    vat.set(QStringLiteral("VATDETAIL.NET"), FormatAmount(180256, 0));
+    vat.set(QStringLiteral("VATDETAIL.VAT"), FormatAmount(48669, 0));
+    vat.set(QStringLiteral("VATDETAIL.GROSS"), FormatAmount(228925, 0));
+    order.set(QStringLiteral("P.VATDETAIL"), QString(t.parsed(Piece::VatDetailHeader).fill(order) +
+                                                     t.parsed(Piece::VatDetail).fill(vat)));
+    order.set(QStringLiteral("P.SIGNINGS"), t.parsed(Piece::Signings).fill(order));
+    for (const char* mark : {"P.LOGO", "P.TITLE", "P.INVOICE.NO.STR", "P.COPY"})
+        order.set(QString::fromLatin1(mark), QStringLiteral("!%1!").arg(QString::fromLatin1(mark)));
+
+    // Frozen at issue, then the per-copy marks of the first copy.
+    PlaceholderMap copy;
+    copy.set(QStringLiteral("P.LOGO"), LogoObject());
+    copy.set(QStringLiteral("P.TITLE"), QStringLiteral("Számla / Rechnung"));
+    copy.set(QStringLiteral("P.INVOICE.NO.STR"), QStringLiteral("TN-2024/000017"));
+    copy.set(QStringLiteral("P.COPY"), QStringLiteral("1. (Original/eredeti)"));
+    const auto twice = [&](Piece piece) {
+        return TemplateText::parse(t.parsed(piece).fill(order)).fill(copy);
+    };
+    const QString header = twice(Piece::Header);
+    const QString body = twice(Piece::Body);
+    const QString footer = twice(Piece::Footer);
+    for (const QString& qtf : {header, body, footer}) {
+        const QString error =
+            ReadQtf(QString(qtf).replace(QStringLiteral("$$P"), QStringLiteral("1"))).error;
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+    }
+
+    Report report;
+    report.setHeader(header);
+    report.setBody(body);
+    report.setFooter(footer);
+    QTemporaryDir dir;
+    const QString snapshots = qEnvironmentVariable("TALLYNORTH_SNAPSHOT_DIR");
+    const QString pdf =
+        (snapshots.isEmpty() ? dir.path() : snapshots) + QStringLiteral("/invoice.pdf");
+    QVERIFY(report.exportPdf(pdf));
+    QVERIFY(report.pageCount() >= 2);
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    p.waitForFinished(60000);
+    const QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(u'\f');
+    const QString all = pages.join(u'\n');
+    for (const QString& expected :
+         {QStringLiteral("Példa & Társa Kft."), QStringLiteral("Müller GmbH"),
+          QStringLiteral("Közösségi adószám: HU12345678"), QStringLiteral("TN-2024/000017"),
+          QStringLiteral("Zahnrad 30 / Fogaskerék 30"), QStringLiteral("228 925 Ft"),
+          QStringLiteral("Lieferung in 2 Teilen"), QStringLiteral("kettőszázhuszonnyolcezer")})
+        QVERIFY2(all.contains(expected), qPrintable(expected));
+    for (int i = 0; i < report.pageCount(); ++i) {
+        QVERIFY(pages.value(i).contains(QStringLiteral("Seite / oldal: %1").arg(i + 1)));
+        QVERIFY(pages.value(i).contains(QStringLiteral("Számla / Rechnung")));
+    }
 }
 
 QTEST_MAIN(TestTemplates)
