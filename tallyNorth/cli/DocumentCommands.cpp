@@ -18,16 +18,13 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("DocumentCommands", text);
-}
-
 std::optional<QString> ReadQtfFile(CliContext& context, const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        PrintMessage(context, FillArgs(tr("Unable to read file %s."), {QtfEscape(path)}));
+        PrintMessage(context, FillArgs(QCoreApplication::translate("DocumentCommands",
+                                                                   "Unable to read file %s."),
+                                       {QtfEscape(path)}));
         return std::nullopt;
     }
     return QtfTopicBody(QString::fromUtf8(file.readAll()));
@@ -114,16 +111,25 @@ std::optional<QString> ReadOptionalFile(CliContext& context, const QString& path
 int TemplateCheck(CliContext& context, const QString& dir)
 {
     const InvoiceTemplate t = LoadTemplateDir(dir);
-    *context.out << tr("Computed digest: ") << t.computeDigest() << Qt::endl
-                 << tr("Digest in invoice.cfg: ") << t.digest() << Qt::endl
-                 << (t.certified() ? tr("Certified: yes") : tr("Certified: no")) << Qt::endl;
+    const auto line = [&](const char* text, const QString& value) {
+        *context.out << FillArgs(QCoreApplication::translate("DocumentCommands", text), {value})
+                     << Qt::endl;
+    };
+    line(QT_TRANSLATE_NOOP("DocumentCommands", "Computed digest: %s"), t.computeDigest());
+    line(QT_TRANSLATE_NOOP("DocumentCommands", "Digest in invoice.cfg: %s"), t.digest());
+    *context.out << (t.certified()
+                         ? QCoreApplication::translate("DocumentCommands", "Certified: yes")
+                         : QCoreApplication::translate("DocumentCommands", "Certified: no"))
+                 << Qt::endl;
     return t.certified() ? ExitOk : ExitFailure;
 }
 
 int TemplateInstall(CliContext& context, const QString& dir)
 {
     if (context.dbPath.isEmpty() || !QFileInfo::exists(context.dbPath)) {
-        PrintMessage(context, tr("Give an existing company database with --db FILE."));
+        PrintMessage(context,
+                     QCoreApplication::translate(
+                         "DocumentCommands", "Give an existing company database with --db FILE."));
         return ExitUsage;
     }
     const Result opened = Database::open(context.dbPath);
@@ -139,12 +145,16 @@ int TemplateInstall(CliContext& context, const QString& dir)
             {{QStringLiteral("SETUP_INVOICE_CURR_TMPL_DIR"), QFileInfo(dir).absoluteFilePath()}});
     }
     if (!r || !transaction.commit()) {
-        PrintMessage(context, r ? tr("Unable to save data.") : r.message());
+        PrintMessage(context,
+                     r ? QCoreApplication::translate("DocumentCommands", "Unable to save data.")
+                       : r.message());
         return ExitFailure;
     }
     if (!t.certified())
-        PrintMessage(context, tr("The template is installed, but it is not certified: invoices "
-                                 "can't be printed with it."));
+        PrintMessage(context, QCoreApplication::translate(
+                                  "DocumentCommands",
+                                  "The template is installed, but it is not certified: invoices "
+                                  "can't be printed with it."));
     return ExitOk;
 }
 
@@ -191,7 +201,9 @@ int RunTemplateCommand(CliContext& context, const QStringList& args)
     }
     if (!QFileInfo(args[1]).isDir()) {
         PrintMessage(context,
-                     FillArgs(tr("Template directory %s does not exist."), {QtfEscape(args[1])}));
+                     FillArgs(QCoreApplication::translate("DocumentCommands",
+                                                          "Template directory %s does not exist."),
+                              {QtfEscape(args[1])}));
         return ExitFailure;
     }
     return args[0] == QLatin1String("check") ? TemplateCheck(context, args[1])
