@@ -30,30 +30,26 @@ std::optional<QString> ReadQtfFile(CliContext& context, const QString& path)
     return QtfTopicBody(QString::fromUtf8(file.readAll()));
 }
 
-// "WxH" in dots.
-std::optional<QSize> ParseSize(const QString& text)
+// Two numbers joined by separator, each within limit.
+std::optional<QPointF> ParsePair(const QString& text, QChar separator, double limit)
 {
-    const QStringList parts = text.split(u'x');
-    bool okW = false;
-    bool okH = false;
-    const int w = parts.value(0).toInt(&okW);
-    const int h = parts.value(1).toInt(&okH);
-    if (parts.size() != 2 || !okW || !okH || w < 100 || h < 100 || w > 100000 || h > 100000)
-        return std::nullopt;
-    return QSize(w, h);
-}
-
-// "X,Y" in millimetres.
-std::optional<QPointF> ParseShift(const QString& text)
-{
-    const QStringList parts = text.split(u',');
+    const QStringList parts = text.split(separator);
     bool okX = false;
     bool okY = false;
     const double x = parts.value(0).toDouble(&okX);
     const double y = parts.value(1).toDouble(&okY);
-    if (parts.size() != 2 || !okX || !okY || std::abs(x) > 1000 || std::abs(y) > 1000)
+    if (parts.size() != 2 || !okX || !okY || std::abs(x) > limit || std::abs(y) > limit)
         return std::nullopt;
     return QPointF(x, y);
+}
+
+// "WxH" in dots.
+std::optional<QSize> ParseSize(const QString& text)
+{
+    const auto size = ParsePair(text, u'x', 100000);
+    if (!size || size->x() < 100 || size->y() < 100)
+        return std::nullopt;
+    return QSize(qRound(size->x()), qRound(size->y()));
 }
 
 struct QtfOptions
@@ -93,8 +89,8 @@ std::optional<QtfOptions> ParseQtfOptions(QStringList args)
             o.pdf = value;
         else if (a == QLatin1String("--page") && ParseSize(value))
             o.page = *ParseSize(value);
-        else if (a == QLatin1String("--shift-mm") && ParseShift(value))
-            o.shift = *ParseShift(value);
+        else if (a == QLatin1String("--shift-mm") && ParsePair(value, u',', 1000))
+            o.shift = *ParsePair(value, u',', 1000);
         else
             return std::nullopt;
     }

@@ -4,6 +4,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cstring>
 
 using namespace Qtf;
 
@@ -1282,63 +1283,27 @@ QString QtfEscape(const QString& text)
 
 QColor QtfColor(QChar code)
 {
-    switch (code.unicode()) {
-    case '0':
-    case 'k':
-        return QColor(0, 0, 0);
-    case '1':
-    case 'l':
-        return QColor(192, 192, 192);
-    case '2':
-        return QColor(255, 255, 255);
-    case '3':
-    case 'r':
-        return QColor(128, 0, 0);
-    case '4':
-    case 'g':
-        return QColor(0, 128, 0);
-    case '5':
-    case 'b':
-        return QColor(0, 0, 128);
-    case '6':
-    case 'R':
-        return QColor(255, 0, 0);
-    case '7':
-    case 'w':
-    case 'L':
-        return QColor(224, 224, 224);
-    case '8':
-    case 'C':
-        return QColor(0, 255, 255);
-    case '9':
-    case 'y':
-        return QColor(255, 255, 0);
-    case 'c':
-        return QColor(0, 128, 128);
-    case 'm':
-        return QColor(128, 0, 255);
-    case 'o':
-    case 'O':
-        return QColor(128, 128, 0);
-    case 'B':
-        return QColor(0, 0, 255);
-    case 'G':
-        return QColor(0, 255, 0);
-    case 'K':
-        return QColor(128, 128, 128);
-    case 'M':
-        return QColor(255, 0, 255);
-    case 'Y':
-        return QColor(255, 255, 192);
-    case 'n':
-    case 'N':
+    struct Named
+    {
+        const char* codes;
+        int r, g, b;
+    };
+    static constexpr Named colours[] = {
+        {"0k", 0, 0, 0},     {"1l", 192, 192, 192}, {"2", 255, 255, 255}, {"3r", 128, 0, 0},
+        {"4g", 0, 128, 0},   {"5b", 0, 0, 128},     {"6R", 255, 0, 0},    {"7wL", 224, 224, 224},
+        {"8C", 0, 255, 255}, {"9y", 255, 255, 0},   {"c", 0, 128, 128},   {"m", 128, 0, 255},
+        {"oO", 128, 128, 0}, {"B", 0, 0, 255},      {"G", 0, 255, 0},     {"K", 128, 128, 128},
+        {"M", 255, 0, 255},  {"Y", 255, 255, 192},
+    };
+    const ushort u = code.unicode();
+    if (u == 'n' || u == 'N')
         return QColor(Qt::transparent);
-    default:
-        break;
+    for (const Named& n : colours) {
+        if (u < 128 && std::strchr(n.codes, char(u)))
+            return QColor(n.r, n.g, n.b);
     }
-    if (code.isLetter() && code.unicode() < 128)
-        return QColor(255, 255, 255);
-    return QColor(255, 0, 0);
+    // Other letters are white, anything else red.
+    return code.isLetter() && u < 128 ? QColor(255, 255, 255) : QColor(255, 0, 0);
 }
 
 QString QtfTopicBody(const QString& topicFile)
