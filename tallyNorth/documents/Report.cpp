@@ -440,8 +440,9 @@ Result Report::print(QPagedPaintDevice& device) const
 
 Result Report::exportPdf(const QString& path, const QString& title) const
 {
-    const QString failed =
-        FillArgs(QCoreApplication::translate("Report", "Unable to write file %s."), {path});
+    // Messages are QTF: the path is data.
+    const QString failed = FillArgs(
+        QCoreApplication::translate("Report", "Unable to write file %s."), {QtfEscape(path)});
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return Result::failure(failed);
