@@ -316,13 +316,15 @@ QTextBlockFormat Builder::blockFormat(const ParaFormat& f, double width) const
 
     // Tab stops count from the paragraph's left margin; Qt counts from the frame's edge.
     QList<QTextOption::Tab> tabs;
+    // Every stop goes into the leaders list so that painting finds the stop a tab reached.
     QVariantList leaders;
+    bool anyLeader = false;
     int last = 0;
     for (const TabStop& t : f.tabs) {
         const double pos = t.fromRight ? width - f.rightMargin - t.pos : left + t.pos;
         tabs << QTextOption::Tab(units(pos), TabType(t.kind));
-        if (t.fill)
-            leaders << QPointF(units(pos), t.fill);
+        leaders << QPointF(units(pos), t.fill);
+        anyLeader = anyLeader || t.fill;
         last = std::max(last, int(pos));
     }
     if (f.tabSize != 296 && f.tabSize > 0) {
@@ -334,7 +336,7 @@ QTextBlockFormat Builder::blockFormat(const ParaFormat& f, double width) const
     }
     if (!tabs.isEmpty())
         bf.setTabPositions(tabs);
-    if (!leaders.isEmpty())
+    if (anyLeader)
         bf.setProperty(QtfProperty::Leaders, leaders);
     if (!f.label.isEmpty())
         bf.setProperty(QTextFormat::AnchorName, f.label);

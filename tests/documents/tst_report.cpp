@@ -98,6 +98,7 @@ private Q_SLOTS:
     void tableFormatsReachQt();
     void imagesKeepTheirSize();
     void emptyParagraphsAroundTablesHaveNoHeight();
+    void leadersFillOnlyTheirTab();
     void longTableBreaksWithHeaderOnEveryPage();
     void pageNumbersAndDateInHeaderAndFooter();
     void pageFieldsOfDocumentHeader();
@@ -235,6 +236,29 @@ void TestReport::emptyParagraphsAroundTablesHaveNoHeight()
     QVERIFY2(tableHeight < line + 30 + 2, qPrintable(QString::number(tableHeight)));
     auto trailing = Dots(QStringLiteral("{{1~ x}}&"));
     QVERIFY(trailing->documentLayout()->documentSize().height() > tableHeight + line / 2);
+}
+
+// Dots or dashes fill the space a tab jumps over only when its stop asks for them.
+void TestReport::leadersFillOnlyTheirTab()
+{
+    auto doc = Dots(QStringLiteral("[~=2000~>-3500 a-|b-|c]"), 4000);
+    QImage image(400, 40, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(0.1, 0.1);
+    doc->drawContents(&painter);
+    PaintQtfExtras(painter, *doc, QRectF(0, 0, 4000, 400));
+    painter.end();
+    const auto inkBetween = [&](int from, int to) {
+        int ink = 0;
+        for (int x = from; x < to; ++x) {
+            for (int y = 0; y < image.height(); ++y)
+                ink += qGray(image.pixel(x, y)) < 160;
+        }
+        return ink;
+    };
+    QCOMPARE(inkBetween(30, 180), 0);   // "a" to the centred "b": no fill
+    QVERIFY(inkBetween(230, 330) > 10); // "b" to the right-aligned "c": dashes
 }
 
 void TestReport::longTableBreaksWithHeaderOnEveryPage()
