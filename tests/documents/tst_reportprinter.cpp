@@ -3,6 +3,10 @@
 #include "documents/Report.h"
 #include "documents/ui/ReportPrinter.h"
 
+#include "documents/MessageText.h"
+
+#include <QLabel>
+#include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -38,6 +42,7 @@ private Q_SLOTS:
     void printsAtPrinterResolution();
     void paperFollowsTheReport();
     void previewShowsEveryPage();
+    void messageBoxShowsRichText();
 };
 
 void TestReportPrinter::printsAtPrinterResolution()
@@ -88,6 +93,25 @@ void TestReportPrinter::previewShowsEveryPage()
     const QString shot = qEnvironmentVariable("TALLYNORTH_SNAPSHOT_DIR");
     if (!shot.isEmpty())
         dialog->grab().save(shot + QStringLiteral("/report-preview.png"));
+}
+
+// Message boxes must take the message as rich text, never show its markup.
+void TestReportPrinter::messageBoxShowsRichText()
+{
+    const QString html = MessageRichText(QStringLiteral("Unable to save data.&[* Kovács `& Társa] is in use."));
+    QVERIFY(Qt::mightBeRichText(html));
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("tallyNorth"), html);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    bool found = false;
+    for (QLabel* label : box.findChildren<QLabel*>()) {
+        if (label->text() == html)
+            found = label->textFormat() == Qt::RichText || Qt::mightBeRichText(label->text());
+    }
+    QVERIFY(found);
+    const QString shot = qEnvironmentVariable("TALLYNORTH_SNAPSHOT_DIR");
+    if (!shot.isEmpty())
+        box.grab().save(shot + QStringLiteral("/message-box.png"));
 }
 
 QTEST_MAIN(TestReportPrinter)
