@@ -153,3 +153,8 @@ InvoiceTemplate LoadTemplateFromSetup(const Setup& setup)
     t.setDigest(setup.text("SETUP_INVOICE_DIGEST"));
     return t;
 }
+
+InvoiceTemplate LoadTemplateFromSetup()
+{
+    return LoadTemplateFromSetup(Setup::current());
+}

@@ -63,6 +63,8 @@ InvoiceTemplate LoadTemplateDir(const QString& directory);
 // Writes the pieces and the digest into SETUP in one statement.
 Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate);
 InvoiceTemplate LoadTemplateFromSetup(const Setup& setup);
+// From the settings of the open company.
+InvoiceTemplate LoadTemplateFromSetup();
 
 // The value of key in a "key=value" configuration file, empty when missing.
 QString ReadConfigValue(const QString& path, const QString& key);

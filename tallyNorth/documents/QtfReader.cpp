@@ -1,6 +1,7 @@
 #include "QtfReader.h"
 
 #include <QHash>
+#include <QImage>
 #include <QSet>
 
 #include <algorithm>
@@ -1279,6 +1280,23 @@ QString QtfEscape(const QString& text)
             out += c;
     }
     return out;
+}
+
+QString QtfImageObject(const QByteArray& imageData, double percent)
+{
+    const QImage image = QImage::fromData(imageData);
+    if (image.isNull() || !(percent > 0))
+        return QString();
+    const auto dpi = [](int dotsPerMeter) {
+        return dotsPerMeter > 0 ? dotsPerMeter * 0.0254 : 96.0;
+    };
+    const double scale = std::min(percent, 10000.0) / 100 * 600;
+    const int cx = std::max(1, qRound(image.width() * scale / dpi(image.dotsPerMeterX())));
+    const int cy = std::max(1, qRound(image.height() * scale / dpi(image.dotsPerMeterY())));
+    return QStringLiteral("@@PNG:%1&%2(%3)")
+        .arg(cx)
+        .arg(cy)
+        .arg(QString::fromLatin1(imageData.toBase64()));
 }
 
 QColor QtfColor(QChar code)

@@ -20,6 +20,10 @@ QString PlainText(const QList<Qtf::Block>& blocks, bool tabs = false);
 // line feed becomes a paragraph end.
 QString QtfEscape(const QString& text);
 
+// An image as a QTF object ("@@PNG:cx&cy(base64)") at percent of its natural size: its pixels at
+// its own resolution, or at 96 per inch when it has none. Empty for data that is no image.
+QString QtfImageObject(const QByteArray& imageData, double percent = 100);
+
 // A colour code character of QTF ("@3" = dark red).
 QColor QtfColor(QChar code);
 

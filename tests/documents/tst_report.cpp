@@ -1,6 +1,7 @@
 // QTF laid out as rich text and printed in pages: units, spacing, tables, header and footer on
 // every page, page numbers, page sizes. PDFs are read back with poppler's pdftotext/pdfinfo.
 #include "documents/MessageText.h"
+#include "documents/QtfReader.h"
 #include "documents/QtfTextDocument.h"
 #include "documents/Report.h"
 
@@ -206,14 +207,19 @@ void TestReport::imagesKeepTheirSize()
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
     logo.save(&buffer, "PNG");
-    auto doc = Dots(QStringLiteral("@@PNG:1200&400(%1)@@unknown:300*300(AAAA)")
-                        .arg(QString::fromLatin1(png.toBase64())));
+    // 30 x 10 pixels at 96 per inch, printed at 400 %: 750 x 250 dots.
+    const QString object = QtfImageObject(png, 400);
+    QVERIFY(object.startsWith(QStringLiteral("@@PNG:750&250(")));
+    QVERIFY(QtfImageObject("not an image").isEmpty());
+    auto doc = Dots(QStringLiteral("@@PNG:1200&400(%1)@@unknown:300*300(AAAA)%2")
+                        .arg(QString::fromLatin1(png.toBase64()), object));
     QList<QTextImageFormat> images;
     for (auto it = doc->begin().begin(); !it.atEnd(); ++it) {
         if (it.fragment().charFormat().isImageFormat())
             images << it.fragment().charFormat().toImageFormat();
     }
-    QCOMPARE(images.size(), 2);
+    QCOMPARE(images.size(), 3);
+    QCOMPARE(images[2].width(), 750.0);
     QCOMPARE(images[0].width(), 1200.0);
     QCOMPARE(images[0].height(), 400.0);
     const QImage stored =

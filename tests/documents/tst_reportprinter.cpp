@@ -98,7 +98,8 @@ void TestReportPrinter::previewShowsEveryPage()
 // Message boxes must take the message as rich text, never show its markup.
 void TestReportPrinter::messageBoxShowsRichText()
 {
-    const QString html = MessageRichText(QStringLiteral("Unable to save data.&[* Kovács `& Társa] is in use."));
+    const QString html =
+        MessageRichText(QStringLiteral("Unable to save data.&[* Kovács `& Társa] is in use."));
     QVERIFY(Qt::mightBeRichText(html));
     QMessageBox box(QMessageBox::Warning, QStringLiteral("tallyNorth"), html);
     box.show();
