@@ -51,8 +51,8 @@ double RoundDecimals(double value, int decimals)
     }
     const double p = PowerOfTen(decimals);
     const double scaled = std::fabs(value) * p;
-    // So large that it has no digits to drop at this position (or beyond a double's range).
-    if (!std::isfinite(scaled) || scaled >= 4503599627370496.0)
+    // Beyond a double's range: such a value has no digits to drop anyway.
+    if (!std::isfinite(scaled))
         return value;
     // Adding 0.0 turns a negative zero into zero: "-0" must not be printed on an invoice.
     return std::copysign(RoundHalfUp(scaled) / p, value) + 0.0;

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void foreignOrderConvertsItemsAndOrderSeparately();
     void missingForintRowFailsAndWritesNothing();
     void missingOrderFails();
+    void failurePartWayWritesNothing();
     void joinsTheCallersTransaction();
 };
 
@@ -190,6 +191,23 @@ void TestLocalCurrencyTotals::missingOrderFails()
     TestCompany company;
     QVERIFY(company.isValid());
     QVERIFY(!CalcLocalCurrencyTotals(4711));
+}
+
+void TestLocalCurrencyTotals::failurePartWayWritesNothing()
+{
+    TestCompany company;
+    QVERIFY(company.isValid());
+    const qint64 id = InsertOrder(1, 385.5, {13.58, 3.67, 17.25});
+    const qint64 item = InsertItem(id, {10.25, 2.77, 13.02});
+    // The items are written before the order; make the order's update fail.
+    QVERIFY(ExecSql(QStringLiteral("create trigger BLOCK_ORDER before update on ORDERHEAD "
+                                   "begin select raise(abort, 'blocked'); end")));
+
+    const Result r = CalcLocalCurrencyTotals(id);
+    QVERIFY(!r);
+    QVERIFY2(r.sqlError().contains(QLatin1String("blocked")), qPrintable(r.sqlError()));
+    QCOMPARE_AMOUNTS(ItemLocal(item), 0.0, 0.0, 0.0);
+    QVERIFY(OrderLocal(id).at(0).isNull());
 }
 
 void TestLocalCurrencyTotals::joinsTheCallersTransaction()

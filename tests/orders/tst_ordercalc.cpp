@@ -75,7 +75,10 @@ void TestOrderCalc::roundDecimals_data()
     QTest::newRow("large at 2") << 123456789012.345 << 2 << 123456789012.35;
     // Above 2^52 every double is whole; adding 0.5 would land on the next even number.
     QTest::newRow("odd whole above 2^52") << 4503599627370497.0 << 0 << 4503599627370497.0;
+    // Stored as ...840.3046875; to 2 decimals ...840.30, whose nearest double is ...840.296875.
+    QTest::newRow("scaled above 2^52") << 67348409009840.305 << 2 << 67348409009840.3;
     QTest::newRow("huge") << 1e300 << 2 << 1e300;
+    QTest::newRow("beyond range when scaled") << 1e300 << 10 << 1e300;
 
     // Negative decimal counts round to tens, hundreds...
     QTest::newRow("hundreds half") << 1250.0 << -2 << 1300.0;
@@ -223,8 +226,8 @@ void TestOrderCalc::lineTotals_data()
     QTest::newRow("product lands on half") << 33.33 << 1.5 << 27.0 << 2
                                            << LineTotals{50.0, 13.5, 63.5};
     QTest::newRow("stored below half") << 1.005 << 1.0 << 0.0 << 2 << LineTotals{1.0, 0.0, 1.0};
-    // VAT of the rounded net 1, not of the unrounded 0.5: 0.27 rounds to 0.
-    QTest::newRow("VAT of rounded net") << 0.5 << 1.0 << 27.0 << 0 << LineTotals{1.0, 0.0, 1.0};
+    // VAT of the rounded net 2 (0.54 -> 1), not of the unrounded 1.6 (0.432 -> 0).
+    QTest::newRow("VAT of rounded net") << 1.6 << 1.0 << 27.0 << 0 << LineTotals{2.0, 1.0, 3.0};
     QTest::newRow("returned goods") << 849.0 << -1.0 << 27.0 << 0
                                     << LineTotals{-849, -229, -1078}; // -229.23
     QTest::newRow("no VAT") << 100.0 << 2.0 << 0.0 << 2 << LineTotals{200, 0, 200};
