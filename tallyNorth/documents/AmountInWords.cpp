@@ -6,9 +6,10 @@ namespace {
 
 using Words = std::array<const char*, 10>;
 
-constexpr Words kUnits = {"", "egy", "kettő", "három", "négy", "öt", "hat", "hét", "nyolc", "kilenc"};
-constexpr Words kHundreds = {"",        "egyszáz",   "kettőszáz", "háromszáz", "négyszáz",
-                             "ötszáz",  "hatszáz",   "hétszáz",   "nyolcszáz", "kilencszáz"};
+constexpr Words kUnits = {"",   "egy", "kettő", "három", "négy",
+                          "öt", "hat", "hét",   "nyolc", "kilenc"};
+constexpr Words kHundreds = {"",       "egyszáz", "kettőszáz", "háromszáz", "négyszáz",
+                             "ötszáz", "hatszáz", "hétszáz",   "nyolcszáz", "kilencszáz"};
 // Tens standing alone ("húsz") and tens followed by a unit ("huszonöt").
 constexpr Words kTens = {"",      "tíz",    "húsz",   "harminc",  "negyven",
                          "ötven", "hatvan", "hetven", "nyolcvan", "kilencven"};
@@ -20,8 +21,8 @@ QString GroupWords(unsigned group)
 {
     const unsigned units = group % 10;
     const Words& tens = units == 0 ? kTens : kTensBeforeUnit;
-    return QString::fromUtf8(kHundreds[group / 100]) + QString::fromUtf8(tens[group / 10 % 10])
-        + QString::fromUtf8(kUnits[units]);
+    return QString::fromUtf8(kHundreds[group / 100]) + QString::fromUtf8(tens[group / 10 % 10]) +
+           QString::fromUtf8(kUnits[units]);
 }
 
 } // namespace

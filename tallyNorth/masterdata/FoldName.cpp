@@ -1,41 +1,26 @@
 #include "FoldName.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 namespace {
 
-// Latin letters that are not a base letter with marks, so decomposition leaves them as they are.
-QString BaseLetters(QChar c)
-{
-    switch (c.unicode()) {
-    case 0x00DF: // sharp s
-    case 0x1E9E: return QStringLiteral("ss");
-    case 0x00C6: return QStringLiteral("AE");
-    case 0x00E6: return QStringLiteral("ae");
-    case 0x0152: return QStringLiteral("OE");
-    case 0x0153: return QStringLiteral("oe");
-    case 0x00D8: return QStringLiteral("O");
-    case 0x00F8: return QStringLiteral("o");
-    case 0x0110: // D with stroke
-    case 0x00D0: return QStringLiteral("D"); // eth
-    case 0x0111:
-    case 0x00F0: return QStringLiteral("d");
-    case 0x0141: return QStringLiteral("L");
-    case 0x0142: return QStringLiteral("l");
-    case 0x0126: return QStringLiteral("H");
-    case 0x0127: return QStringLiteral("h");
-    case 0x0166: return QStringLiteral("T");
-    case 0x0167: return QStringLiteral("t");
-    case 0x0131: return QStringLiteral("i"); // dotless i
-    case 0x00DE: return QStringLiteral("TH");
-    case 0x00FE: return QStringLiteral("th");
-    default: return QString(c);
-    }
-}
+// Latin letters that are not a base letter with marks, so decomposition leaves them as they
+// are: sharp s, ae, oe, o and d with stroke, eth, l/h/t with stroke, dotless i, thorn.
+constexpr std::array<std::pair<char16_t, const char*>, 21> kOwnLetters = {{
+    {u'\u00DF', "SS"}, {u'\u1E9E', "SS"}, {u'\u00C6', "AE"}, {u'\u00E6', "AE"}, {u'\u0152', "OE"},
+    {u'\u0153', "OE"}, {u'\u00D8', "O"},  {u'\u00F8', "O"},  {u'\u0110', "D"},  {u'\u0111', "D"},
+    {u'\u00D0', "D"},  {u'\u00F0', "D"},  {u'\u0141', "L"},  {u'\u0142', "L"},  {u'\u0126', "H"},
+    {u'\u0127', "H"},  {u'\u0166', "T"},  {u'\u0167', "T"},  {u'\u0131', "I"},  {u'\u00DE', "TH"},
+    {u'\u00FE', "TH"},
+}};
 
 bool IsMark(QChar c)
 {
     const QChar::Category category = c.category();
-    return category == QChar::Mark_NonSpacing || category == QChar::Mark_SpacingCombining
-        || category == QChar::Mark_Enclosing;
+    return category == QChar::Mark_NonSpacing || category == QChar::Mark_SpacingCombining ||
+           category == QChar::Mark_Enclosing;
 }
 
 } // namespace
@@ -48,8 +33,14 @@ QString FoldName(const QString& name)
     QString out;
     out.reserve(decomposed.size());
     for (const QChar c : decomposed) {
-        if (!IsMark(c))
-            out += BaseLetters(c);
+        if (IsMark(c))
+            continue;
+        const auto own = std::find_if(kOwnLetters.begin(), kOwnLetters.end(),
+                                      [c](const auto& letter) { return letter.first == c; });
+        if (own != kOwnLetters.end())
+            out += QLatin1StringView(own->second);
+        else
+            out += c;
     }
     return out.toUpper();
 }

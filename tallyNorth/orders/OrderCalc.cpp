@@ -16,9 +16,9 @@
 namespace {
 
 // Every power of ten up to 10^22 is exact in a double.
-constexpr std::array<double, 23> kPowersOfTen = {
-    1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 double PowerOfTen(int exponent)
 {
@@ -90,7 +90,7 @@ double NetToGross(double net, double vatPercent)
 std::optional<double> CalcDiscountedPrice(double listPrice, double discountPercent,
                                           int discountType, int unitPriceDecimals)
 {
-    if (discountType == int(DiscountType::SpecialPrice))
+    if (discountType == int(DiscountType::EnteredPrice))
         return std::nullopt;
     const double discount = listPrice * discountPercent * 0.01;
     const double price = listPrice - discount;
@@ -139,15 +139,24 @@ namespace {
 double RoundTo5Difference(double gross)
 {
     switch (int(std::fmod(std::trunc(gross), 5.0))) {
-    case 1: return -1.0;
-    case 2: return -2.0;
-    case 3: return 2.0;
-    case 4: return 1.0;
-    case -1: return 1.0;
-    case -2: return 2.0;
-    case -3: return -2.0;
-    case -4: return -1.0;
-    default: return 0.0;
+    case 1:
+        return -1.0;
+    case 2:
+        return -2.0;
+    case 3:
+        return 2.0;
+    case 4:
+        return 1.0;
+    case -1:
+        return 1.0;
+    case -2:
+        return 2.0;
+    case -3:
+        return -2.0;
+    case -4:
+        return -1.0;
+    default:
+        return 0.0;
     }
 }
 
@@ -202,20 +211,16 @@ QList<VatDetail> GroupVatDetail(const QList<VatDetail>& items)
 
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("OrderCalc", text);
-}
-
 Result DatabaseFailure(const SqlStatement& st)
 {
-    return st.failure(Tr("Database error:&") + st.errorText());
+    return st.failure(QCoreApplication::translate("OrderCalc", "Database error:&") +
+                      st.errorText());
 }
 
 Result OrderMissing()
 {
-    return Result::failure(
-        Tr("Unable to load data from database.&Maybe it is deleted by an other user."));
+    return Result::failure(QCoreApplication::translate(
+        "OrderCalc", "Unable to load data from database.&Maybe it is deleted by an other user."));
 }
 
 QString Sql(const char* pattern, std::initializer_list<const char*> names)
@@ -231,11 +236,10 @@ QString Sql(const char* pattern, std::initializer_list<const char*> names)
 Result LoadVatDetail(qint64 orderId, QList<VatDetail>& groups)
 {
     SqlStatement st(Sql("select %1, %2, %3, %4, %5, %6, %7 from %8 where %9 = ? order by %10",
-                        {Col::ORDERITEM_VAT_ID, Col::ORDERITEM_VAT_NAME,
-                         Col::ORDERITEM_VAT_PERCENT, Col::ORDERITEM_VAT_CODE,
-                         Col::ORDERITEM_TOTAL_NET, Col::ORDERITEM_TOTAL_VAT,
-                         Col::ORDERITEM_TOTAL_GROSS, Tbl::ORDERITEM, Col::ORDERITEM_ORDERHEAD_ID,
-                         Col::ORDERITEM_ID}),
+                        {Col::ORDERITEM_VAT_ID, Col::ORDERITEM_VAT_NAME, Col::ORDERITEM_VAT_PERCENT,
+                         Col::ORDERITEM_VAT_CODE, Col::ORDERITEM_TOTAL_NET,
+                         Col::ORDERITEM_TOTAL_VAT, Col::ORDERITEM_TOTAL_GROSS, Tbl::ORDERITEM,
+                         Col::ORDERITEM_ORDERHEAD_ID, Col::ORDERITEM_ID}),
                     {orderId});
     if (!st.exec())
         return DatabaseFailure(st);
@@ -256,26 +260,59 @@ Result LoadVatDetail(qint64 orderId, QList<VatDetail>& groups)
 
 namespace {
 
-// A forint order: the totals are already local; copied as they are, without rounding.
-Result CopyLocalCurrencyTotals(qint64 orderId)
+// The totals of an item or an order and their local-currency copies.
+struct TotalColumns
 {
-    SqlStatement items(Sql("update %1 set %2 = %3, %4 = %5, %6 = %7 where %8 = ?",
-                           {Tbl::ORDERITEM, Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET,
-                            Col::ORDERITEM_TOTAL_NET, Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT,
-                            Col::ORDERITEM_TOTAL_VAT, Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS,
-                            Col::ORDERITEM_TOTAL_GROSS, Col::ORDERITEM_ORDERHEAD_ID}),
-                       {orderId});
-    if (!items.exec())
-        return DatabaseFailure(items);
-    SqlStatement order(Sql("update %1 set %2 = %3, %4 = %5, %6 = %7 where %8 = ?",
-                           {Tbl::ORDERHEAD, Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_NET,
-                            Col::ORDERHEAD_TOTAL_NET, Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_VAT,
-                            Col::ORDERHEAD_TOTAL_VAT, Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS,
-                            Col::ORDERHEAD_TOTAL_GROSS, Col::ORDERHEAD_ID}),
-                       {orderId});
-    if (!order.exec())
-        return DatabaseFailure(order);
-    return Result::success();
+    const char* table;
+    const char* net;
+    const char* vat;
+    const char* gross;
+    const char* localNet;
+    const char* localVat;
+    const char* localGross;
+};
+
+constexpr TotalColumns kItemTotals = {Tbl::ORDERITEM,
+                                      Col::ORDERITEM_TOTAL_NET,
+                                      Col::ORDERITEM_TOTAL_VAT,
+                                      Col::ORDERITEM_TOTAL_GROSS,
+                                      Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET,
+                                      Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT,
+                                      Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS};
+constexpr TotalColumns kOrderTotals = {Tbl::ORDERHEAD,
+                                       Col::ORDERHEAD_TOTAL_NET,
+                                       Col::ORDERHEAD_TOTAL_VAT,
+                                       Col::ORDERHEAD_TOTAL_GROSS,
+                                       Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_NET,
+                                       Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_VAT,
+                                       Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS};
+
+Result CopyColumns(const TotalColumns& c, const char* key, qint64 id)
+{
+    SqlStatement st(
+        Sql("update %1 set %2 = %3, %4 = %5, %6 = %7 where %8 = ?",
+            {c.table, c.localNet, c.net, c.localVat, c.vat, c.localGross, c.gross, key}),
+        {id});
+    return st.exec() ? Result::success() : DatabaseFailure(st);
+}
+
+// Converted with the rate and rounded to the forint's decimals.
+Result WriteLocal(const TotalColumns& c, const char* key, qint64 id, const LineTotals& totals,
+                  double rate, int decimals)
+{
+    SqlStatement st(Sql("update %1 set %2 = ?, %3 = ?, %4 = ? where %5 = ?",
+                        {c.table, c.localNet, c.localVat, c.localGross, key}),
+                    {RoundDecimals(rate * totals.net, decimals),
+                     RoundDecimals(rate * totals.vat, decimals),
+                     RoundDecimals(rate * totals.gross, decimals), id});
+    return st.exec() ? Result::success() : DatabaseFailure(st);
+}
+
+// A forint order: the totals are already local; copied as they are, without rounding.
+Result CopyToLocal(qint64 orderId)
+{
+    const Result r = CopyColumns(kItemTotals, Col::ORDERITEM_ORDERHEAD_ID, orderId);
+    return r ? CopyColumns(kOrderTotals, Col::ORDERHEAD_ID, orderId) : r;
 }
 
 struct ItemTotals
@@ -288,8 +325,7 @@ Result LoadItemTotals(qint64 orderId, QList<ItemTotals>& items)
 {
     SqlStatement st(Sql("select %1, %2, %3, %4 from %5 where %6 = ? order by %1",
                         {Col::ORDERITEM_ID, Col::ORDERITEM_TOTAL_NET, Col::ORDERITEM_TOTAL_VAT,
-                         Col::ORDERITEM_TOTAL_GROSS, Tbl::ORDERITEM,
-                         Col::ORDERITEM_ORDERHEAD_ID}),
+                         Col::ORDERITEM_TOTAL_GROSS, Tbl::ORDERITEM, Col::ORDERITEM_ORDERHEAD_ID}),
                     {orderId});
     if (!st.exec())
         return DatabaseFailure(st);
@@ -301,45 +337,31 @@ Result LoadItemTotals(qint64 orderId, QList<ItemTotals>& items)
 
 // A foreign-currency order: items and order converted separately, so the order's local totals
 // need not equal the sum of its items' local totals.
-Result ConvertLocalCurrencyTotals(qint64 orderId, double rate, const LineTotals& orderTotals)
+Result ConvertToLocal(qint64 orderId, double rate, const LineTotals& orderTotals)
 {
-    SqlStatement local(Sql("select %1, %2 from %3 where %4 = ?",
-                           {Col::CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS,
-                            Col::CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS, Tbl::CURRENCYY,
-                            Col::CURRENCY_ID}),
-                       {0});
+    SqlStatement local(
+        Sql("select %1, %2 from %3 where %4 = ?",
+            {Col::CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS,
+             Col::CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS, Tbl::CURRENCYY, Col::CURRENCY_ID}),
+        {0});
     if (!local.exec())
         return DatabaseFailure(local);
     if (!local.next())
-        return Result::failure(Tr("The forint (currency 0) is missing from the currencies."));
+        return Result::failure(QCoreApplication::translate(
+            "OrderCalc", "The forint (currency 0) is missing from the currencies."));
     const int lineDecimals = int(ToInteger(local.value(0)));
     const int invoiceDecimals = int(ToInteger(local.value(1)));
 
     QList<ItemTotals> items;
     if (Result r = LoadItemTotals(orderId, items); !r)
         return r;
-    const QString updateItem = Sql("update %1 set %2 = ?, %3 = ?, %4 = ? where %5 = ?",
-                                   {Tbl::ORDERITEM, Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET,
-                                    Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT,
-                                    Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS, Col::ORDERITEM_ID});
     for (const ItemTotals& item : std::as_const(items)) {
-        SqlStatement st(updateItem, {RoundDecimals(item.totals.net * rate, lineDecimals),
-                                     RoundDecimals(item.totals.vat * rate, lineDecimals),
-                                     RoundDecimals(item.totals.gross * rate, lineDecimals),
-                                     item.id});
-        if (!st.exec())
-            return DatabaseFailure(st);
+        Result r =
+            WriteLocal(kItemTotals, Col::ORDERITEM_ID, item.id, item.totals, rate, lineDecimals);
+        if (!r)
+            return r;
     }
-    SqlStatement order(Sql("update %1 set %2 = ?, %3 = ?, %4 = ? where %5 = ?",
-                           {Tbl::ORDERHEAD, Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_NET,
-                            Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_VAT,
-                            Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS, Col::ORDERHEAD_ID}),
-                       {RoundDecimals(rate * orderTotals.net, invoiceDecimals),
-                        RoundDecimals(rate * orderTotals.vat, invoiceDecimals),
-                        RoundDecimals(rate * orderTotals.gross, invoiceDecimals), orderId});
-    if (!order.exec())
-        return DatabaseFailure(order);
-    return Result::success();
+    return WriteLocal(kOrderTotals, Col::ORDERHEAD_ID, orderId, orderTotals, rate, invoiceDecimals);
 }
 
 } // namespace
@@ -359,14 +381,15 @@ Result CalcLocalCurrencyTotals(qint64 orderId)
         return OrderMissing();
     const bool forint = ToInteger(order.value(0)) == 0;
     const double rate = ToNumber(order.value(1));
-    const LineTotals totals = LineTotals::fromValues(order.value(2), order.value(3), order.value(4));
+    const LineTotals totals =
+        LineTotals::fromValues(order.value(2), order.value(3), order.value(4));
     order.query().finish();
 
-    const Result r = forint ? CopyLocalCurrencyTotals(orderId)
-                            : ConvertLocalCurrencyTotals(orderId, rate, totals);
+    const Result r = forint ? CopyToLocal(orderId) : ConvertToLocal(orderId, rate, totals);
     if (!r)
         return r;
     if (transaction.active() && !transaction.commit())
-        return Result::failure(Tr("Database error:&") + Database::session().lastError().text());
+        return Result::failure(QCoreApplication::translate("OrderCalc", "Database error:&") +
+                               Database::session().lastError().text());
     return Result::success();
 }

@@ -12,7 +12,7 @@
 #include <optional>
 
 // Values of ORDERITEM_DISCOUNT_TYPE (also PARTNER_DISCOUNT_TYPE and the settings' default).
-enum class DiscountType { None = 0, PercentFromListPrice = 1, SpecialPrice = 2 };
+enum class DiscountType { None = 0, PercentFromListPrice = 1, EnteredPrice = 2 };
 
 // Rounds half away from zero (2.5 -> 3, -2.5 -> -3); |value| below 1e-15 gives 0.
 double RoundDecimals(double value, int decimals);
@@ -25,8 +25,8 @@ double GrossToNet(double gross, double vatPercent);
 // Gross price from a net price: as many decimals as the net price shows, two for a whole one.
 double NetToGross(double net, double vatPercent);
 
-// The unit price from the list price and discount; nothing for a special price, which the user
-// types and which is never recomputed. Unknown types behave like "no discount".
+// The unit price from the list price and discount; nothing for a price the user enters, which is
+// never recomputed. Unknown types behave like "no discount".
 std::optional<double> CalcDiscountedPrice(double listPrice, double discountPercent,
                                           int discountType, int unitPriceDecimals);
 

@@ -96,11 +96,14 @@ void TestLabelTranslations::placeholders_data()
     QTest::addColumn<QVariant>("language");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("value");
-    QTest::newRow("german") << QVariant(2) << "TR.BILL.TO" << "Firma/Kundenname / Vevő";
-    QTest::newRow("german, no text of its own") << QVariant(2) << "TR.STAT.CODE" << "VTSZ/SZJ";
+    QTest::newRow("german") << QVariant(2) << "TR.BILL.TO"
+                            << "Firma/Kundenname / Vevő";
+    QTest::newRow("german, no text of its own") << QVariant(2) << "TR.STAT.CODE"
+                                                << "VTSZ/SZJ";
     QTest::newRow("english, long key") << QVariant(1) << "TR.ROUNDING.ERROR.CORRECTION"
                                        << "Rounding error correction / Korrekciós tényező";
-    QTest::newRow("language without labels") << QVariant(9) << "TR.INVOICE" << "Számla";
+    QTest::newRow("language without labels") << QVariant(9) << "TR.INVOICE"
+                                             << "Számla";
     QTest::newRow("no language") << QVariant() << "TR.GROSS.TOTAL.IN.HUNGARIAN"
                                  << "Bruttó végösszeg";
 }
@@ -141,9 +144,10 @@ void TestLabelTranslations::fillingReplacesAndKeepsOtherEntries()
 void TestLabelTranslations::reloadShowsAClearedTranslation()
 {
     // The label editor deletes a cleared foreign text; after reloading it prints Hungarian only.
-    QVERIFY(ExecSql(QStringLiteral("delete from ORDERLABELTRANSLATION where "
-                                   "ORDERLABELTRANSLATION_LANG_ID = ? and ORDERLABELTRANSLATION_KEY = ?"),
-                    {2, QStringLiteral("TR_INVOICE")}));
+    QVERIFY(ExecSql(
+        QStringLiteral("delete from ORDERLABELTRANSLATION where "
+                       "ORDERLABELTRANSLATION_LANG_ID = ? and ORDERLABELTRANSLATION_KEY = ?"),
+        {2, QStringLiteral("TR_INVOICE")}));
     QCOMPARE(m_labels.GetBilingual(QStringLiteral("TR_INVOICE"), 2),
              QStringLiteral("Rechnung / Számla"));
     QVERIFY(m_labels.Load());

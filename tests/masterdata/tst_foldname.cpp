@@ -19,35 +19,55 @@ void TestFoldName::fold_data()
     QTest::addColumn<QString>("folded");
 
     // Hungarian, both cases, including the double acute of ő and ű.
-    QTest::newRow("company") << "Árvíztűrő Kft." << "ARVIZTURO KFT.";
-    QTest::newRow("lower") << "árvíztűrő tükörfúrógép" << "ARVIZTURO TUKORFUROGEP";
-    QTest::newRow("upper") << "ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP" << "ARVIZTURO TUKORFUROGEP";
-    QTest::newRow("double acute") << "Őrség Űrhajó" << "ORSEG URHAJO";
+    QTest::newRow("company") << "Árvíztűrő Kft."
+                             << "ARVIZTURO KFT.";
+    QTest::newRow("lower") << "árvíztűrő tükörfúrógép"
+                           << "ARVIZTURO TUKORFUROGEP";
+    QTest::newRow("upper") << "ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP"
+                           << "ARVIZTURO TUKORFUROGEP";
+    QTest::newRow("double acute") << "Őrség Űrhajó"
+                                  << "ORSEG URHAJO";
     // Typed with combining accents instead of precomposed letters.
     QTest::newRow("combining accents") << QString::fromUtf8("A\xcc\x81rvi\xcc\x81z") << "ARVIZ";
 
     // German.
-    QTest::newRow("umlauts") << "Müller Äpfel Öl" << "MULLER APFEL OL";
-    QTest::newRow("sharp s") << "Größe Straße" << "GROSSE STRASSE";
-    QTest::newRow("capital sharp s") << "GROẞE" << "GROSSE";
+    QTest::newRow("umlauts") << "Müller Äpfel Öl"
+                             << "MULLER APFEL OL";
+    QTest::newRow("sharp s") << "Größe Straße"
+                             << "GROSSE STRASSE";
+    QTest::newRow("capital sharp s") << "GROẞE"
+                                     << "GROSSE";
 
     // Other Latin letters: with marks, and those without a decomposition.
-    QTest::newRow("czech") << "Čapek Škoda Žilina" << "CAPEK SKODA ZILINA";
-    QTest::newRow("romance") << "façade Ñandú Şişli" << "FACADE NANDU SISLI";
-    QTest::newRow("polish") << "Łódź" << "LODZ";
-    QTest::newRow("scandinavian") << "Øresund Ærø" << "ORESUND AERO";
-    QTest::newRow("croatian") << "Đorđe" << "DORDE";
-    QTest::newRow("french ligature") << "Œuvre cœur" << "OEUVRE COEUR";
-    QTest::newRow("turkish i") << "İstanbul ılık" << "ISTANBUL ILIK";
-    QTest::newRow("icelandic") << "Þór Aðalsteinn" << "THOR ADALSTEINN";
+    QTest::newRow("czech") << "Čapek Škoda Žilina"
+                           << "CAPEK SKODA ZILINA";
+    QTest::newRow("romance") << "façade Ñandú Şişli"
+                             << "FACADE NANDU SISLI";
+    QTest::newRow("polish") << "Łódź"
+                            << "LODZ";
+    QTest::newRow("scandinavian") << "Øresund Ærø"
+                                  << "ORESUND AERO";
+    QTest::newRow("croatian") << "Đorđe"
+                              << "DORDE";
+    QTest::newRow("french ligature") << "Œuvre cœur"
+                                     << "OEUVRE COEUR";
+    QTest::newRow("turkish i") << "İstanbul ılık"
+                               << "ISTANBUL ILIK";
+    QTest::newRow("icelandic") << "Þór Aðalsteinn"
+                               << "THOR ADALSTEINN";
     // Compatibility forms spelled out.
-    QTest::newRow("typographic ligature") << "ﬁnom" << "FINOM";
-    QTest::newRow("full-width") << "ＡＢＣ" << "ABC";
+    QTest::newRow("typographic ligature") << "ﬁnom"
+                                          << "FINOM";
+    QTest::newRow("full-width") << "ＡＢＣ"
+                                << "ABC";
 
     // Everything else stays, only upper-cased.
-    QTest::newRow("punctuation and digits") << "1. sz. Bt. & Co (kft)" << "1. SZ. BT. & CO (KFT)";
-    QTest::newRow("cyrillic") << "Москва" << "МОСКВА";
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("punctuation and digits") << "1. sz. Bt. & Co (kft)"
+                                            << "1. SZ. BT. & CO (KFT)";
+    QTest::newRow("cyrillic") << "Москва"
+                              << "МОСКВА";
+    QTest::newRow("empty") << ""
+                           << "";
 }
 
 void TestFoldName::fold()
@@ -61,10 +81,14 @@ void TestFoldName::typedBeginningFindsTheName_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("name");
-    QTest::newRow("plain letters") << "arv" << "Árvíztűrő Kft.";
-    QTest::newRow("accents typed") << "ÁRVÍZ" << "Arviz Bt.";
-    QTest::newRow("ss for sharp s") << "strass" << "Straße GmbH";
-    QTest::newRow("sharp s for ss") << "straß" << "Strasse GmbH";
+    QTest::newRow("plain letters") << "arv"
+                                   << "Árvíztűrő Kft.";
+    QTest::newRow("accents typed") << "ÁRVÍZ"
+                                   << "Arviz Bt.";
+    QTest::newRow("ss for sharp s") << "strass"
+                                    << "Straße GmbH";
+    QTest::newRow("sharp s for ss") << "straß"
+                                    << "Strasse GmbH";
 }
 
 void TestFoldName::typedBeginningFindsTheName()

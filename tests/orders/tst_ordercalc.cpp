@@ -25,7 +25,7 @@ private Q_SLOTS:
     void grossToNet();
     void discountedPrice_data();
     void discountedPrice();
-    void specialPriceIsNeverRecomputed();
+    void enteredPriceIsNeverRecomputed();
     void lineTotals_data();
     void lineTotals();
     void orderTotals_data();
@@ -137,8 +137,8 @@ void TestOrderCalc::netToGross_data()
     // A whole net price may take two decimals; a net price with decimals keeps as many.
     QTest::newRow("whole, none needed") << 100.0 << 27.0 << 127.0;
     QTest::newRow("whole, two kept") << 1.0 << 5.0 << 1.05;
-    QTest::newRow("one decimal") << 100.5 << 27.0 << 127.6; // 127.635
-    QTest::newRow("two decimals") << 33.33 << 27.0 << 42.33; // 42.3291
+    QTest::newRow("one decimal") << 100.5 << 27.0 << 127.6;       // 127.635
+    QTest::newRow("two decimals") << 33.33 << 27.0 << 42.33;      // 42.3291
     QTest::newRow("one decimal drops two") << 0.1 << 27.0 << 0.1; // 0.127
     QTest::newRow("no VAT") << 10.0 << 0.0 << 10.0;
     QTest::newRow("negative") << -100.0 << 27.0 << -127.0;
@@ -163,7 +163,7 @@ void TestOrderCalc::grossToNet_data()
     QTest::newRow("whole to 2, cut") << 1000.0 << 27.0 << 787.4; // 787.4015...
     QTest::newRow("one decimal to 3") << 12.7 << 27.0 << 10.0;
     QTest::newRow("two decimals to 4") << 99.99 << 27.0 << 78.7323; // 78.73228...
-    QTest::newRow("five percent") << 5.0 << 5.0 << 4.76; // 4.7619...
+    QTest::newRow("five percent") << 5.0 << 5.0 << 4.76;            // 4.7619...
     QTest::newRow("negative") << -127.0 << 27.0 << -100.0;
     QTest::newRow("zero") << 0.0 << 27.0 << 0.0;
 }
@@ -183,8 +183,8 @@ void TestOrderCalc::discountedPrice_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("decimals");
     QTest::addColumn<double>("price");
-    QTest::newRow("percent, whole") << 999.0 << 15.0 << 1 << 0 << 849.0; // 849.15
-    QTest::newRow("percent, half up") << 10.0 << 25.0 << 1 << 0 << 8.0; // 7.5
+    QTest::newRow("percent, whole") << 999.0 << 15.0 << 1 << 0 << 849.0;       // 849.15
+    QTest::newRow("percent, half up") << 10.0 << 25.0 << 1 << 0 << 8.0;        // 7.5
     QTest::newRow("percent, two decimals") << 10.99 << 33.3 << 1 << 2 << 7.33; // 7.33033
     QTest::newRow("percent, negative list price") << -999.0 << 15.0 << 1 << 0 << -849.0;
     QTest::newRow("percent, none") << 100.0 << 0.0 << 1 << 2 << 100.0;
@@ -205,10 +205,10 @@ void TestOrderCalc::discountedPrice()
     QCOMPARE_MONEY(*result, price);
 }
 
-void TestOrderCalc::specialPriceIsNeverRecomputed()
+void TestOrderCalc::enteredPriceIsNeverRecomputed()
 {
-    QVERIFY(!CalcDiscountedPrice(999.0, 15.0, int(DiscountType::SpecialPrice), 0).has_value());
-    QVERIFY(!CalcDiscountedPrice(999.0, 0.0, int(DiscountType::SpecialPrice), 2).has_value());
+    QVERIFY(!CalcDiscountedPrice(999.0, 15.0, int(DiscountType::EnteredPrice), 0).has_value());
+    QVERIFY(!CalcDiscountedPrice(999.0, 0.0, int(DiscountType::EnteredPrice), 2).has_value());
 }
 
 void TestOrderCalc::lineTotals_data()
@@ -223,13 +223,13 @@ void TestOrderCalc::lineTotals_data()
     QTest::newRow("two decimals") << 10.99 << 3.0 << 27.0 << 2
                                   << LineTotals{32.97, 8.9, 32.97 + 8.9}; // VAT 8.9019
     // 33.33 * 1.5 is stored below 49.995, but 100 times it rounds to exactly 4999.5.
-    QTest::newRow("product lands on half") << 33.33 << 1.5 << 27.0 << 2
-                                           << LineTotals{50.0, 13.5, 63.5};
+    QTest::newRow("product lands on half")
+        << 33.33 << 1.5 << 27.0 << 2 << LineTotals{50.0, 13.5, 63.5};
     QTest::newRow("stored below half") << 1.005 << 1.0 << 0.0 << 2 << LineTotals{1.0, 0.0, 1.0};
     // VAT of the rounded net 2 (0.54 -> 1), not of the unrounded 1.6 (0.432 -> 0).
     QTest::newRow("VAT of rounded net") << 1.6 << 1.0 << 27.0 << 0 << LineTotals{2.0, 1.0, 3.0};
-    QTest::newRow("returned goods") << 849.0 << -1.0 << 27.0 << 0
-                                    << LineTotals{-849, -229, -1078}; // -229.23
+    QTest::newRow("returned goods")
+        << 849.0 << -1.0 << 27.0 << 0 << LineTotals{-849, -229, -1078}; // -229.23
     QTest::newRow("no VAT") << 100.0 << 2.0 << 0.0 << 2 << LineTotals{200, 0, 200};
     QTest::newRow("empty") << 0.0 << 0.0 << 0.0 << 2 << LineTotals{0, 0, 0};
 }
@@ -269,6 +269,9 @@ void TestOrderCalc::orderTotals_data()
     // Net 20.8 -> 21, VAT 5.62 -> 6, gross 26.42 -> 26: one forint taken back from the net.
     QTest::newRow("correction down") << Items{{10.4, 2.81, 13.21}, {10.4, 2.81, 13.21}} << false
                                      << false << 0 << Totals{20, 6, 26, -1, 0};
+    // At three decimals the correction keeps its third decimal.
+    QTest::newRow("correction at 3")
+        << Items{{1.0004, 0, 1.0006}} << false << false << 3 << Totals{1.001, 0, 1.001, 0.001, 0};
     // Ten times 0.1 sums to 0.9999999999999999.
     QTest::newRow("sum of tenths")
         << Items(10, LineTotals{0.1, 0, 0.1}) << false << false << 2 << Totals{1, 0, 1, 0, 0};
@@ -281,12 +284,18 @@ void TestOrderCalc::orderTotals_data()
 
     // Cash rounding by the last digit of the whole gross.
     const auto gross = [](double g) { return Items{{g - 200, 200, g}}; };
-    QTest::newRow("round 1000") << gross(1000) << true << false << 0 << Totals{800, 200, 1000, 0, 0};
-    QTest::newRow("round 1001") << gross(1001) << true << false << 0 << Totals{800, 200, 1000, 0, -1};
-    QTest::newRow("round 1002") << gross(1002) << true << false << 0 << Totals{800, 200, 1000, 0, -2};
-    QTest::newRow("round 1003") << gross(1003) << true << false << 0 << Totals{805, 200, 1005, 0, 2};
-    QTest::newRow("round 1004") << gross(1004) << true << false << 0 << Totals{805, 200, 1005, 0, 1};
-    QTest::newRow("round 1006") << gross(1006) << true << false << 0 << Totals{805, 200, 1005, 0, -1};
+    QTest::newRow("round 1000") << gross(1000) << true << false << 0
+                                << Totals{800, 200, 1000, 0, 0};
+    QTest::newRow("round 1001") << gross(1001) << true << false << 0
+                                << Totals{800, 200, 1000, 0, -1};
+    QTest::newRow("round 1002") << gross(1002) << true << false << 0
+                                << Totals{800, 200, 1000, 0, -2};
+    QTest::newRow("round 1003") << gross(1003) << true << false << 0
+                                << Totals{805, 200, 1005, 0, 2};
+    QTest::newRow("round 1004") << gross(1004) << true << false << 0
+                                << Totals{805, 200, 1005, 0, 1};
+    QTest::newRow("round 1006") << gross(1006) << true << false << 0
+                                << Totals{805, 200, 1005, 0, -1};
     QTest::newRow("round -1001") << gross(-1001) << true << false << 0
                                  << Totals{-1200, 200, -1000, 0, 1};
     QTest::newRow("round -1002") << gross(-1002) << true << false << 0
@@ -295,19 +304,17 @@ void TestOrderCalc::orderTotals_data()
                                  << Totals{-1205, 200, -1005, 0, -2};
     QTest::newRow("round -1004") << gross(-1004) << true << false << 0
                                  << Totals{-1205, 200, -1005, 0, -1};
-    QTest::newRow("no round 1003") << gross(1003) << false << false << 0
-                                   << Totals{803, 200, 1003, 0, 0};
+    QTest::newRow("no round 1003")
+        << gross(1003) << false << false << 0 << Totals{803, 200, 1003, 0, 0};
     // The step is chosen from the whole part and added to the gross as it is.
     QTest::newRow("round 12.9") << Items{{10.2, 2.7, 12.9}} << true << false << 1
                                 << Totals{8.2, 2.7, 10.9, 0, -2};
 
     // A credit line: net 666.67 -> 667, VAT 180, gross 846.67 -> 847, then 847 -> 845.
-    QTest::newRow("mixed signs")
-        << Items{{1000, 270, 1270}, {-333.33, -90, -423.33}} << true << false << 0
-        << Totals{665, 180, 845, 0, -2};
-    QTest::newRow("negative total")
-        << Items{{-1000, -270, -1270}, {-2.4, -0.65, -3.05}} << false << false << 0
-        << Totals{-1002, -271, -1273, 0, 0};
+    QTest::newRow("mixed signs") << Items{{1000, 270, 1270}, {-333.33, -90, -423.33}} << true
+                                 << false << 0 << Totals{665, 180, 845, 0, -2};
+    QTest::newRow("negative total") << Items{{-1000, -270, -1270}, {-2.4, -0.65, -3.05}} << false
+                                    << false << 0 << Totals{-1002, -271, -1273, 0, 0};
     QTest::newRow("large amounts")
         << Items{{123456789.12, 33333333.06, 156790122.18}, {0.01, 0, 0.01}} << false << false << 2
         << Totals{123456789.13, 33333333.06, 156790122.19, 0, 0};
@@ -344,11 +351,13 @@ void TestOrderCalc::orderTotalsColumnsFollowMembers()
     t.correctionVat = 5;
     t.correctionGross = 6;
     t.roundingDifference = 7;
-    const QStringList expected = {
-        "ORDERHEAD_TOTAL_NET",           "ORDERHEAD_TOTAL_VAT",
-        "ORDERHEAD_TOTAL_GROSS",         "ORDERHEAD_TOTAL_CORRECTION_NET",
-        "ORDERHEAD_TOTAL_CORRECTION_VAT", "ORDERHEAD_TOTAL_CORRECTION_GROSS",
-        "ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE"};
+    const QStringList expected = {"ORDERHEAD_TOTAL_NET",
+                                  "ORDERHEAD_TOTAL_VAT",
+                                  "ORDERHEAD_TOTAL_GROSS",
+                                  "ORDERHEAD_TOTAL_CORRECTION_NET",
+                                  "ORDERHEAD_TOTAL_CORRECTION_VAT",
+                                  "ORDERHEAD_TOTAL_CORRECTION_GROSS",
+                                  "ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE"};
     for (int i = 0; i < OrderTotals::Count; ++i) {
         QCOMPARE(QString::fromLatin1(OrderTotals::columns()[i]), expected[i]);
         QCOMPARE(t.values()[i], double(i + 1));
@@ -358,12 +367,9 @@ void TestOrderCalc::orderTotalsColumnsFollowMembers()
 void TestOrderCalc::vatDetailGroupsByKeyInFirstSeenOrder()
 {
     const QList<VatDetail> items = {
-        {18, "18%", 18, "18", {100, 18, 118}},
-        {27, "27%", 27, "27", {10.1, 2.73, 12.83}},
-        {18, "18% renamed", 18, "18", {-50, -9, -59}},
-        {std::nullopt, "AAM", 0, "", {5, 0, 5}},
-        {27, "27%", 27, "27", {0.2, 0.05, 0.25}},
-        {std::nullopt, "AAM", 0, "", {1, 0, 1}},
+        {18, "18%", 18, "18", {100, 18, 118}},         {27, "27%", 27, "27", {10.1, 2.73, 12.83}},
+        {18, "18% renamed", 18, "18", {-50, -9, -59}}, {std::nullopt, "AAM", 0, "", {5, 0, 5}},
+        {27, "27%", 27, "27", {0.2, 0.05, 0.25}},      {std::nullopt, "AAM", 0, "", {1, 0, 1}},
     };
     const QList<VatDetail> groups = GroupVatDetail(items);
     QCOMPARE(groups.size(), 3);

@@ -36,36 +36,35 @@ void TestOrderConverters::orderType_data()
     const QColor plain;
 
     // The first condition that holds decides, whatever the later columns say.
-    QTest::newRow("unverified beats all") << QVariant(1) << no << QVariant(5) << QVariant(7) << yes
-                                          << "Unverified" << red;
-    QTest::newRow("verified NULL") << QVariant(0) << null << null << null << null << "Unverified"
-                                   << red;
-    QTest::newRow("verified other text") << QVariant(0) << QVariant("yes") << QVariant(5) << null
-                                         << null << "Unverified" << red;
-    QTest::newRow("unprinted beats cancelled") << QVariant(0) << yes << null << QVariant(7) << no
-                                               << "Unprinted" << green;
-    QTest::newRow("empty number text") << QVariant(0) << yes << QVariant(QString()) << null << null
-                                       << "Unprinted" << green;
-    QTest::newRow("cancelled beats kind") << QVariant(1) << yes << QVariant(5) << QVariant(7) << no
-                                          << "Cancelled Invoice" << blue;
+    QTest::newRow("unverified beats all")
+        << QVariant(1) << no << QVariant(5) << QVariant(7) << yes << "Unverified" << red;
+    QTest::newRow("verified NULL")
+        << QVariant(0) << null << null << null << null << "Unverified" << red;
+    QTest::newRow("verified other text")
+        << QVariant(0) << QVariant("yes") << QVariant(5) << null << null << "Unverified" << red;
+    QTest::newRow("unprinted beats cancelled")
+        << QVariant(0) << yes << null << QVariant(7) << no << "Unprinted" << green;
+    QTest::newRow("empty number text")
+        << QVariant(0) << yes << QVariant(QString()) << null << null << "Unprinted" << green;
+    QTest::newRow("cancelled beats kind")
+        << QVariant(1) << yes << QVariant(5) << QVariant(7) << no << "Cancelled Invoice" << blue;
     QTest::newRow("cancelled consolidated")
         << QVariant(0) << yes << QVariant(5) << QVariant("A-0007") << yes
         << "Cancelled Invoice (consolidated)" << blue;
     QTest::newRow("invoice") << QVariant(0) << yes << QVariant(5) << null << no << "Invoice"
                              << plain;
-    QTest::newRow("invoice, number as text")
-        << QVariant(0) << yes << QVariant("A-000005") << QVariant(QString()) << null << "Invoice"
-        << plain;
-    QTest::newRow("consolidated invoice") << QVariant(0) << yes << QVariant(5) << null << yes
-                                          << "Consolidated Invoice" << plain;
-    QTest::newRow("cancel invoice") << QVariant(1) << yes << QVariant(6) << null << no
-                                    << "Cancel Invoice" << purple;
-    QTest::newRow("cancel invoice, kind as text") << QVariant("1") << yes << QVariant(6) << null
-                                                  << null << "Cancel Invoice" << purple;
+    QTest::newRow("invoice, number as text") << QVariant(0) << yes << QVariant("A-000005")
+                                             << QVariant(QString()) << null << "Invoice" << plain;
+    QTest::newRow("consolidated invoice")
+        << QVariant(0) << yes << QVariant(5) << null << yes << "Consolidated Invoice" << plain;
+    QTest::newRow("cancel invoice")
+        << QVariant(1) << yes << QVariant(6) << null << no << "Cancel Invoice" << purple;
+    QTest::newRow("cancel invoice, kind as text")
+        << QVariant("1") << yes << QVariant(6) << null << null << "Cancel Invoice" << purple;
     QTest::newRow("cancel consolidated") << QVariant(1) << yes << QVariant(6) << null << yes
                                          << "Cancel Invoice (consolidated)" << purple;
-    QTest::newRow("verified as number") << QVariant(0) << QVariant(1) << QVariant(5) << null << null
-                                        << "Invoice" << plain;
+    QTest::newRow("verified as number")
+        << QVariant(0) << QVariant(1) << QVariant(5) << null << null << "Invoice" << plain;
     QTest::newRow("other kind") << QVariant(2) << yes << QVariant(5) << null << null << QString()
                                 << plain;
     QTest::newRow("kind NULL") << null << yes << QVariant(5) << null << null << QString() << plain;
@@ -80,7 +79,8 @@ void TestOrderConverters::orderType()
     QFETCH(QVariant, consolidated);
     QFETCH(QString, text);
     QFETCH(QColor, ink);
-    const OrderTypeText result = ConvertOrderType(type, verified, number, cancelledBy, consolidated);
+    const OrderTypeText result =
+        ConvertOrderType(type, verified, number, cancelledBy, consolidated);
     QCOMPARE(result.text, text);
     QCOMPARE(result.ink, ink);
 }

@@ -1,4 +1,5 @@
-// The forint totals fixed at issue time, on a real company database.
+// The order arithmetic that reads and writes a real company database: the forint totals fixed
+// at issue time and the VAT summary.
 #include "ExactMoney.h"
 #include "TestCompany.h"
 
@@ -40,13 +41,27 @@ qint64 InsertItem(qint64 orderId, Amounts totals)
     return st.lastInsertId().toLongLong();
 }
 
+void InsertVatItem(qint64 orderId, const QVariant& vatId, const QString& name, double percent,
+                   Amounts totals)
+{
+    SqlStatement st(
+        QStringLiteral("insert into ORDERITEM (ORDERITEM_ORDERHEAD_ID, ORDERITEM_VAT_ID, "
+                       "ORDERITEM_VAT_NAME, ORDERITEM_VAT_PERCENT, ORDERITEM_VAT_CODE, "
+                       "ORDERITEM_TOTAL_NET, ORDERITEM_TOTAL_VAT, ORDERITEM_TOTAL_GROSS) "
+                       "values (?, ?, ?, ?, ?, ?, ?, ?)"),
+        {orderId, vatId, name, percent, name.left(2), totals.net, totals.vat, totals.gross});
+    if (!st.exec())
+        qFatal("insert item: %s", qPrintable(st.errorText()));
+}
+
 QVariantList LocalTotals(const char* table, const char* idColumn, qint64 id)
 {
     const QString prefix = QString::fromLatin1(table);
-    SqlStatement st(QStringLiteral("select %1_TOTAL_LOCAL_CURRENCY_NET, %1_TOTAL_LOCAL_CURRENCY_VAT, "
-                                   "%1_TOTAL_LOCAL_CURRENCY_GROSS from %1 where %2 = ?")
-                        .arg(prefix, QString::fromLatin1(idColumn)),
-                    {id});
+    SqlStatement st(
+        QStringLiteral("select %1_TOTAL_LOCAL_CURRENCY_NET, %1_TOTAL_LOCAL_CURRENCY_VAT, "
+                       "%1_TOTAL_LOCAL_CURRENCY_GROSS from %1 where %2 = ?")
+            .arg(prefix, QString::fromLatin1(idColumn)),
+        {id});
     if (!st.exec() || !st.next())
         return {};
     return {st.value(0), st.value(1), st.value(2)};
@@ -64,23 +79,24 @@ QVariantList ItemLocal(qint64 id)
 
 void SetForintDecimals(int line, int invoice)
 {
-    QVERIFY(ExecSql(QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
-                                   "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS = ? where CURRENCY_ID = 0"),
-                    {line, invoice}));
+    QVERIFY(ExecSql(
+        QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
+                       "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS = ? where CURRENCY_ID = 0"),
+        {line, invoice}));
 }
 
 } // namespace
 
 #define QCOMPARE_AMOUNTS(actual, n, v, g)                                                          \
     do {                                                                                           \
-        const QVariantList amounts_ = (actual);                                                          \
-        QCOMPARE(amounts_.size(), 3);                                                                    \
-        QCOMPARE_MONEY(amounts_[0].toDouble(), n);                                                       \
-        QCOMPARE_MONEY(amounts_[1].toDouble(), v);                                                       \
-        QCOMPARE_MONEY(amounts_[2].toDouble(), g);                                                       \
+        const QVariantList amounts_ = (actual);                                                    \
+        QCOMPARE(amounts_.size(), 3);                                                              \
+        QCOMPARE_MONEY(amounts_[0].toDouble(), n);                                                 \
+        QCOMPARE_MONEY(amounts_[1].toDouble(), v);                                                 \
+        QCOMPARE_MONEY(amounts_[2].toDouble(), g);                                                 \
     } while (false)
 
-class TestLocalCurrencyTotals : public QObject
+class TestOrderCalcDatabase : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -92,16 +108,17 @@ private Q_SLOTS:
     void missingOrderFails();
     void failurePartWayWritesNothing();
     void joinsTheCallersTransaction();
+    void vatDetailOfOneOrder();
 };
 
-void TestLocalCurrencyTotals::forintOrderCopiesWithoutRounding_data()
+void TestOrderCalcDatabase::forintOrderCopiesWithoutRounding_data()
 {
     QTest::addColumn<QVariant>("currencyId");
     QTest::newRow("currency 0") << QVariant(0);
     QTest::newRow("no currency") << QVariant();
 }
 
-void TestLocalCurrencyTotals::forintOrderCopiesWithoutRounding()
+void TestOrderCalcDatabase::forintOrderCopiesWithoutRounding()
 {
     QFETCH(QVariant, currencyId);
     TestCompany company;
@@ -122,7 +139,7 @@ void TestLocalCurrencyTotals::forintOrderCopiesWithoutRounding()
     QCOMPARE_MONEY(ItemLocal(otherItem).at(0).toDouble(), 0.0); // the column's default
 }
 
-void TestLocalCurrencyTotals::foreignOrderConvertsItemsAndOrderSeparately_data()
+void TestOrderCalcDatabase::foreignOrderConvertsItemsAndOrderSeparately_data()
 {
     QTest::addColumn<int>("lineDecimals");
     QTest::addColumn<int>("invoiceDecimals");
@@ -144,7 +161,7 @@ void TestLocalCurrencyTotals::foreignOrderConvertsItemsAndOrderSeparately_data()
         << QList<double>{5235.09, 1414.79, 6649.88};
 }
 
-void TestLocalCurrencyTotals::foreignOrderConvertsItemsAndOrderSeparately()
+void TestOrderCalcDatabase::foreignOrderConvertsItemsAndOrderSeparately()
 {
     QFETCH(int, lineDecimals);
     QFETCH(int, invoiceDecimals);
@@ -166,7 +183,7 @@ void TestLocalCurrencyTotals::foreignOrderConvertsItemsAndOrderSeparately()
     QCOMPARE_AMOUNTS(OrderLocal(id), order[0], order[1], order[2]);
 }
 
-void TestLocalCurrencyTotals::missingForintRowFailsAndWritesNothing()
+void TestOrderCalcDatabase::missingForintRowFailsAndWritesNothing()
 {
     TestCompany company;
     QVERIFY(company.isValid());
@@ -186,14 +203,14 @@ void TestLocalCurrencyTotals::missingForintRowFailsAndWritesNothing()
     QCOMPARE_AMOUNTS(OrderLocal(forint), 100.0, 27.0, 127.0);
 }
 
-void TestLocalCurrencyTotals::missingOrderFails()
+void TestOrderCalcDatabase::missingOrderFails()
 {
     TestCompany company;
     QVERIFY(company.isValid());
     QVERIFY(!CalcLocalCurrencyTotals(4711));
 }
 
-void TestLocalCurrencyTotals::failurePartWayWritesNothing()
+void TestOrderCalcDatabase::failurePartWayWritesNothing()
 {
     TestCompany company;
     QVERIFY(company.isValid());
@@ -210,7 +227,7 @@ void TestLocalCurrencyTotals::failurePartWayWritesNothing()
     QVERIFY(OrderLocal(id).at(0).isNull());
 }
 
-void TestLocalCurrencyTotals::joinsTheCallersTransaction()
+void TestOrderCalcDatabase::joinsTheCallersTransaction()
 {
     TestCompany company;
     QVERIFY(company.isValid());
@@ -232,5 +249,38 @@ void TestLocalCurrencyTotals::joinsTheCallersTransaction()
     QCOMPARE_AMOUNTS(OrderLocal(id), 4000.0, 1080.0, 5080.0);
 }
 
-QTEST_GUILESS_MAIN(TestLocalCurrencyTotals)
-#include "tst_localcurrencytotals.moc"
+void TestOrderCalcDatabase::vatDetailOfOneOrder()
+{
+    TestCompany company;
+    QVERIFY(company.isValid());
+    const qint64 id = InsertOrder(0, 1.0, {});
+    const qint64 other = InsertOrder(0, 1.0, {});
+    InsertVatItem(id, 3, QStringLiteral("5%"), 5, {1000, 50, 1050});
+    InsertVatItem(other, 1, QStringLiteral("27%"), 27, {999, 269.73, 1268.73});
+    InsertVatItem(id, 1, QStringLiteral("27%"), 27, {100.1, 27.03, 127.13});
+    InsertVatItem(id, QVariant(), QStringLiteral("AAM"), 0, {40, 0, 40});
+    InsertVatItem(id, 3, QStringLiteral("5%"), 5, {-200, -10, -210});
+    InsertVatItem(id, 1, QStringLiteral("27%"), 27, {0.2, 0.05, 0.25});
+
+    QList<VatDetail> groups;
+    QVERIFY(LoadVatDetail(id, groups));
+    // By VAT key in the order the items were entered; the other order's item stays out.
+    QCOMPARE(groups.size(), 3);
+    QCOMPARE(groups[0].vatId, std::optional<qint64>(3));
+    QCOMPARE(groups[0].name, QStringLiteral("5%"));
+    QCOMPARE(groups[0].code, QStringLiteral("5%"));
+    QCOMPARE_MONEY(groups[0].percent, 5.0);
+    QCOMPARE_MONEY(groups[0].totals.net, 800.0);
+    QCOMPARE_MONEY(groups[0].totals.vat, 40.0);
+    QCOMPARE_MONEY(groups[0].totals.gross, 840.0);
+    QCOMPARE(groups[1].vatId, std::optional<qint64>(1));
+    QCOMPARE_MONEY(groups[1].totals.net, 100.1 + 0.2);
+    QCOMPARE_MONEY(groups[1].totals.vat, 27.03 + 0.05);
+    QCOMPARE_MONEY(groups[1].totals.gross, 127.13 + 0.25);
+    QVERIFY(!groups[2].vatId.has_value());
+    QCOMPARE(groups[2].name, QStringLiteral("AAM"));
+    QCOMPARE_MONEY(groups[2].totals.gross, 40.0);
+}
+
+QTEST_GUILESS_MAIN(TestOrderCalcDatabase)
+#include "tst_ordercalcdatabase.moc"
