@@ -20,30 +20,23 @@ void TestAmountInWords::words_data()
 
     // One group: the long forms "kettő" and "egyszáz", tens joined to units.
     QTest::newRow("zero") << qint64(0) << "nulla";
-    QTest::newRow("one") << qint64(1) << "egy";
     QTest::newRow("two") << qint64(2) << "kettő";
-    QTest::newRow("ten") << qint64(10) << "tíz";
     QTest::newRow("eleven") << qint64(11) << "tizenegy";
     QTest::newRow("twenty") << qint64(20) << "húsz";
     QTest::newRow("twenty-five") << qint64(25) << "huszonöt";
-    QTest::newRow("thirty") << qint64(30) << "harminc";
     QTest::newRow("ninety-nine") << qint64(99) << "kilencvenkilenc";
     QTest::newRow("hundred") << qint64(100) << "egyszáz";
     QTest::newRow("hundred and one") << qint64(101) << "egyszázegy";
-    QTest::newRow("hundred and ten") << qint64(110) << "egyszáztíz";
     QTest::newRow("two hundred twelve") << qint64(212) << "kettőszáztizenkettő";
     QTest::newRow("999") << qint64(999) << "kilencszázkilencvenkilenc";
 
     // Groups: the group word directly after its group, one space between groups.
     QTest::newRow("thousand") << qint64(1000) << "egyezer";
-    QTest::newRow("thousand and one") << qint64(1001) << "egyezer egy";
     QTest::newRow("1234") << qint64(1234) << "egyezer kettőszázharmincnégy";
     QTest::newRow("two thousand") << qint64(2000) << "kettőezer";
     QTest::newRow("twelve thousand") << qint64(12000) << "tizenkettőezer";
-    QTest::newRow("hundred thousand") << qint64(100000) << "egyszázezer";
     QTest::newRow("million and one") << qint64(1000001) << "egymillió egy";
     QTest::newRow("two million") << qint64(2000000) << "kettőmillió";
-    QTest::newRow("million and hundred") << qint64(1000100) << "egymillió egyszáz";
     QTest::newRow("twenty billion") << qint64(20000000000) << "húszmilliárd";
     QTest::newRow("all groups") << qint64(1002003004) << "egymilliárd kettőmillió háromezer négy";
     QTest::newRow("largest covered") << qint64(999999999999)
@@ -53,7 +46,6 @@ void TestAmountInWords::words_data()
 
     // Negative amounts.
     QTest::newRow("minus seven") << qint64(-7) << "mínusz hét";
-    QTest::newRow("minus thousand") << qint64(-1000) << "mínusz egyezer";
     QTest::newRow("minus 1234") << qint64(-1234) << "mínusz egyezer kettőszázharmincnégy";
 
     // From 10^12 the higher digits are dropped.

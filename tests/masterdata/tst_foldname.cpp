@@ -9,7 +9,6 @@ class TestFoldName : public QObject
 private Q_SLOTS:
     void fold_data();
     void fold();
-    void typedBeginningFindsTheName_data();
     void typedBeginningFindsTheName();
 };
 
@@ -17,57 +16,25 @@ void TestFoldName::fold_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("folded");
-
-    // Hungarian, both cases, including the double acute of ő and ű.
-    QTest::newRow("company") << "Árvíztűrő Kft."
-                             << "ARVIZTURO KFT.";
-    QTest::newRow("lower") << "árvíztűrő tükörfúrógép"
-                           << "ARVIZTURO TUKORFUROGEP";
-    QTest::newRow("upper") << "ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP"
-                           << "ARVIZTURO TUKORFUROGEP";
-    QTest::newRow("double acute") << "Őrség Űrhajó"
-                                  << "ORSEG URHAJO";
-    // Typed with combining accents instead of precomposed letters.
-    QTest::newRow("combining accents") << QString::fromUtf8("A\xcc\x81rvi\xcc\x81z") << "ARVIZ";
-
+    const auto row = [](const char* name, const QString& text, const char* folded) {
+        QTest::newRow(name) << text << QString::fromUtf8(folded);
+    };
+    // Hungarian in both cases, the double acute of ő and ű included.
+    row("company", "Árvíztűrő Kft.", "ARVIZTURO KFT.");
+    row("upper", "ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP", "ARVIZTURO TUKORFUROGEP");
+    row("double acute", "őrség űrhajó", "ORSEG URHAJO");
+    row("combining accents", QString::fromUtf8("A\xcc\x81rvi\xcc\x81z"), "ARVIZ");
     // German.
-    QTest::newRow("umlauts") << "Müller Äpfel Öl"
-                             << "MULLER APFEL OL";
-    QTest::newRow("sharp s") << "Größe Straße"
-                             << "GROSSE STRASSE";
-    QTest::newRow("capital sharp s") << "GROẞE"
-                                     << "GROSSE";
-
-    // Other Latin letters: with marks, and those without a decomposition.
-    QTest::newRow("czech") << "Čapek Škoda Žilina"
-                           << "CAPEK SKODA ZILINA";
-    QTest::newRow("romance") << "façade Ñandú Şişli"
-                             << "FACADE NANDU SISLI";
-    QTest::newRow("polish") << "Łódź"
-                            << "LODZ";
-    QTest::newRow("scandinavian") << "Øresund Ærø"
-                                  << "ORESUND AERO";
-    QTest::newRow("croatian") << "Đorđe"
-                              << "DORDE";
-    QTest::newRow("french ligature") << "Œuvre cœur"
-                                     << "OEUVRE COEUR";
-    QTest::newRow("turkish i") << "İstanbul ılık"
-                               << "ISTANBUL ILIK";
-    QTest::newRow("icelandic") << "Þór Aðalsteinn"
-                               << "THOR ADALSTEINN";
-    // Compatibility forms spelled out.
-    QTest::newRow("typographic ligature") << "ﬁnom"
-                                          << "FINOM";
-    QTest::newRow("full-width") << "ＡＢＣ"
-                                << "ABC";
-
+    row("umlauts", "Müller Äpfel Öl", "MULLER APFEL OL");
+    row("sharp s", "Größe Straße GROẞE", "GROSSE STRASSE GROSSE");
+    // Other Latin letters: with marks, and those that do not decompose.
+    row("with marks", "Čapek façade Ñandú Şişli İstanbul", "CAPEK FACADE NANDU SISLI ISTANBUL");
+    row("own letters", "Łódź Øresund Ærø Đorđe cœur ılık Þór",
+        "LODZ ORESUND AERO DORDE COEUR ILIK THOR");
+    row("compatibility forms", "ﬁnom ＡＢＣ", "FINOM ABC");
     // Everything else stays, only upper-cased.
-    QTest::newRow("punctuation and digits") << "1. sz. Bt. & Co (kft)"
-                                            << "1. SZ. BT. & CO (KFT)";
-    QTest::newRow("cyrillic") << "Москва"
-                              << "МОСКВА";
-    QTest::newRow("empty") << ""
-                           << "";
+    row("punctuation and digits", "1. sz. Bt. & Co (kft)", "1. SZ. BT. & CO (KFT)");
+    row("cyrillic", "Москва", "МОСКВА");
 }
 
 void TestFoldName::fold()
@@ -77,26 +44,13 @@ void TestFoldName::fold()
     QCOMPARE(FoldName(name), folded);
 }
 
-void TestFoldName::typedBeginningFindsTheName_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("plain letters") << "arv"
-                                   << "Árvíztűrő Kft.";
-    QTest::newRow("accents typed") << "ÁRVÍZ"
-                                   << "Arviz Bt.";
-    QTest::newRow("ss for sharp s") << "strass"
-                                    << "Straße GmbH";
-    QTest::newRow("sharp s for ss") << "straß"
-                                    << "Strasse GmbH";
-}
-
 void TestFoldName::typedBeginningFindsTheName()
 {
-    // The list searches for stored folded names beginning with the folded typed text.
-    QFETCH(QString, typed);
-    QFETCH(QString, name);
-    QVERIFY(FoldName(name).startsWith(FoldName(typed)));
+    // The lists search for stored folded names beginning with the folded typed text.
+    QVERIFY(FoldName(QStringLiteral("Árvíztűrő Kft.")).startsWith(FoldName(QStringLiteral("arv"))));
+    QVERIFY(FoldName(QStringLiteral("Arviz Bt.")).startsWith(FoldName(QStringLiteral("ÁRVÍZ"))));
+    QVERIFY(FoldName(QStringLiteral("Straße")).startsWith(FoldName(QStringLiteral("strass"))));
+    QVERIFY(FoldName(QStringLiteral("Strasse")).startsWith(FoldName(QStringLiteral("straß"))));
 }
 
 QTEST_GUILESS_MAIN(TestFoldName)
