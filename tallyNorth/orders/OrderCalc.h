@@ -12,7 +12,7 @@
 #include <optional>
 
 // Values of ORDERITEM_DISCOUNT_TYPE (also PARTNER_DISCOUNT_TYPE and the settings' default).
-enum class DiscountType { None = 0, PercentFromListPrice = 1, EnteredPrice = 2 };
+enum class DiscountType { NoDiscount = 0, PercentFromListPrice = 1, EnteredPrice = 2 };
 
 // Rounds half away from zero (2.5 -> 3, -2.5 -> -3); |value| below 1e-15 gives 0.
 double RoundDecimals(double value, int decimals);
