@@ -27,15 +27,6 @@ double PowerOfTen(int exponent)
     return std::pow(10.0, exponent);
 }
 
-// |scaled| rounded half up. Taking the fraction apart instead of adding 0.5 keeps the two cases
-// where that addition itself rounds: 0.49999999999999994 + 0.5 gives 1.0, and above 2^52 the
-// sum lands on the next even integer.
-double RoundHalfUp(double scaled)
-{
-    const double whole = std::floor(scaled);
-    return scaled - whole >= 0.5 ? whole + 1.0 : whole;
-}
-
 } // namespace
 
 double RoundDecimals(double value, int decimals)
@@ -46,16 +37,17 @@ double RoundDecimals(double value, int decimals)
         // Rounding to tens, hundreds...: divide by the exact power rather than multiply by an
         // inexact 0.1, 0.01...
         const double p = PowerOfTen(-decimals);
-        const double scaled = std::fabs(value) / p;
-        return std::copysign(RoundHalfUp(scaled) * p, value) + 0.0;
+        const double r = value > 0 ? std::floor(value / p + 0.5) : std::ceil(value / p - 0.5);
+        return r * p + 0.0;
     }
     const double p = PowerOfTen(decimals);
-    const double scaled = std::fabs(value) * p;
-    // Beyond a double's range: such a value has no digits to drop anyway.
-    if (!std::isfinite(scaled))
+    // Exactly floor(x * p + 0.5) / p (ceil(x * p - 0.5) / p below zero), as invoices have always
+    // been rounded, including what double arithmetic makes of 1.005. Adding 0.0 turns a negative
+    // zero into zero: "-0" must not be printed on an invoice.
+    const double r = value > 0 ? std::floor(value * p + 0.5) : std::ceil(value * p - 0.5);
+    if (!std::isfinite(r))
         return value;
-    // Adding 0.0 turns a negative zero into zero: "-0" must not be printed on an invoice.
-    return std::copysign(RoundHalfUp(scaled) / p, value) + 0.0;
+    return r / p + 0.0;
 }
 
 int DecimalCount(double value)

