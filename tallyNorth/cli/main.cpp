@@ -1,5 +1,6 @@
 // The command-line front end: works on a company database without a window.
 #include "Cli.h"
+#include "AppCommands.h"
 #include "CliInteraction.h"
 
 #include "app/BaseFolder.h"
@@ -16,11 +17,32 @@ const CliCommand kCommands[] = {
          *c.out << QCoreApplication::applicationVersion() << Qt::endl;
          return int(ExitOk);
      }},
+    {"companies", "companies", RunCompanies},
+    {"create", "create NAME --tax-no NO [--zip Z] [--city C] [--address A] [--file NAME.db]",
+     RunCreate},
+    {"check", "check [--unpaid-methods \"A,B\"]", RunCheck},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
 {
     *context.err << PlainMessage(text) << Qt::endl;
+}
+
+bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,
+                   QHash<QString, QString>* options)
+{
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString& arg = args.at(i);
+        if (!arg.startsWith(QLatin1String("--"))) {
+            *positional << arg;
+            continue;
+        }
+        const QString name = arg.mid(2);
+        if (!optionNames.contains(name) || i + 1 >= args.size())
+            return false;
+        options->insert(name, args.at(++i));
+    }
+    return true;
 }
 
 namespace {
