@@ -354,11 +354,12 @@ bool InsertLaterData(const OldCompanyFile& file)
     bool ok = ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/reference_data.sql")))
         && ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/order_labels.sql")));
     if (file.version >= 301)
-        return ok && ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/order_labels_added.sql")));
-    ok = ok
-        && Exec(QStringLiteral("update ORDERLABELTRANSLATION set ORDERLABELTRANSLATION_TEXT = "
-                               "'A fizetés módja' where ORDERLABELTRANSLATION_KEY = "
-                               "'TR_PAYMENT_METHOD' and ORDERLABELTRANSLATION_LANG_ID = 0"));
+        ok = ok && ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/order_labels_added.sql")));
+    else
+        ok = ok
+            && Exec(QStringLiteral("update ORDERLABELTRANSLATION set ORDERLABELTRANSLATION_TEXT = "
+                                   "'A fizetés módja' where ORDERLABELTRANSLATION_KEY = "
+                                   "'TR_PAYMENT_METHOD' and ORDERLABELTRANSLATION_LANG_ID = 0"));
     for (int id = 0; id < 3; ++id) {
         ok = ok
             && Insert(QStringLiteral("CURRENCYY"),
@@ -366,7 +367,8 @@ bool InsertLaterData(const OldCompanyFile& file)
                        {"CURRENCY_NAME", QStringList{QStringLiteral("Magyar forint"), QStringLiteral("Euro"),
                                                      QStringLiteral("Amerikai Dollár")}
                                              .at(id)},
-                       {"CURRENCY_RATE", QList<int>{1, 280, 180}.at(id)}});
+                       {"CURRENCY_RATE", QList<int>{1, 280, 180}.at(id)},
+                       {"CURRENCY_BANK_BY_SETUP", QStringLiteral("1")}});
     }
     return ok;
 }
