@@ -20,7 +20,7 @@ QString Tr(const char* text)
 // The command line cannot ask which company to use: it lists them and wants --db.
 std::optional<QString> RefuseToChoose(CliContext& context, const QList<CompanyEntry>& entries)
 {
-    QStringList lines{QCoreApplication::translate("DatabaseSelectDlg",
+    QStringList lines{QCoreApplication::translate("DatabaseSelectLayout",
                                                   "Select the database/company you want to use")};
     for (const CompanyEntry& e : entries)
         lines << QLatin1String("  ") + e.fileName() + QLatin1String(": ") + e.name;
