@@ -31,7 +31,8 @@ QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbF
     }
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
     if (files.isEmpty()) {
-        interaction.error(Tr("Missing database files. Maybe you have to reinstall the application."));
+        interaction.error(
+            Tr("Missing database files. Maybe you have to reinstall the application."));
         return {};
     }
     if (files.size() == 1)

@@ -28,8 +28,8 @@ bool FileExistsIn(const QDir& dir, const QString& name)
 
 bool ValidFileName(const QString& name)
 {
-    return name.size() > 3 && name.endsWith(QLatin1String(".db")) && !name.startsWith(u'.')
-        && !name.contains(u'/') && !name.contains(u'\\');
+    return name.size() > 3 && name.endsWith(QLatin1String(".db")) && !name.startsWith(u'.') &&
+           !name.contains(u'/') && !name.contains(u'\\');
 }
 
 Result Validate(const NewCompany& company, const QString& folder)
@@ -56,18 +56,19 @@ Result WriteCompany(const NewCompany& company, const QString& path, Interaction&
 {
     ScopedConnection connection(path, ScopedConnection::Mode::ReadWrite);
     if (!connection.isOpen())
-        return Result::failure(
-            FillArgs(QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
-                     {path}),
-            connection.errorText());
+        return Result::failure(FillArgs(QCoreApplication::translate(
+                                            "Database", "Can't create or open database file:\n%s"),
+                                        {path}),
+                               connection.errorText());
     Result r = CreateSchema(&interaction, nullptr, connection.db());
     if (!r)
         return r;
-    SqlStatement st(QStringLiteral("update SETUP set SETUP_NAME = ?, SETUP_TAX_NO = ?, SETUP_ZIP = ?, "
-                                   "SETUP_CITY = ?, SETUP_ADDRESS = ?"),
-                    {company.name.trimmed(), company.taxNo.trimmed(), company.zip.trimmed(),
-                     company.city.trimmed(), company.address.trimmed()},
-                    connection.db());
+    SqlStatement st(
+        QStringLiteral("update SETUP set SETUP_NAME = ?, SETUP_TAX_NO = ?, SETUP_ZIP = ?, "
+                       "SETUP_CITY = ?, SETUP_ADDRESS = ?"),
+        {company.name.trimmed(), company.taxNo.trimmed(), company.zip.trimmed(),
+         company.city.trimmed(), company.address.trimmed()},
+        connection.db());
     if (!st.exec() || st.numRowsAffected() != 1)
         return st.failure(QCoreApplication::translate("Setup", "Unable to update SETUP record."));
     return Result::success();
@@ -114,9 +115,9 @@ Result CreateCompany(const NewCompany& company, const QString& folder, Interacti
     if (!r)
         return r;
     if (!QDir().mkpath(folder))
-        return Result::failure(
-            FillArgs(QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
-                     {folder}));
+        return Result::failure(FillArgs(
+            QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
+            {folder}));
     const QString name =
         company.fileName.isEmpty() ? CompanyFileName(company.name, folder) : company.fileName;
     const QString file = QDir(folder).absoluteFilePath(name);

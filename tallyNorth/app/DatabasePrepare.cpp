@@ -103,8 +103,8 @@ Result DatabasePrepare::upgrade()
 Result DatabasePrepare::runSteps(Progress& progress)
 {
     const Step steps[] = {
-        {-1, &DatabasePrepare::step1}, {1, &DatabasePrepare::step2},
-        {2, &DatabasePrepare::step3},  {3, &DatabasePrepare::step4},
+        {-1, &DatabasePrepare::step1},  {1, &DatabasePrepare::step2},
+        {2, &DatabasePrepare::step3},   {3, &DatabasePrepare::step4},
         {300, &DatabasePrepare::step5}, {301, &DatabasePrepare::step6},
     };
     progress.setTotal(int(std::size(steps)));
@@ -247,7 +247,8 @@ Result DatabasePrepare::step6()
 // Consolidated invoices date each line; older lines take their order's shipping date.
 Result DatabasePrepare::copyShippingDates()
 {
-    SqlStatement orders(QStringLiteral("select ORDERHEAD_ID, ORDERHEAD_DATE_SHIPPED from ORDERHEAD"));
+    SqlStatement orders(
+        QStringLiteral("select ORDERHEAD_ID, ORDERHEAD_DATE_SHIPPED from ORDERHEAD"));
     if (!orders.exec())
         return orders.failure(tr("Unable to upgrade database."));
     QList<QPair<QVariant, QVariant>> dates;
@@ -287,15 +288,15 @@ Result DatabasePrepare::selectUnpaidPaymentMethods()
     for (int i = 0; i < names.size() && i < checked->size(); ++i) {
         if (!checked->at(i))
             continue;
-        const Result r = ExecSql(
-            QStringLiteral("update ORDERHEAD set ORDERHEAD_PAID = '0', "
-                           "ORDERHEAD_UNPAID_TOTAL = ORDERHEAD_TOTAL_GROSS, "
-                           "ORDERHEAD_PAYMENTMETHOD_PAID = '0' "
-                           "where ORDERHEAD_PAYMENTMETHOD_NAME = ? "
-                           "and ifnull(ORDERHEAD_INVOICE_NO, 0) <> 0 "
-                           "and ifnull(ORDERHEAD_CANCELLING_INVOICE_NO, 0) = 0 "
-                           "and ifnull(ORDERHEAD_CANCELLED_INVOICE_NO, 0) = 0"),
-            {names.at(i)}, tr("Unable to set paid states."));
+        const Result r =
+            ExecSql(QStringLiteral("update ORDERHEAD set ORDERHEAD_PAID = '0', "
+                                   "ORDERHEAD_UNPAID_TOTAL = ORDERHEAD_TOTAL_GROSS, "
+                                   "ORDERHEAD_PAYMENTMETHOD_PAID = '0' "
+                                   "where ORDERHEAD_PAYMENTMETHOD_NAME = ? "
+                                   "and ifnull(ORDERHEAD_INVOICE_NO, 0) <> 0 "
+                                   "and ifnull(ORDERHEAD_CANCELLING_INVOICE_NO, 0) = 0 "
+                                   "and ifnull(ORDERHEAD_CANCELLED_INVOICE_NO, 0) = 0"),
+                    {names.at(i)}, tr("Unable to set paid states."));
         if (!r)
             return r;
     }
@@ -310,7 +311,8 @@ Result DatabasePrepare::carryLineRounding()
         return st.failure(tr("Unable to load rounding setup."));
     // A file without a settings row had no rounding setting: whole forints.
     const qint64 digits = st.next() ? ToInteger(st.value(0)) : 0;
-    return ExecSql(QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
-                                  "CURRENCY_LINE_TOTAL_PRINTING_DECIMALS = ? where CURRENCY_ID = 0"),
-                   {digits, digits > 0 ? 2 : 0}, tr("Unable to setup rounding."));
+    return ExecSql(
+        QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
+                       "CURRENCY_LINE_TOTAL_PRINTING_DECIMALS = ? where CURRENCY_ID = 0"),
+        {digits, digits > 0 ? 2 : 0}, tr("Unable to setup rounding."));
 }

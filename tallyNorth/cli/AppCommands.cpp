@@ -39,7 +39,7 @@ int RunCompanies(CliContext& context, const QStringList& args)
         ReadCompanyEntries(OfferedCompanyFiles(CompanyFiles(BaseFolder::dbFolder())));
     for (const CompanyEntry& e : entries) {
         *context.out << QStringList{e.fileName(), e.name, e.zip, e.city, e.address, e.taxNo}.join(
-            u'\t')
+                            u'\t')
                      << Qt::endl;
     }
     return ExitOk;
@@ -51,8 +51,8 @@ int RunCreate(CliContext& context, const QStringList& args)
     QHash<QString, QString> options;
     const QStringList names{QStringLiteral("tax-no"), QStringLiteral("zip"), QStringLiteral("city"),
                             QStringLiteral("address"), QStringLiteral("file")};
-    if (!ParseVerbArgs(args, names, &positional, &options) || positional.size() != 1
-        || !options.contains(QStringLiteral("tax-no")))
+    if (!ParseVerbArgs(args, names, &positional, &options) || positional.size() != 1 ||
+        !options.contains(QStringLiteral("tax-no")))
         return ExitUsage;
     NewCompany company;
     company.name = positional.first();
@@ -75,12 +75,12 @@ int RunCheck(CliContext& context, const QStringList& args)
 {
     QStringList positional;
     QHash<QString, QString> options;
-    if (!ParseVerbArgs(args, {QStringLiteral("unpaid-methods")}, &positional, &options)
-        || !positional.isEmpty())
+    if (!ParseVerbArgs(args, {QStringLiteral("unpaid-methods")}, &positional, &options) ||
+        !positional.isEmpty())
         return ExitUsage;
     if (auto* cli = dynamic_cast<CliInteraction*>(context.interaction)) {
-        const QStringList methods = options.value(QStringLiteral("unpaid-methods"))
-                                        .split(u',', Qt::SkipEmptyParts);
+        const QStringList methods =
+            options.value(QStringLiteral("unpaid-methods")).split(u',', Qt::SkipEmptyParts);
         for (const QString& m : methods)
             cli->checkedItems << m.trimmed();
     }
@@ -95,9 +95,10 @@ int RunCheck(CliContext& context, const QStringList& args)
         }
         PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {demo}));
     }
-    const QString path = ChooseStartupDatabase(
-        context.dbPath, folder, *context.interaction,
-        [&context](const QList<CompanyEntry>& entries) { return RefuseToChoose(context, entries); });
+    const QString path = ChooseStartupDatabase(context.dbPath, folder, *context.interaction,
+                                               [&context](const QList<CompanyEntry>& entries) {
+                                                   return RefuseToChoose(context, entries);
+                                               });
     if (path.isEmpty() || !OpenCompany(path, *context.interaction))
         return ExitFailure;
     *context.out << path << '\t' << ReadDbVersion() << Qt::endl;

@@ -10,7 +10,7 @@ class Interaction;
 
 struct CliContext
 {
-    QString dbPath;  // --db FILE, empty when not given
+    QString dbPath; // --db FILE, empty when not given
     QString language;
     Interaction* interaction = nullptr;
     QTextStream* out = nullptr;

@@ -1,6 +1,6 @@
 // The command-line front end: works on a company database without a window.
-#include "Cli.h"
 #include "AppCommands.h"
+#include "Cli.h"
 #include "CliInteraction.h"
 
 #include "app/BaseFolder.h"
@@ -13,7 +13,8 @@
 
 // Each subsystem's verbs live in a file of their own; the table below lists them all.
 const CliCommand kCommands[] = {
-    {"version", "version", [](CliContext& c, const QStringList&) {
+    {"version", "version",
+     [](CliContext& c, const QStringList&) {
          *c.out << QCoreApplication::applicationVersion() << Qt::endl;
          return int(ExitOk);
      }},

@@ -124,9 +124,9 @@ void TestCompanies::discovery_data()
         << QStringList{QStringLiteral("a.db")} << QStringList{QStringLiteral("a.db")};
     QTest::newRow("only the demonstration company")
         << QStringList{demo} << QStringList{demo} << QStringList{demo};
-    QTest::newRow("demo hidden beside a company")
-        << QStringList{demo, QStringLiteral("kovacs.db")}
-        << QStringList{demo, QStringLiteral("kovacs.db")} << QStringList{QStringLiteral("kovacs.db")};
+    QTest::newRow("demo hidden beside a company") << QStringList{demo, QStringLiteral("kovacs.db")}
+                                                  << QStringList{demo, QStringLiteral("kovacs.db")}
+                                                  << QStringList{QStringLiteral("kovacs.db")};
     QTest::newRow("demo hidden beside two companies")
         << QStringList{QStringLiteral("szabo.db"), demo, QStringLiteral("kovacs.db")}
         << QStringList{demo, QStringLiteral("kovacs.db"), QStringLiteral("szabo.db")}
@@ -157,20 +157,24 @@ void TestCompanies::startupChoice_data()
                               << QStringList{QStringLiteral(
                                      "Missing database files. Maybe you have to reinstall the "
                                      "application.")};
-    QTest::newRow("only demo, no dialog") << QStringList{QStringLiteral("demo")} << QString()
-                                          << QStringLiteral("demo.db") << QStringList{}
-                                          << QStringList{};
+    QTest::newRow("only demo, no dialog")
+        << QStringList{QStringLiteral("demo")} << QString() << QStringLiteral("demo.db")
+        << QStringList{} << QStringList{};
     QTest::newRow("demo and one company, no dialog")
         << QStringList{QStringLiteral("demo"), QStringLiteral("Kovács Bt.")} << QString()
         << QStringLiteral("kovacs_bt.db") << QStringList{} << QStringList{};
     QTest::newRow("demo and two companies: dialog without demo")
-        << QStringList{QStringLiteral("demo"), QStringLiteral("Kovács Bt."), QStringLiteral("Szabó Kft.")}
+        << QStringList{QStringLiteral("demo"), QStringLiteral("Kovács Bt."),
+                       QStringLiteral("Szabó Kft.")}
         << QStringLiteral("szabo_kft.db") << QStringLiteral("szabo_kft.db")
-        << QStringList{QStringLiteral("kovacs_bt.db:Kovács Bt."), QStringLiteral("szabo_kft.db:Szabó Kft.")}
+        << QStringList{QStringLiteral("kovacs_bt.db:Kovács Bt."),
+                       QStringLiteral("szabo_kft.db:Szabó Kft.")}
         << QStringList{};
     QTest::newRow("dialog cancelled")
         << QStringList{QStringLiteral("Kovács Bt."), QStringLiteral("Szabó Kft.")} << QString()
-        << QString() << QStringList{QStringLiteral("kovacs_bt.db:Kovács Bt."), QStringLiteral("szabo_kft.db:Szabó Kft.")}
+        << QString()
+        << QStringList{QStringLiteral("kovacs_bt.db:Kovács Bt."),
+                       QStringLiteral("szabo_kft.db:Szabó Kft.")}
         << QStringList{};
 }
 
@@ -254,11 +258,12 @@ void TestCompanies::fileNames_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("file");
     QTest::newRow("plain") << QStringLiteral("Minta Kft.") << QStringLiteral("minta_kft.db");
-    QTest::newRow("accents folded")
-        << QStringLiteral("Árvíztűrő Tükörfúrógép Zrt.") << QStringLiteral("arvizturo_tukorfurogep_zrt.db");
-    QTest::newRow("taken name gets a number") << QStringLiteral("Kovács Bt.")
-                                             << QStringLiteral("kovacs_bt_2.db");
-    QTest::newRow("demonstration name kept free") << QStringLiteral("Demo") << QStringLiteral("demo_2.db");
+    QTest::newRow("accents folded") << QStringLiteral("Árvíztűrő Tükörfúrógép Zrt.")
+                                    << QStringLiteral("arvizturo_tukorfurogep_zrt.db");
+    QTest::newRow("taken name gets a number")
+        << QStringLiteral("Kovács Bt.") << QStringLiteral("kovacs_bt_2.db");
+    QTest::newRow("demonstration name kept free")
+        << QStringLiteral("Demo") << QStringLiteral("demo_2.db");
     QTest::newRow("nothing usable") << QStringLiteral("???") << QStringLiteral("company.db");
 }
 
@@ -274,7 +279,8 @@ void TestCompanies::createCompany()
 {
     const QString current = company(QStringLiteral("Kovács Bt."), QStringLiteral("11111111-2-41"));
     QVERIFY(Database::open(current));
-    const QString path = company(QStringLiteral("Szabó és Társa Kft."), QStringLiteral("22222222-2-42"));
+    const QString path =
+        company(QStringLiteral("Szabó és Társa Kft."), QStringLiteral("22222222-2-42"));
     QCOMPARE(QFileInfo(path).fileName(), QStringLiteral("szabo_es_tarsa_kft.db"));
     // The open company stays the current session.
     QCOMPARE(Database::path(), current);
@@ -298,12 +304,14 @@ void TestCompanies::createRefusals_data()
     QTest::addColumn<QString>("message");
     const QString existingTax =
         QStringLiteral("It is not possible to create a new database with an existing tax no.");
-    QTest::newRow("same tax number") << QStringLiteral("Másik Kft.") << QStringLiteral("11111111-2-41")
-                                     << QString() << existingTax;
+    QTest::newRow("same tax number") << QStringLiteral("Másik Kft.")
+                                     << QStringLiteral("11111111-2-41") << QString() << existingTax;
     QTest::newRow("same tax number written differently")
-        << QStringLiteral("Másik Kft.") << QStringLiteral(" 11111111 2 41") << QString() << existingTax;
+        << QStringLiteral("Másik Kft.") << QStringLiteral(" 11111111 2 41") << QString()
+        << existingTax;
     QTest::newRow("tax number of the demonstration company")
-        << QStringLiteral("Másik Kft.") << QStringLiteral("12345676-2-41") << QString() << existingTax;
+        << QStringLiteral("Másik Kft.") << QStringLiteral("12345676-2-41") << QString()
+        << existingTax;
     QTest::newRow("no name") << QStringLiteral("  ") << QStringLiteral("33333333-2-43") << QString()
                              << QStringLiteral("Name field must have a value.");
     QTest::newRow("no tax number") << QStringLiteral("Másik Kft.") << QString() << QString()
@@ -312,9 +320,11 @@ void TestCompanies::createRefusals_data()
                                  << QStringLiteral("kovacs_bt.db")
                                  << QStringLiteral("kovacs_bt.db already exists.");
     QTest::newRow("file would be hidden")
-        << QStringLiteral("Másik Kft.") << QStringLiteral("33333333-2-43") << QStringLiteral(".masik.db")
-        << QStringLiteral("The file name must end with \".db\", be longer than three characters and "
-                          "must not begin with \".\".");
+        << QStringLiteral("Másik Kft.") << QStringLiteral("33333333-2-43")
+        << QStringLiteral(".masik.db")
+        << QStringLiteral(
+               "The file name must end with \".db\", be longer than three characters and "
+               "must not begin with \".\".");
 }
 
 void TestCompanies::createRefusals()
@@ -349,12 +359,13 @@ void TestCompanies::changeCompany_data()
         << QStringList{QStringLiteral("demo"), QStringLiteral("Kovács Bt.")} << QString() << false
         << QStringLiteral("There is only one database.");
     QTest::newRow("dialog cancelled")
-        << QStringList{QStringLiteral("Kovács Bt."), QStringLiteral("Szabó Kft.")} << QString() << false
-        << QString();
-    QTest::newRow("changed")
-        << QStringList{QStringLiteral("Kovács Bt."), QStringLiteral("Szabó Kft.")}
-        << QStringLiteral("szabo_kft.db") << true
-        << QStringLiteral("Database/company changed successfully to:&Szabó Kft.");
+        << QStringList{QStringLiteral("Kovács Bt."), QStringLiteral("Szabó Kft.")} << QString()
+        << false << QString();
+    QTest::newRow("changed") << QStringList{QStringLiteral("Kovács Bt."),
+                                            QStringLiteral("Szabó Kft.")}
+                             << QStringLiteral("szabo_kft.db") << true
+                             << QStringLiteral(
+                                    "Database/company changed successfully to:&Szabó Kft.");
 }
 
 void TestCompanies::changeCompany()

@@ -27,24 +27,20 @@ const TableColumns kSchema[] = {
      "PARTNER_MAIL_ZIP PARTNER_MAIL_CITY PARTNER_MAIL_ADDRESS PARTNER_MAIL_COUNTRY_ID "
      "PARTNER_COMMENT PARTNER_CONTACT_NAME PARTNER_CONTACT_PHONE PARTNER_CONTACT_MOBILE_PHONE "
      "PARTNER_CONTACT_EMAIL PARTNER_CONTACT_COMMENT "},
-    {"PAYMENTMETHOD",
-     "PAYMENTMETHOD_ID PAYMENTMETHOD_CODE PAYMENTMETHOD_PAID PAYMENTMETHOD_CHEQUE "
-     "PAYMENTMETHOD_DUE_DAYS PAYMENTMETHOD_NAME PAYMENTMETHOD_COMMENT_TEXT "
-     "PAYMENTMETHOD_ROUND_TO_5 "},
+    {"PAYMENTMETHOD", "PAYMENTMETHOD_ID PAYMENTMETHOD_CODE PAYMENTMETHOD_PAID PAYMENTMETHOD_CHEQUE "
+                      "PAYMENTMETHOD_DUE_DAYS PAYMENTMETHOD_NAME PAYMENTMETHOD_COMMENT_TEXT "
+                      "PAYMENTMETHOD_ROUND_TO_5 "},
     {"PAYMENTMETHODTRANSLATION",
      "PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID PAYMENTMETHODTRANSLATION_LANG_ID "
      "PAYMENTMETHODTRANSLATION_NAME PAYMENTMETHODTRANSLATION_COMMENT "},
-    {"NOVATREASON",
-     "NOVATREASON_ID NOVATREASON_CODE NOVATREASON_NAME NOVATREASON_TEXT "},
+    {"NOVATREASON", "NOVATREASON_ID NOVATREASON_CODE NOVATREASON_NAME NOVATREASON_TEXT "},
     {"NOVATREASONTRANSLATION",
      "NOVATREASONTRANSLATION_NOVATREASON_ID NOVATREASONTRANSLATION_LANG_ID "
      "NOVATREASONTRANSLATION_TEXT "},
     {"ORDERLABELTRANSLATION",
      "ORDERLABELTRANSLATION_LANG_ID ORDERLABELTRANSLATION_KEY ORDERLABELTRANSLATION_TEXT "},
-    {"VAT",
-     "VAT_ID VAT_CODE VAT_NAME VAT_PERCENT "},
-    {"STATNO",
-     "STATNO_ID STATNO_STAT_NO STATNO_NAME "},
+    {"VAT", "VAT_ID VAT_CODE VAT_NAME VAT_PERCENT "},
+    {"STATNO", "STATNO_ID STATNO_STAT_NO STATNO_NAME "},
     {"COUNTRY",
      "COUNTRY_ID COUNTRY_INTERNATIONAL_CODE COUNTRY_NAME COUNTRY_NAME_ON_MAILS COUNTRY_LANG_ID "
      "COUNTRY_CURRENCY_ID "},
@@ -54,8 +50,7 @@ const TableColumns kSchema[] = {
     {"PRODUCTTRANSLATION",
      "PRODUCTTRANSLATION_PRODUCT_ID PRODUCTTRANSLATION_LANG_ID PRODUCTTRANSLATION_NAME "
      "PRODUCTTRANSLATION_COMMENT PRODUCTTRANSLATION_UNIT "},
-    {"PRODUCTPRICE",
-     "PRODUCTPRICE_PRODUCT_ID PRODUCTPRICE_CURRENCY_ID PRODUCTPRICE_PRICE "},
+    {"PRODUCTPRICE", "PRODUCTPRICE_PRODUCT_ID PRODUCTPRICE_CURRENCY_ID PRODUCTPRICE_PRICE "},
     {"ORDERHEAD",
      "ORDERHEAD_ID ORDERHEAD_CODE ORDERHEAD_PARTNER_ID ORDERHEAD_PARTNER_CODE "
      "ORDERHEAD_PARTNER_NAME ORDERHEAD_PARTNER_NAME_ASCII ORDERHEAD_PARTNER_ZIP "
@@ -103,22 +98,18 @@ const TableColumns kSchema[] = {
      "CHEQUE_PARTNER_ID CHEQUE_PARTNER_CODE CHEQUE_PARTNER_NAME CHEQUE_PARTNER_NAME_ASCII "
      "CHEQUE_PARTNER_ZIP CHEQUE_PARTNER_CITY CHEQUE_PARTNER_ADDRESS CHEQUE_AMOUNT "
      "CHEQUE_PRETENCE CHEQUE_NOTICE CHEQUE_PRINTED CHEQUE_DATE_CREATED CHEQUE_DATE_PRINTED "},
-    {"INVOICE",
-     "INVOICE_ID INVOICE_ORDERHEAD_ID INVOICE_LOGO_ID INVOICE_LOGO_SIZE_PERCENT "
-     "INVOICE_HEADER_QTF INVOICE_FOOTER_QTF INVOICE_BODY_QTF "},
-    {"LOGO",
-     "LOGO_ID LOGO_DATA "},
-    {"LANG",
-     "LANG_ID LANG_CODE LANG_NAME "},
+    {"INVOICE", "INVOICE_ID INVOICE_ORDERHEAD_ID INVOICE_LOGO_ID INVOICE_LOGO_SIZE_PERCENT "
+                "INVOICE_HEADER_QTF INVOICE_FOOTER_QTF INVOICE_BODY_QTF "},
+    {"LOGO", "LOGO_ID LOGO_DATA "},
+    {"LANG", "LANG_ID LANG_CODE LANG_NAME "},
     {"CURRENCYY",
      "CURRENCY_ID CURRENCY_NAME CURRENCY_ABBREVIATION CURRENCY_RATE "
      "CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS "
      "CURRENCY_LINE_TOTAL_PRINTING_DECIMALS CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS "
      "CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS CURRENCY_BANK_BY_SETUP CURRENCY_BANK_NAME "
      "CURRENCY_BANK_ACCT_NO CURRENCY_BANK_IBAN CURRENCY_BANK_SWIFT "},
-    {"BANKITEM",
-     "BANKITEM_ID BANKITEM_ORDERHEAD_ID BANKITEM_INVOICE_NO BANKITEM_INVOICE_NO_STR "
-     "BANKITEM_TRANSFER_DATE BANKITEM_PAID_TOTAL BANKITEM_RECORD_NO BANKITEM_COMMENT "},
+    {"BANKITEM", "BANKITEM_ID BANKITEM_ORDERHEAD_ID BANKITEM_INVOICE_NO BANKITEM_INVOICE_NO_STR "
+                 "BANKITEM_TRANSFER_DATE BANKITEM_PAID_TOTAL BANKITEM_RECORD_NO BANKITEM_COMMENT "},
     {"SETUP",
      "SETUP_NAME SETUP_ZIP SETUP_CITY SETUP_ADDRESS SETUP_PHONE SETUP_BANK_NAME "
      "SETUP_BANK_ACCT_NO SETUP_BANK_IBAN SETUP_BANK_SWIFT SETUP_TAX_NO SETUP_EU_VAT_REG_NO "
@@ -145,8 +136,7 @@ const TableColumns kSchema[] = {
      "SETUP_DOWNLOAD_LAST_PARTNER_TIMESTAMP SETUP_DOWNLOAD_MAX_PARTNERS SETUP_SHOW_CODE_FIELDS "
      "SETUP_ENTER_LIKE_TAB SETUP_CHEQUE_MARGIN_LEFT_MM SETUP_CHEQUE_MARGIN_TOP_MM "
      "SETUP_CHEQUE_CURR_TMPL_DIR SETUP_CHEQUE_QTF "},
-    {"DBVERSION",
-     "VERSION "},
+    {"DBVERSION", "VERSION "},
 };
 
 QStringList Columns(const QString& table)
@@ -162,16 +152,17 @@ QStringList Columns(const QString& table)
 QMap<QString, QString> Indexes()
 {
     QMap<QString, QString> indexes;
-    QSqlQuery q(QStringLiteral("select name, tbl_name, sql from sqlite_master where type = 'index'"),
-                Database::session());
+    QSqlQuery q(
+        QStringLiteral("select name, tbl_name, sql from sqlite_master where type = 'index'"),
+        Database::session());
     while (q.next()) {
         const QString sql = q.value(2).toString();
         const QString columns = sql.mid(sql.indexOf(u'(') + 1).chopped(1);
         indexes.insert(q.value(0).toString(),
                        (sql.startsWith(QLatin1String("create unique"), Qt::CaseInsensitive)
                             ? QStringLiteral("unique ")
-                            : QString())
-                           + q.value(1).toString() + u'(' + columns + u')');
+                            : QString()) +
+                           q.value(1).toString() + u'(' + columns + u')');
     }
     return indexes;
 }
@@ -250,18 +241,18 @@ void TestSchema::indexes()
             unique << it.key();
     }
     unique.sort();
-    QCOMPARE(unique, QStringList({QStringLiteral("IDX_CHEQUE$CHEQUE_CODE"),
-                                  QStringLiteral("IDX_EQUE$CHEQUE_ORDERHEAD_ID"),
-                                  QStringLiteral("IDX_ETHOD$PAYMENTMETHOD_CODE"),
-                                  QStringLiteral("IDX_ICE$INVOICE_ORDERHEAD_ID"),
-                                  QStringLiteral("IDX_LANG$LANG_CODE"),
-                                  QStringLiteral("IDX_ORDERHEAD$ORDERHEAD_CODE"),
-                                  QStringLiteral("IDX_ORDERITEM$ORDERITEM_CODE"),
-                                  QStringLiteral("IDX_PARTNER$PARTNER_CODE"),
-                                  QStringLiteral("IDX_PRODUCT$PRODUCT_CODE"),
-                                  QStringLiteral("IDX_TREASON$NOVATREASON_CODE"),
-                                  QStringLiteral("IDX_UNTRY_INTERNATIONAL_CODE"),
-                                  QStringLiteral("IDX_VAT$VAT_CODE")}));
+    QCOMPARE(
+        unique,
+        QStringList(
+            {QStringLiteral("IDX_CHEQUE$CHEQUE_CODE"),
+             QStringLiteral("IDX_EQUE$CHEQUE_ORDERHEAD_ID"),
+             QStringLiteral("IDX_ETHOD$PAYMENTMETHOD_CODE"),
+             QStringLiteral("IDX_ICE$INVOICE_ORDERHEAD_ID"), QStringLiteral("IDX_LANG$LANG_CODE"),
+             QStringLiteral("IDX_ORDERHEAD$ORDERHEAD_CODE"),
+             QStringLiteral("IDX_ORDERITEM$ORDERITEM_CODE"),
+             QStringLiteral("IDX_PARTNER$PARTNER_CODE"), QStringLiteral("IDX_PRODUCT$PRODUCT_CODE"),
+             QStringLiteral("IDX_TREASON$NOVATREASON_CODE"),
+             QStringLiteral("IDX_UNTRY_INTERNATIONAL_CODE"), QStringLiteral("IDX_VAT$VAT_CODE")}));
 }
 
 void TestSchema::uniqueCodes_data()
@@ -345,19 +336,23 @@ void TestSchema::basicData()
                  .toString(),
              QStringLiteral("1EN,2DE"));
     QCOMPARE(SelectValue(QStringLiteral("select count(*) from LANG where LANG_ID = 0")).toInt(), 0);
-    QCOMPARE(SelectValue(QStringLiteral("select count(*) from PAYMENTMETHODTRANSLATION")).toInt(), 4);
+    QCOMPARE(SelectValue(QStringLiteral("select count(*) from PAYMENTMETHODTRANSLATION")).toInt(),
+             4);
     QCOMPARE(SelectValue(QStringLiteral("select NOVATREASON_CODE from NOVATREASON")).toString(),
              QStringLiteral("FAD"));
-    SqlStatement sample(QStringLiteral("select ORDERHEAD_PARTNER_NAME, ORDERHEAD_DATE_SHIPPED, "
-                                       "ORDERHEAD_TOTAL_GROSS, (select sum(ORDERITEM_TOTAL_GROSS) "
-                                       "from ORDERITEM where ORDERITEM_ORDERHEAD_ID = ORDERHEAD_ID) "
-                                       "from ORDERHEAD"));
+    SqlStatement sample(
+        QStringLiteral("select ORDERHEAD_PARTNER_NAME, ORDERHEAD_DATE_SHIPPED, "
+                       "ORDERHEAD_TOTAL_GROSS, (select sum(ORDERITEM_TOTAL_GROSS) "
+                       "from ORDERITEM where ORDERITEM_ORDERHEAD_ID = ORDERHEAD_ID) "
+                       "from ORDERHEAD"));
     QVERIFY(sample.exec() && sample.next());
     QCOMPARE(sample.value(0).toString(), QStringLiteral("Teszt Partner Kft"));
     QCOMPARE(sample.value(1).toString(), QStringLiteral("3000-01-01"));
     QCOMPARE(sample.value(2).toDouble(), sample.value(3).toDouble());
     QVERIFY(!sample.next());
-    QVERIFY(SelectValue(QStringLiteral("select count(*) from VAT where VAT_PERCENT = 27")).toInt() == 1);
+    QVERIFY(
+        SelectValue(QStringLiteral("select count(*) from VAT where VAT_PERCENT = 27")).toInt() ==
+        1);
 }
 
 void TestSchema::labels()
@@ -366,16 +361,21 @@ void TestSchema::labels()
     QVERIFY(company.isValid());
     // 44 keys in three languages, German lacking only the statistical-code caption.
     QCOMPARE(SelectValue(QStringLiteral("select count(distinct ORDERLABELTRANSLATION_KEY) "
-                                        "from ORDERLABELTRANSLATION")).toInt(), 44);
-    QCOMPARE(SelectValue(QStringLiteral("select count(*) from ORDERLABELTRANSLATION")).toInt(), 131);
-    const QString text = QStringLiteral("select ORDERLABELTRANSLATION_TEXT from ORDERLABELTRANSLATION "
-                                        "where ORDERLABELTRANSLATION_KEY = ? and "
-                                        "ORDERLABELTRANSLATION_LANG_ID = ?");
+                                        "from ORDERLABELTRANSLATION"))
+                 .toInt(),
+             44);
+    QCOMPARE(SelectValue(QStringLiteral("select count(*) from ORDERLABELTRANSLATION")).toInt(),
+             131);
+    const QString text =
+        QStringLiteral("select ORDERLABELTRANSLATION_TEXT from ORDERLABELTRANSLATION "
+                       "where ORDERLABELTRANSLATION_KEY = ? and "
+                       "ORDERLABELTRANSLATION_LANG_ID = ?");
     QCOMPARE(SelectValue(text, {QStringLiteral("TR_PAYMENT_METHOD"), 0}).toString(),
              QStringLiteral("Fizetési mód"));
     QCOMPARE(SelectValue(text, {QStringLiteral("TR_BANK_ACCOUNT_NUMBER"), 2}).toString(),
              QStringLiteral("Bank-Kontonummer "));
-    QCOMPARE(SelectValue(text, {QStringLiteral("TR_MAIL_TO"), 2}).toString(), QStringLiteral("Adresse"));
+    QCOMPARE(SelectValue(text, {QStringLiteral("TR_MAIL_TO"), 2}).toString(),
+             QStringLiteral("Adresse"));
     QVERIFY(SelectValue(text, {QStringLiteral("TR_STAT_CODE"), 2}).isNull());
 }
 

@@ -170,9 +170,10 @@ void TestSchemaUpgrade::wholeChain()
                                   "where ORDERLABELTRANSLATION_KEY = 'TR_PAYMENT_METHOD' and "
                                   "ORDERLABELTRANSLATION_LANG_ID = 0")),
              QVariant(QStringLiteral("Fizetési mód")));
-    QCOMPARE(Value(QStringLiteral("select count(*) from CURRENCYY where CURRENCY_BANK_BY_SETUP = '1'"))
-                 .toInt(),
-             3);
+    QCOMPARE(
+        Value(QStringLiteral("select count(*) from CURRENCYY where CURRENCY_BANK_BY_SETUP = '1'"))
+            .toInt(),
+        3);
 
     if (version < 1) {
         QCOMPARE(Method(QStringLiteral("Készpénz"), "PAYMENTMETHOD_ROUND_TO_5"),
@@ -182,16 +183,20 @@ void TestSchemaUpgrade::wholeChain()
         QCOMPARE(Order(1, "ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE").toDouble(), 0.0);
     }
     // Lines of older files take their order's shipping date; later ones keep their own.
-    QCOMPARE(Value(QStringLiteral("select ORDERITEM_DATE_SHIPPED from ORDERITEM where ORDERITEM_ID = 2"))
-                 .toString(),
-             version < 2 ? QStringLiteral("2009-03-02") : QStringLiteral("2009-02-27"));
-    QCOMPARE(Value(QStringLiteral("select ORDERITEM_DATE_SHIPPED from ORDERITEM where ORDERITEM_ID = 4"))
-                 .toString(),
-             version < 2 ? QStringLiteral("2009-04-01") : QStringLiteral("2009-02-27"));
+    QCOMPARE(
+        Value(QStringLiteral("select ORDERITEM_DATE_SHIPPED from ORDERITEM where ORDERITEM_ID = 2"))
+            .toString(),
+        version < 2 ? QStringLiteral("2009-03-02") : QStringLiteral("2009-02-27"));
+    QCOMPARE(
+        Value(QStringLiteral("select ORDERITEM_DATE_SHIPPED from ORDERITEM where ORDERITEM_ID = 4"))
+            .toString(),
+        version < 2 ? QStringLiteral("2009-04-01") : QStringLiteral("2009-02-27"));
     if (version < 2)
         QCOMPARE(Order(6, "ORDERHEAD_CONSOLIDATED_INVOICE"), QVariant(QStringLiteral("0")));
     if (version < 3) {
-        QVERIFY(Setup::current().text("SETUP_DOWNLOAD_PARTNER_URL").endsWith(QLatin1String("/partner.php")));
+        QVERIFY(Setup::current()
+                    .text("SETUP_DOWNLOAD_PARTNER_URL")
+                    .endsWith(QLatin1String("/partner.php")));
         QCOMPARE(Setup::current().integer("SETUP_DOWNLOAD_MAX_PARTNERS"), 1000);
     }
 
@@ -207,7 +212,8 @@ void TestSchemaUpgrade::wholeChain()
                                                   {QStringLiteral("Halasztott fizetés"), false}};
         for (const auto& [name, isPaid] : paid) {
             QCOMPARE(IsFlagSet(Method(name, "PAYMENTMETHOD_PAID")), isPaid);
-            QCOMPARE(IsFlagSet(Method(name, "PAYMENTMETHOD_CHEQUE")), name == QLatin1String("Csekk"));
+            QCOMPARE(IsFlagSet(Method(name, "PAYMENTMETHOD_CHEQUE")),
+                     name == QLatin1String("Csekk"));
         }
         // Only the issued, uncancelled bank-transfer invoice becomes unpaid, for its gross total.
         QCOMPARE(Order(1, "ORDERHEAD_PAID"), QVariant(QStringLiteral("0")));
@@ -217,15 +223,18 @@ void TestSchemaUpgrade::wholeChain()
             QCOMPARE(Order(id, "ORDERHEAD_PAID"), QVariant(QStringLiteral("1")));
             QCOMPARE(Order(id, "ORDERHEAD_UNPAID_TOTAL").toDouble(), 0.0);
         }
-        QCOMPARE(Order(5, "ORDERHEAD_PARTNER_COUNTRY_INTERNATIONAL_CODE"), QVariant(QStringLiteral("HUN")));
+        QCOMPARE(Order(5, "ORDERHEAD_PARTNER_COUNTRY_INTERNATIONAL_CODE"),
+                 QVariant(QStringLiteral("HUN")));
         QCOMPARE(Order(5, "ORDERHEAD_PARTNER_MAIL_ADDRESS"), QVariant(QStringLiteral("Fő u. 1.")));
         QCOMPARE(Order(5, "ORDERHEAD_CURRENCY_ABBREVIATION"), QVariant(QStringLiteral("Ft")));
         QCOMPARE(Order(5, "ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS").toDouble(), -2500.0);
-        QCOMPARE(Value(QStringLiteral("select ORDERITEM_LIST_PRICE from ORDERITEM where ORDERITEM_ID = 1"))
+        QCOMPARE(Value(QStringLiteral(
+                           "select ORDERITEM_LIST_PRICE from ORDERITEM where ORDERITEM_ID = 1"))
                      .toDouble(),
                  12.0);
-        QCOMPARE(Value(QStringLiteral("select PARTNER_MAIL_CITY from PARTNER where PARTNER_ID = 2")),
-                 QVariant(QStringLiteral("Debrecen")));
+        QCOMPARE(
+            Value(QStringLiteral("select PARTNER_MAIL_CITY from PARTNER where PARTNER_ID = 2")),
+            QVariant(QStringLiteral("Debrecen")));
         // The company's old line rounding moves to the forint.
         QCOMPARE(Value(QStringLiteral("select CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS from CURRENCYY "
                                       "where CURRENCY_ID = 0"))
@@ -241,7 +250,8 @@ void TestSchemaUpgrade::wholeChain()
         QCOMPARE(Setup::current().number("SETUP_CHEQUE_MARGIN_TOP_MM"), 20.0);
     } else {
         QVERIFY(interaction.checkLists.isEmpty());
-        QCOMPARE(Setup::current().text("SETUP_INVOICE_CURR_TMPL_DIR"), QStringLiteral("sablon_2009"));
+        QCOMPARE(Setup::current().text("SETUP_INVOICE_CURR_TMPL_DIR"),
+                 QStringLiteral("sablon_2009"));
     }
     // Orders of version 300 get line decimals from their own old rounding: 2 prints 2, 0 prints 0.
     if (version <= 300) {
@@ -352,9 +362,10 @@ void TestSchemaUpgrade::newerVersionRefused()
     ScriptedInteraction interaction;
     QVERIFY(Database::open(path));
     QVERIFY(!PrepareDatabase(interaction).ok());
-    QCOMPARE(Texts(interaction),
-             QStringList{QStringLiteral("The database version is newer, than the version of the "
-                                        "billing software.&Upgrade the software to a newer version.")});
+    QCOMPARE(
+        Texts(interaction),
+        QStringList{QStringLiteral("The database version is newer, than the version of the "
+                                   "billing software.&Upgrade the software to a newer version.")});
     QVERIFY(!Database::isOpen());
     QCOMPARE(FileBytes(path), original);
     QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(path)));

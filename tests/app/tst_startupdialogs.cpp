@@ -30,8 +30,7 @@ CompanyEntry Entry(const QString& file, const QString& name, const QString& taxN
 }
 
 // Runs action on the next modal dialog of type T once it is shown.
-template <typename T>
-void OnNextDialog(std::function<void(T*)> action)
+template <typename T> void OnNextDialog(std::function<void(T*)> action)
 {
     QTimer::singleShot(0, [action] {
         for (QWidget* w : QApplication::topLevelWidgets()) {
@@ -59,7 +58,8 @@ private Q_SLOTS:
 
 void TestStartupDialogs::companyModel()
 {
-    CompanyListModel model({Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1"))});
+    CompanyListModel model(
+        {Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1"))});
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QCOMPARE(model.columnCount(), 5);
     const QStringList headers{QStringLiteral("Name"), QStringLiteral("ZIP"), QStringLiteral("City"),
@@ -75,9 +75,10 @@ void TestStartupDialogs::companyModel()
 
 void TestStartupDialogs::chooserReturnsSelectedFile()
 {
-    DatabaseSelectDlg dlg({Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1")),
-                           Entry(QStringLiteral("b.db"), QStringLiteral("B Bt."), QStringLiteral("2"))},
-                          QString());
+    DatabaseSelectDlg dlg(
+        {Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1")),
+         Entry(QStringLiteral("b.db"), QStringLiteral("B Bt."), QStringLiteral("2"))},
+        QString());
     QCOMPARE(dlg.windowTitle(), QStringLiteral("Select Database/Company"));
     QCOMPARE(dlg.selectedPath(), QStringLiteral("/companies/a.db"));
     auto* list = dlg.findChild<QTableView*>(QStringLiteral("m_list"));
@@ -93,11 +94,13 @@ void TestStartupDialogs::newCompanyIsAddedAndSelected()
 {
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    DatabaseSelectDlg dlg({Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1"))},
-                          dir.path());
+    DatabaseSelectDlg dlg(
+        {Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1"))}, dir.path());
     OnNextDialog<NewCompanyDlg>([](NewCompanyDlg* form) {
-        form->findChild<QLineEdit*>(QStringLiteral("m_name"))->setText(QStringLiteral("Új Cég Kft."));
-        form->findChild<QLineEdit*>(QStringLiteral("m_tax_no"))->setText(QStringLiteral("33333333-2-43"));
+        form->findChild<QLineEdit*>(QStringLiteral("m_name"))
+            ->setText(QStringLiteral("Új Cég Kft."));
+        form->findChild<QLineEdit*>(QStringLiteral("m_tax_no"))
+            ->setText(QStringLiteral("33333333-2-43"));
         form->accept();
     });
     dlg.findChild<QPushButton*>(QStringLiteral("m_new"))->click();
@@ -107,9 +110,10 @@ void TestStartupDialogs::newCompanyIsAddedAndSelected()
 
 void TestStartupDialogs::checkItemsReportsTicks()
 {
-    CheckItemsDlg dlg(QStringLiteral("Select Payment Methods To Set Unpaid"), QStringLiteral("Payment Method"),
-                      QStringLiteral("Set To Unpaid"),
-                      {QStringLiteral("Csekk"), QStringLiteral("Készpénz"), QStringLiteral("Átutalás")});
+    CheckItemsDlg dlg(
+        QStringLiteral("Select Payment Methods To Set Unpaid"), QStringLiteral("Payment Method"),
+        QStringLiteral("Set To Unpaid"),
+        {QStringLiteral("Csekk"), QStringLiteral("Készpénz"), QStringLiteral("Átutalás")});
     QCOMPARE(dlg.windowTitle(), QStringLiteral("Select Payment Methods To Set Unpaid"));
     auto* list = dlg.findChild<QTableWidget*>(QStringLiteral("m_list"));
     QCOMPARE(list->horizontalHeaderItem(1)->text(), QStringLiteral("Set To Unpaid"));
@@ -126,8 +130,8 @@ void TestStartupDialogs::sqlErrorRetryOrCancel()
                      QStringLiteral("drop index X"));
             dlg->findChild<QPushButton*>(QLatin1String(button))->click();
         });
-        QCOMPARE(SqlErrorDlg::askRetry(QStringLiteral("no such index: X"), QStringLiteral("drop index X"),
-                                       nullptr),
+        QCOMPARE(SqlErrorDlg::askRetry(QStringLiteral("no such index: X"),
+                                       QStringLiteral("drop index X"), nullptr),
                  qstrcmp(button, "m_retry") == 0);
     }
 }

@@ -27,9 +27,9 @@ DatabaseSelectDlg::DatabaseSelectDlg(const QList<CompanyEntry>& entries, const Q
     m_ui->setupUi(this);
     m_ui->m_list->setModel(m_model);
     m_ui->m_list->horizontalHeader()->setSectionResizeMode(CompanyListModel::Name,
-                                                          QHeaderView::Stretch);
+                                                           QHeaderView::Stretch);
     m_ui->m_list->horizontalHeader()->setSectionResizeMode(CompanyListModel::Address,
-                                                          QHeaderView::Stretch);
+                                                           QHeaderView::Stretch);
     m_ui->m_list->resizeColumnToContents(CompanyListModel::Zip);
     if (!entries.isEmpty())
         select(0);

@@ -30,8 +30,8 @@ public:
     QString selectedPath() const;
 
     // Shows the dialog and returns the chosen file's path, nothing when cancelled.
-    static std::optional<QString> choose(const QList<CompanyEntry>& entries, const QString& dbFolder,
-                                         QWidget* parent);
+    static std::optional<QString> choose(const QList<CompanyEntry>& entries,
+                                         const QString& dbFolder, QWidget* parent);
 
     // The help window opens on the multi-company topic; the help system installs the handler.
     static void setHelpHandler(HelpHandler handler);

@@ -59,16 +59,16 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(), MessageHtml(text),
-                                 QMessageBox::Yes | QMessageBox::No)
-        == QMessageBox::Yes;
+    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(),
+                                 MessageHtml(text),
+                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(), MessageHtml(text),
-                    QMessageBox::NoButton, m_parent);
+    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
+                    MessageHtml(text), QMessageBox::NoButton, m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);

@@ -14,8 +14,8 @@ namespace {
 QString Title()
 {
     const Setup& setup = Setup::current();
-    return QStringLiteral("Vantrell Invoicer - ") + setup.text(Col::SETUP_NAME)
-        + QStringLiteral(" (adószám:") + setup.text(Col::SETUP_TAX_NO) + u')';
+    return QStringLiteral("Vantrell Invoicer - ") + setup.text(Col::SETUP_NAME) +
+           QStringLiteral(" (adószám:") + setup.text(Col::SETUP_TAX_NO) + u')';
 }
 
 } // namespace
@@ -26,8 +26,9 @@ PlaceholderWindow::PlaceholderWindow(QWidget* parent) : QMainWindow(parent)
     auto* label = new QLabel(this);
     label->setAlignment(Qt::AlignCenter);
     const Setup& setup = Setup::current();
-    label->setText(setup.text(Col::SETUP_NAME) + u'\n' + setup.text(Col::SETUP_ZIP) + u' '
-                   + setup.text(Col::SETUP_CITY) + QLatin1String(", ") + setup.text(Col::SETUP_ADDRESS));
+    label->setText(setup.text(Col::SETUP_NAME) + u'\n' + setup.text(Col::SETUP_ZIP) + u' ' +
+                   setup.text(Col::SETUP_CITY) + QLatin1String(", ") +
+                   setup.text(Col::SETUP_ADDRESS));
     setCentralWidget(label);
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("Change database/company..."), this, [this, label] {
