@@ -1,5 +1,6 @@
 // A new company database: every table and column in its declared order, the indexes with their
 // exact names, the defaults and uniqueness rules other parts rely on, and the basic data.
+#include "OldCompanyFile.h"
 #include "TestCompany.h"
 
 #include "app/SqlStatement.h"
@@ -11,14 +12,14 @@
 
 namespace {
 
-struct TableColumns
+struct DeclaredTable
 {
     const char* table;
     const char* columns;
 };
 
 // Tables in creation order with their columns in declaration order.
-const TableColumns kSchema[] = {
+const DeclaredTable kSchema[] = {
     {"PARTNER",
      "PARTNER_ID PARTNER_CODE PARTNER_NAME PARTNER_NAME_ASCII PARTNER_ZIP PARTNER_CITY "
      "PARTNER_ADDRESS PARTNER_OTHER_DATA PARTNER_TAX_NO PARTNER_EU_TAX_NO PARTNER_COUNTRY_ID "
@@ -139,15 +140,6 @@ const TableColumns kSchema[] = {
     {"DBVERSION", "VERSION "},
 };
 
-QStringList Columns(const QString& table)
-{
-    QStringList names;
-    QSqlQuery q(QStringLiteral("pragma table_info(%1)").arg(table), Database::session());
-    while (q.next())
-        names << q.value(1).toString();
-    return names;
-}
-
 // name -> "unique TABLE(COLUMN)" for every index the create script made.
 QMap<QString, QString> Indexes()
 {
@@ -189,7 +181,7 @@ void TestSchema::columnsInDeclaredOrder_data()
 {
     QTest::addColumn<QString>("table");
     QTest::addColumn<QStringList>("columns");
-    for (const TableColumns& t : kSchema)
+    for (const DeclaredTable& t : kSchema)
         QTest::newRow(t.table) << QString::fromLatin1(t.table)
                                << QString::fromLatin1(t.columns).split(u' ', Qt::SkipEmptyParts);
 }
@@ -200,7 +192,7 @@ void TestSchema::columnsInDeclaredOrder()
     QFETCH(QStringList, columns);
     TestCompany company;
     QVERIFY(company.isValid());
-    QCOMPARE(Columns(table), columns);
+    QCOMPARE(TableColumns(table), columns);
 }
 
 void TestSchema::noOtherTables()
@@ -208,7 +200,7 @@ void TestSchema::noOtherTables()
     TestCompany company;
     QVERIFY(company.isValid());
     QStringList expected;
-    for (const TableColumns& t : kSchema)
+    for (const DeclaredTable& t : kSchema)
         expected << QString::fromLatin1(t.table);
     expected.sort();
     QStringList tables = Database::session().tables();
