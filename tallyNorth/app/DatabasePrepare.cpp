@@ -94,8 +94,12 @@ Result DatabasePrepare::upgrade()
     Result r = Database::open(path);
     if (r)
         r = runSteps(*progress);
-    if (r && ReadDbVersion() != kCurrentDbVersion)
+    else
+        m_interaction.error(r.message());
+    if (r && ReadDbVersion() != kCurrentDbVersion) {
         r = Result::failure(tr("Unable to upgrade database."));
+        m_interaction.error(r.message());
+    }
     progress.reset();
     return r ? r : restore(path, copy);
 }

@@ -272,16 +272,19 @@ void TestSchemaUpgrade::failureRestoresOriginal_data()
     QTest::addColumn<bool>("withoutPartnerNameIndex");
     QTest::addColumn<bool>("withoutRoundDigits");
     QTest::addColumn<QString>("stepMessage");
+    QTest::addColumn<int>("recordedVersion");
     const QString unable = QStringLiteral("Unable to upgrade database.");
-    QTest::newRow("first step") << -1 << 1 << false << false << unable;
+    QTest::newRow("first step") << -1 << 1 << false << false << unable << 0;
     // The file must come back without a version table, not at version 3.
-    QTest::newRow("U4 after U1-U3") << -1 << 4 << false << false << unable;
-    QTest::newRow("last step of the whole chain") << -1 << 6 << false << false << unable;
-    QTest::newRow("U5 from 2") << 2 << 5 << false << false << unable;
-    QTest::newRow("U6 from 301") << 301 << 6 << false << false << unable;
-    QTest::newRow("index to drop is missing") << 3 << 0 << true << false << unable;
+    QTest::newRow("U4 after U1-U3") << -1 << 4 << false << false << unable << 0;
+    QTest::newRow("last step of the whole chain") << -1 << 6 << false << false << unable << 0;
+    QTest::newRow("U5 from 2") << 2 << 5 << false << false << unable << 0;
+    QTest::newRow("U6 from 301") << 301 << 6 << false << false << unable << 0;
+    QTest::newRow("index to drop is missing") << 3 << 0 << true << false << unable << 0;
     QTest::newRow("old rounding setting is missing")
-        << 1 << 0 << false << true << QStringLiteral("Unable to load rounding setup.");
+        << 1 << 0 << false << true << QStringLiteral("Unable to load rounding setup.") << 0;
+    // No step starts from a version the chain does not know, so the file never reaches 302.
+    QTest::newRow("unknown version") << 3 << 0 << false << false << unable << 150;
 }
 
 void TestSchemaUpgrade::failureRestoresOriginal()
@@ -291,12 +294,18 @@ void TestSchemaUpgrade::failureRestoresOriginal()
     QFETCH(bool, withoutPartnerNameIndex);
     QFETCH(bool, withoutRoundDigits);
     QFETCH(QString, stepMessage);
+    QFETCH(int, recordedVersion);
     OldCompanyFile file;
     file.version = version;
     file.withoutPartnerNameIndex = withoutPartnerNameIndex;
     file.withoutRoundDigits = withoutRoundDigits;
     const QString path = build(file);
     QVERIFY(!path.isEmpty());
+    if (recordedVersion) {
+        QVERIFY(Database::open(path));
+        QVERIFY(ExecSql(QStringLiteral("update DBVERSION set VERSION = ?"), {recordedVersion}));
+        Database::close();
+    }
     const QByteArray original = FileBytes(path);
 
     ScriptedInteraction interaction;
