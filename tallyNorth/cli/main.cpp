@@ -1,4 +1,5 @@
 // The command-line front end: works on a company database without a window.
+#include "AppCommands.h"
 #include "Cli.h"
 #include "CliInteraction.h"
 
@@ -12,15 +13,37 @@
 
 // Each subsystem's verbs live in a file of their own; the table below lists them all.
 const CliCommand kCommands[] = {
-    {"version", "version", [](CliContext& c, const QStringList&) {
+    {"version", "version",
+     [](CliContext& c, const QStringList&) {
          *c.out << QCoreApplication::applicationVersion() << Qt::endl;
          return int(ExitOk);
      }},
+    {"companies", "companies", RunCompanies},
+    {"create", "create NAME --tax-no NO [--zip Z] [--city C] [--address A] [--file NAME.db]",
+     RunCreate},
+    {"check", "check [--unpaid-methods \"A,B\"]", RunCheck},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
 {
     *context.err << PlainMessage(text) << Qt::endl;
+}
+
+bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,
+                   QHash<QString, QString>* options)
+{
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString& arg = args.at(i);
+        if (!arg.startsWith(QLatin1String("--"))) {
+            *positional << arg;
+            continue;
+        }
+        const QString name = arg.mid(2);
+        if (!optionNames.contains(name) || i + 1 >= args.size())
+            return false;
+        options->insert(name, args.at(++i));
+    }
+    return true;
 }
 
 namespace {
