@@ -1,6 +1,7 @@
 // The command-line front end: works on a company database without a window.
 #include "Cli.h"
 #include "CliInteraction.h"
+#include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
@@ -16,6 +17,8 @@ const CliCommand kCommands[] = {
          *c.out << QCoreApplication::applicationVersion() << Qt::endl;
          return int(ExitOk);
      }},
+    {"backup", "backup FILE", RunBackup},
+    {"restore", "restore FILE", RunRestore},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
