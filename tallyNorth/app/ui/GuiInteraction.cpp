@@ -1,5 +1,7 @@
 #include "GuiInteraction.h"
 
+#include "app/ProgramInfo.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -40,7 +42,7 @@ private:
 
 void GuiInteraction::message(MessageKind kind, const QString& text)
 {
-    const QString title = QApplication::applicationDisplayName();
+    const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
         QMessageBox::information(m_parent, title, MessageHtml(text));
@@ -56,16 +58,15 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(), MessageHtml(text),
-                                 QMessageBox::Yes | QMessageBox::No)
-        == QMessageBox::Yes;
+    return QMessageBox::question(m_parent, ProgramName(), MessageHtml(text),
+                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(), MessageHtml(text),
-                    QMessageBox::NoButton, m_parent);
+    QMessageBox box(QMessageBox::Question, ProgramName(), MessageHtml(text), QMessageBox::NoButton,
+                    m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);
@@ -79,10 +80,11 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
 
 bool GuiInteraction::sqlError(const QString& error, const QString& statement)
 {
-    QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
+    QMessageBox box(QMessageBox::Critical, ProgramName(),
                     QApplication::translate("SqlErrorLayout", "SQL error:") + u'\n' + error,
                     QMessageBox::Retry | QMessageBox::Cancel, m_parent);
-    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' + statement);
+    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' +
+                        statement);
     return box.exec() == QMessageBox::Retry;
 }
 
