@@ -227,7 +227,7 @@ void MainWindow::setTabPage(MainTab tab, ListTab* page)
     delete old;
     m_tabState[index] = TabState{};
     if (current)
-        tabShown(index);
+        showList(index, false);
 }
 
 ListTab* MainWindow::tabPage(MainTab tab) const
@@ -257,12 +257,17 @@ void MainWindow::companyChanged()
         state.stale = state.shown || state.loaded;
         state.loaded = false;
     }
-    tabShown(m_tabs->currentIndex());
+    showList(m_tabs->currentIndex(), false);
+}
+
+void MainWindow::tabShown(int index)
+{
+    showList(index, true);
 }
 
 // A list is read when the settings ask for it, and always when it may show rows of an earlier
 // session or company. With load-on-start, every tab is read the first time it is shown.
-void MainWindow::tabShown(int index)
+void MainWindow::showList(int index, bool selected)
 {
     if (index < 0 || index >= kTabCount)
         return;
@@ -272,7 +277,7 @@ void MainWindow::tabShown(int index)
     state.shown = true;
     if (!Database::isOpen())
         return;
-    if (state.stale || m_refreshOnTabChange || (m_loadOnStart && !state.loaded))
+    if (state.stale || (selected && m_refreshOnTabChange) || (m_loadOnStart && !state.loaded))
         loadTab(index);
 }
 

@@ -55,6 +55,8 @@ private:
     QAction* addCommand(QMenu* menu, MainCommand command, const QString& caption,
                         const QString& help);
     void tabShown(int index);
+    // selected: the user changed to the tab (not the window opening on it).
+    void showList(int index, bool selected);
     void loadTab(int index);
 
     QTabWidget* m_tabs = nullptr;
