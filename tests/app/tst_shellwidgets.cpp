@@ -197,6 +197,8 @@ void TestShellWidgets::dateTyping_data()
                                  << QStringLiteral("2023.02.29.") << false;
     QTest::newRow("letters are refused")
         << QStringLiteral("2024.marc") << QDate() << QStringLiteral("2024.") << false;
+    QTest::newRow("double dot refused")
+        << QStringLiteral("2024..5") << QDate() << QStringLiteral("2024.5") << false;
     QTest::newRow("empty") << QString() << QDate() << QString() << true;
 }
 

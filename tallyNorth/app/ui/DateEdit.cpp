@@ -19,7 +19,7 @@ public:
     State validate(QString& input, int&) const override
     {
         static const QRegularExpression partial(
-            QStringLiteral("^\\s*[0-9]{0,4}([.\\-]\\s*[0-9]{0,2}){0,2}\\.?\\s*$"));
+            QStringLiteral("^\\s*(\\d{0,4}|\\d{1,4}([.\\-]\\s*\\d{1,2}){0,2}\\s*[.\\-]?)\\s*$"));
         if (input.trimmed().isEmpty() || ParseDate(input).isValid())
             return Acceptable;
         return partial.match(input).hasMatch() ? Intermediate : Invalid;

@@ -2,6 +2,7 @@
 
 #include "EnterLikeTab.h"
 #include "ListTab.h"
+#include "ProgramIcon.h"
 
 #include "Columns.h"
 #include "app/Database.h"
@@ -55,6 +56,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(MainWindowTitle({}, {}));
+    setWindowIcon(ProgramIcon());
     resize(1180, 720);
     buildMenus();
     buildToolBar();
