@@ -2,6 +2,7 @@
 #include "AppCommands.h"
 #include "Cli.h"
 #include "CliInteraction.h"
+#include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
@@ -22,6 +23,8 @@ const CliCommand kCommands[] = {
     {"create", "create NAME --tax-no NO [--zip Z] [--city C] [--address A] [--file NAME.db]",
      RunCreate},
     {"check", "check [--unpaid-methods \"A,B\"]", RunCheck},
+    {"backup", "backup FILE", RunBackup},
+    {"restore", "restore FILE", RunRestore},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

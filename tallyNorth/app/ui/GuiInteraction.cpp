@@ -2,6 +2,7 @@
 
 #include "CheckItemsDlg.h"
 #include "SqlErrorDlg.h"
+#include "app/ProgramInfo.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -43,7 +44,7 @@ private:
 
 void GuiInteraction::message(MessageKind kind, const QString& text)
 {
-    const QString title = QApplication::applicationDisplayName();
+    const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
         QMessageBox::information(m_parent, title, MessageHtml(text));
@@ -59,16 +60,15 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(),
-                                 MessageHtml(text),
+    return QMessageBox::question(m_parent, ProgramName(), MessageHtml(text),
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
-                    MessageHtml(text), QMessageBox::NoButton, m_parent);
+    QMessageBox box(QMessageBox::Question, ProgramName(), MessageHtml(text), QMessageBox::NoButton,
+                    m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);
