@@ -171,7 +171,6 @@ const TableStore& LangStore()
                       QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")},
                      {LANG_NAME,
                       QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")}},
-        .codeColumns = {LANG_CODE},
     });
     return store;
 }
@@ -191,7 +190,6 @@ const TableStore& CountryStore()
                      {COUNTRY_INTERNATIONAL_CODE,
                       QT_TRANSLATE_NOOP("CountryTable",
                                         "International Country Code field must have a value.")}},
-        .codeColumns = {COUNTRY_INTERNATIONAL_CODE},
         .homeId = 0,
         .homeMessage = QT_TRANSLATE_NOOP("CountryTable", "This country can not be deleted."),
     });

@@ -41,7 +41,8 @@ struct TableInfo
     const char* nameColumn;     // the row's name in titles and pick lists
     QString orderBy;
     QList<RequiredField> required = {};
-    // Unique webshop codes: an empty code is stored as NULL so that many rows may lack one.
+    // Optional unique webshop codes, shown only when SETUP_SHOW_CODE_FIELDS is "1"; an empty
+    // code is stored as NULL so that many rows may lack one.
     QList<const char*> codeColumns = {};
     std::optional<qint64> homeId = {}; // the row that can not be deleted
     const char* homeMessage = nullptr;
