@@ -13,12 +13,14 @@
 #include "masterdata/ui/PartnerEdit.h"
 #include "masterdata/ui/RecordBrowse.h"
 #include "masterdata/ui/RecordBrowseDlg.h"
+#include "masterdata/ui/RecordFinder.h"
 #include "masterdata/ui/RecordListModel.h"
 #include "masterdata/ui/TranslationModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -81,6 +83,7 @@ private Q_SLOTS:
     void mailAddressMirrorsBilling();
     void translationsSavedPerLanguage();
     void enterMovesToNextFieldWhenSet();
+    void partnerFinderPicksOrStaysText();
     void numberEditReadsBothSeparators_data();
     void numberEditReadsBothSeparators();
 
@@ -468,6 +471,39 @@ void TestMasterDataBrowse::enterMovesToNextFieldWhenSet()
             QCOMPARE(m_ui.lastMessage(), "Country Name field must have a value.");
         }
     }
+}
+
+void TestMasterDataBrowse::partnerFinderPicksOrStaysText()
+{
+    for (const char* name : {"Árvíztűrő Kft.", "Arvai Bt.", "Béke Kft."}) {
+        Record row{{N(PARTNER_NAME), QString::fromUtf8(name)},
+                   {N(PARTNER_CITY), "Pécs"},
+                   {N(PARTNER_MAIL_IS_SAME), "1"}};
+        std::optional<qint64> id;
+        QVERIFY(PartnerStore().save(row, id));
+    }
+    PartnerFinder finder;
+    QAbstractItemModelTester tester(finder.matches(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    finder.show();
+    QSignalSpy picked(&finder, &RecordFinder::picked);
+    QTest::keyClicks(&finder, "ÁRV");
+    QCOMPARE(ColumnTexts(finder.matches(), 0), QStringList({"Arvai Bt.", "Árvíztűrő Kft."}));
+    QCOMPARE(finder.matches()->headerData(1, Qt::Horizontal).toString(), "City");
+    QVERIFY(!finder.pickedId());
+
+    Q_EMIT finder.dropDown()->activated(finder.dropDown()->completionModel()->index(0, 0));
+    QCOMPARE(finder.text(), "Arvai Bt.");
+    const qint64 arvai =
+        SelectValue("select PARTNER_ID from PARTNER where PARTNER_NAME = 'Arvai Bt.'").toLongLong();
+    QCOMPARE(finder.pickedId(), std::optional<qint64>(arvai));
+    QCOMPARE(picked.count(), 1);
+
+    // Typing again makes it plain text until another pick.
+    QTest::keyClicks(&finder, "x");
+    QVERIFY(!finder.pickedId());
+    QCOMPARE(finder.matches()->rowCount(), 0);
+    QCOMPARE(finder.text(), "Arvai Bt.x");
 }
 
 void TestMasterDataBrowse::numberEditReadsBothSeparators_data()
