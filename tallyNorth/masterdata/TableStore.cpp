@@ -10,11 +10,6 @@
 
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("TableStore", text);
-}
-
 QString Name(const char* column)
 {
     return QString::fromLatin1(column);
@@ -92,7 +87,8 @@ Result TableStore::list(RecordPage& page, const ListQuery& query) const
     }
     SqlStatement st(sql, binds);
     if (!st.exec())
-        return st.failure(Tr("Unable to load data from database."));
+        return st.failure(
+            QCoreApplication::translate("TableStore", "Unable to load data from database."));
     while (st.next()) {
         if (query.limit > 0 && page.rows.size() == query.limit) {
             page.more = true;
@@ -109,7 +105,8 @@ Result TableStore::names(QHash<qint64, QString>& names) const
     SqlStatement st(QStringLiteral("select %1, %2 from %3")
                         .arg(Name(m_info.idColumn), Name(m_info.nameColumn), Name(m_info.table)));
     if (!st.exec())
-        return st.failure(Tr("Unable to load data from database."));
+        return st.failure(
+            QCoreApplication::translate("TableStore", "Unable to load data from database."));
     while (st.next())
         names.insert(st.value(0).toLongLong(), st.value(1).toString());
     return Result::success();
@@ -120,8 +117,8 @@ Result TableStore::read(qint64 id, Record& row) const
     SqlStatement st(QStringLiteral("select %1 from %2 where %3 = ?")
                         .arg(columnList(), Name(m_info.table), Name(m_info.idColumn)),
                     {id});
-    const QString gone =
-        Tr("Unable to load data from database.&Maybe it is deleted by an other user.");
+    const QString gone = QCoreApplication::translate(
+        "TableStore", "Unable to load data from database.&Maybe it is deleted by an other user.");
     if (!st.exec())
         return st.failure(gone);
     if (!st.next())
@@ -163,7 +160,7 @@ Result TableStore::save(Record& row, std::optional<qint64>& id,
             return r;
     }
     if (transaction.active() && !transaction.commit())
-        return Result::failure(Tr("Unable to save data."));
+        return Result::failure(QCoreApplication::translate("TableStore", "Unable to save data."));
     id = written;
     row.insert(Name(m_info.idColumn), *id);
     return Result::success();
@@ -177,7 +174,7 @@ Result TableStore::writeRow(Record& row, std::optional<qint64>& id) const
         names << Name(c);
         values << row.value(Name(c));
     }
-    const QString failed = Tr("Unable to save data.");
+    const QString failed = QCoreApplication::translate("TableStore", "Unable to save data.");
     if (!id) {
         const QString marks = QStringList(names.size(), QStringLiteral("?")).join(u", ");
         SqlStatement st(QStringLiteral("insert into %1 (%2) values (%3)")
@@ -203,7 +200,7 @@ Result TableStore::writeRow(Record& row, std::optional<qint64>& id) const
 Result TableStore::writeChildren(int child, qint64 parentId, const QList<Record>& rows) const
 {
     const ChildTable& c = m_info.children.at(child);
-    const QString failed = Tr(c.saveError);
+    const QString failed = QCoreApplication::translate("TableStore", c.saveError);
     const Result cleared = ExecSql(
         QStringLiteral("delete from %1 where %2 = ?").arg(Name(c.table), Name(c.parentColumn)),
         {parentId}, failed);
@@ -238,7 +235,8 @@ Result TableStore::readChildren(int child, qint64 parentId, QList<Record>& rows)
                         .arg(Name(c.table), Name(c.parentColumn), Name(c.keyColumn)),
                     {parentId});
     if (!st.exec())
-        return st.failure(Tr("Unable to load data from database."));
+        return st.failure(
+            QCoreApplication::translate("TableStore", "Unable to load data from database."));
     while (st.next())
         rows << ReadRecord(st);
     return Result::success();
@@ -256,7 +254,8 @@ Result TableStore::remove(qint64 id) const
     if (Result r = canRemove(id); !r)
         return r;
     const QString failed =
-        m_info.removeError ? text(m_info.removeError) : Tr("Unable to delete data.");
+        m_info.removeError ? text(m_info.removeError)
+                           : QCoreApplication::translate("TableStore", "Unable to delete data.");
     SqlTransaction transaction;
     for (const ChildTable& c : m_info.children) {
         const Result r = ExecSql(

@@ -29,8 +29,10 @@ using namespace Col;
 
 namespace {
 
-const TrText kSelectToEdit = TN("RecordBrowse", "Select a record to edit.");
-const TrText kSelectToDelete = TN("RecordBrowse", "Select a record to delete.");
+const TrText kSelectToEdit =
+    TrText{"RecordBrowse", QT_TRANSLATE_NOOP("RecordBrowse", "Select a record to edit.")};
+const TrText kSelectToDelete =
+    TrText{"RecordBrowse", QT_TRANSLATE_NOOP("RecordBrowse", "Select a record to delete.")};
 
 template <class Form>
 EditFunction FormEdit(const TableStore& (*store)(), TrText add, TrText edit, bool nameInTitle,
@@ -71,18 +73,23 @@ const BrowseInfo& VatBrowse()
 {
     static const BrowseInfo info{
         .store = &VatStore(),
-        .title = TN("VatTable", "VAT keys"),
-        .newButton = TN("VatTable", "&New VAT key"),
+        .title = TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "VAT keys")},
+        .newButton = TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "&New VAT key")},
         .selectToEdit = kSelectToEdit,
         .selectToDelete = kSelectToDelete,
-        .deleteQuestion = TN("VatTable", "Do you really want to delete the selected VAT key?"),
-        .chooseMessage = TN("VatTable", "You have to select a VAT key."),
+        .deleteQuestion =
+            TrText{"VatTable",
+                   QT_TRANSLATE_NOOP("VatTable",
+                                     "Do you really want to delete the selected VAT key?")},
+        .chooseMessage =
+            TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "You have to select a VAT key.")},
         .helpTopic = "AFAKulcsok",
-        .columns = {{TN("VatTable", "Code"), VAT_CODE, true},
-                    {TN("VatTable", "Name"), VAT_NAME},
-                    {TN("VatTable", "Percent"), VAT_PERCENT}},
-        .edit = FormEdit<Ui::VatEditLayout>(VatStore, TN("VatTable", "Add VAT"),
-                                            TN("VatTable", "Edit VAT:"), true),
+        .columns = {{TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "Code")}, VAT_CODE, true},
+                    {TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "Name")}, VAT_NAME},
+                    {TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "Percent")}, VAT_PERCENT}},
+        .edit = FormEdit<Ui::VatEditLayout>(
+            VatStore, TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "Add VAT")},
+            TrText{"VatTable", QT_TRANSLATE_NOOP("VatTable", "Edit VAT:")}, true),
     };
     return info;
 }
@@ -91,17 +98,24 @@ const BrowseInfo& CurrencyBrowse()
 {
     static const BrowseInfo info{
         .store = &CurrencyStore(),
-        .title = TN("CurrencyTable", "Currencies"),
-        .newButton = TN("CurrencyTable", "&New Currency"),
+        .title = TrText{"CurrencyTable", QT_TRANSLATE_NOOP("CurrencyTable", "Currencies")},
+        .newButton = TrText{"CurrencyTable", QT_TRANSLATE_NOOP("CurrencyTable", "&New Currency")},
         .selectToEdit = kSelectToEdit,
         .selectToDelete = kSelectToDelete,
         .deleteQuestion =
-            TN("CurrencyTable", "Do you really want to delete the selected Currency?"),
-        .chooseMessage = TN("CurrencyTable", "You have to select a currency."),
+            TrText{"CurrencyTable",
+                   QT_TRANSLATE_NOOP("CurrencyTable",
+                                     "Do you really want to delete the selected Currency?")},
+        .chooseMessage =
+            TrText{"CurrencyTable",
+                   QT_TRANSLATE_NOOP("CurrencyTable", "You have to select a currency.")},
         .helpTopic = "ProgramKezelese",
-        .columns = {{TN("CurrencyTable", "Name"), CURRENCY_NAME},
-                    {TN("CurrencyTable", "Abbreviation"), CURRENCY_ABBREVIATION},
-                    {TN("CurrencyTable", "Rate"), CURRENCY_RATE}},
+        .columns = {{TrText{"CurrencyTable", QT_TRANSLATE_NOOP("CurrencyTable", "Name")},
+                     CURRENCY_NAME},
+                    {TrText{"CurrencyTable", QT_TRANSLATE_NOOP("CurrencyTable", "Abbreviation")},
+                     CURRENCY_ABBREVIATION},
+                    {TrText{"CurrencyTable", QT_TRANSLATE_NOOP("CurrencyTable", "Rate")},
+                     CURRENCY_RATE}},
         .edit = DialogEdit<CurrencyEdit>(),
     };
     return info;
@@ -111,22 +125,40 @@ const BrowseInfo& PaymentMethodBrowse()
 {
     static const BrowseInfo info{
         .store = &PaymentMethodStore(),
-        .title = TN("PaymentMethodTable", "Payment Methods"),
-        .newButton = TN("PaymentMethodTable", "&New Payment Method"),
-        .selectToEdit = TN("PaymentMethodTable", "Select a payment metod to edit."),
+        .title = TrText{"PaymentMethodTable",
+                        QT_TRANSLATE_NOOP("PaymentMethodTable", "Payment Methods")},
+        .newButton = TrText{"PaymentMethodTable",
+                            QT_TRANSLATE_NOOP("PaymentMethodTable", "&New Payment Method")},
+        .selectToEdit =
+            TrText{"PaymentMethodTable",
+                   QT_TRANSLATE_NOOP("PaymentMethodTable", "Select a payment metod to edit.")},
         .selectToDelete = kSelectToDelete,
         .deleteQuestion =
-            TN("PaymentMethodTable", "Do you really want to delete the selected payment method?"),
-        .chooseMessage = TN("PaymentMethodTable", "You have to select a payment method."),
+            TrText{"PaymentMethodTable",
+                   QT_TRANSLATE_NOOP("PaymentMethodTable",
+                                     "Do you really want to delete the selected payment method?")},
+        .chooseMessage =
+            TrText{"PaymentMethodTable",
+                   QT_TRANSLATE_NOOP("PaymentMethodTable", "You have to select a payment method.")},
         .helpTopic = "FizetesiModok",
-        .columns = {{TN("PaymentMethodTable", "Code"), PAYMENTMETHOD_CODE, true},
-                    {TN("PaymentMethodTable", "Name"), PAYMENTMETHOD_NAME},
-                    {TN("PaymentMethodTable", "Due Days"), PAYMENTMETHOD_DUE_DAYS},
-                    {TN("PaymentMethodTable", "Comment"), PAYMENTMETHOD_COMMENT_TEXT}},
+        .columns =
+            {{TrText{"PaymentMethodTable", QT_TRANSLATE_NOOP("PaymentMethodTable", "Code")},
+              PAYMENTMETHOD_CODE, true},
+             {TrText{"PaymentMethodTable", QT_TRANSLATE_NOOP("PaymentMethodTable", "Name")},
+              PAYMENTMETHOD_NAME},
+             {TrText{"PaymentMethodTable", QT_TRANSLATE_NOOP("PaymentMethodTable", "Due Days")},
+              PAYMENTMETHOD_DUE_DAYS},
+             {TrText{"PaymentMethodTable", QT_TRANSLATE_NOOP("PaymentMethodTable", "Comment")},
+              PAYMENTMETHOD_COMMENT_TEXT}},
         .edit = FormEdit<Ui::PaymentMethodEditLayout>(
-            PaymentMethodStore, TN("PaymentMethodTable", "Add Payment Method"),
-            TN("PaymentMethodTable", "Edit Payment Method"), false,
-            {TN("PaymentMethodTable", "Name"), TN("PaymentMethodTable", "Comment")}),
+            PaymentMethodStore,
+            TrText{"PaymentMethodTable",
+                   QT_TRANSLATE_NOOP("PaymentMethodTable", "Add Payment Method")},
+            TrText{"PaymentMethodTable",
+                   QT_TRANSLATE_NOOP("PaymentMethodTable", "Edit Payment Method")},
+            false,
+            {TrText{"PaymentMethodTable", QT_TRANSLATE_NOOP("PaymentMethodTable", "Name")},
+             TrText{"PaymentMethodTable", QT_TRANSLATE_NOOP("PaymentMethodTable", "Comment")}}),
     };
     return info;
 }
@@ -135,20 +167,36 @@ const BrowseInfo& NoVatReasonBrowse()
 {
     static const BrowseInfo info{
         .store = &NoVatReasonStore(),
-        .title = TN("NoVatReasonTable", "No VAT Reasons"),
-        .newButton = TN("NoVatReasonTable", "&New"),
-        .selectToEdit = TN("NoVatReasonTable", "Select a no vat reason to edit."),
-        .selectToDelete = TN("NoVatReasonTable", "Select a no vat reason to delete."),
-        .deleteQuestion = TN("NoVatReasonTable", "Do you really want to delete the no vat reason?"),
-        .chooseMessage = TN("NoVatReasonTable", "You have to select a no vat reason."),
+        .title =
+            TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "No VAT Reasons")},
+        .newButton = TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "&New")},
+        .selectToEdit =
+            TrText{"NoVatReasonTable",
+                   QT_TRANSLATE_NOOP("NoVatReasonTable", "Select a no vat reason to edit.")},
+        .selectToDelete =
+            TrText{"NoVatReasonTable",
+                   QT_TRANSLATE_NOOP("NoVatReasonTable", "Select a no vat reason to delete.")},
+        .deleteQuestion =
+            TrText{"NoVatReasonTable",
+                   QT_TRANSLATE_NOOP("NoVatReasonTable",
+                                     "Do you really want to delete the no vat reason?")},
+        .chooseMessage =
+            TrText{"NoVatReasonTable",
+                   QT_TRANSLATE_NOOP("NoVatReasonTable", "You have to select a no vat reason.")},
         .helpTopic = "AFAMentessegOkok",
-        .columns = {{TN("NoVatReasonTable", "Code"), NOVATREASON_CODE, true},
-                    {TN("NoVatReasonTable", "Name"), NOVATREASON_NAME},
-                    {TN("NoVatReasonTable", "Text To Invoice"), NOVATREASON_TEXT}},
+        .columns = {{TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "Code")},
+                     NOVATREASON_CODE, true},
+                    {TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "Name")},
+                     NOVATREASON_NAME},
+                    {TrText{"NoVatReasonTable",
+                            QT_TRANSLATE_NOOP("NoVatReasonTable", "Text To Invoice")},
+                     NOVATREASON_TEXT}},
         .edit = FormEdit<Ui::NoVatReasonEditLayout>(
-            NoVatReasonStore, TN("NoVatReasonTable", "Add No VAT Reason"),
-            TN("NoVatReasonTable", "Edit No VAT Reason"), false,
-            {TN("NoVatReasonTable", "Text To Invoice")}),
+            NoVatReasonStore,
+            TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "Add No VAT Reason")},
+            TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "Edit No VAT Reason")},
+            false,
+            {TrText{"NoVatReasonTable", QT_TRANSLATE_NOOP("NoVatReasonTable", "Text To Invoice")}}),
     };
     return info;
 }
@@ -157,17 +205,23 @@ const BrowseInfo& StatNoBrowse()
 {
     static const BrowseInfo info{
         .store = &StatNoStore(),
-        .title = TN("StatNoTable", "Often Used Stat Numbers"),
-        .newButton = TN("StatNoTable", "&New Stat No"),
+        .title = TrText{"StatNoTable", QT_TRANSLATE_NOOP("StatNoTable", "Often Used Stat Numbers")},
+        .newButton = TrText{"StatNoTable", QT_TRANSLATE_NOOP("StatNoTable", "&New Stat No")},
         .selectToEdit = kSelectToEdit,
         .selectToDelete = kSelectToDelete,
-        .deleteQuestion = TN("StatNoTable", "Do you really want to delete the selected Stat No?"),
-        .chooseMessage = TN("StatNoTable", "You have to select a stat no."),
+        .deleteQuestion =
+            TrText{"StatNoTable",
+                   QT_TRANSLATE_NOOP("StatNoTable",
+                                     "Do you really want to delete the selected Stat No?")},
+        .chooseMessage = TrText{"StatNoTable",
+                                QT_TRANSLATE_NOOP("StatNoTable", "You have to select a stat no.")},
         .helpTopic = "VtszSzjSzamok",
-        .columns = {{TN("StatNoTable", "Stat No"), STATNO_STAT_NO},
-                    {TN("StatNoTable", "Name"), STATNO_NAME}},
-        .edit = FormEdit<Ui::StatNoEditLayout>(StatNoStore, TN("StatNoTable", "Add Stat No"),
-                                               TN("StatNoTable", "Edit Stat No:"), true),
+        .columns = {{TrText{"StatNoTable", QT_TRANSLATE_NOOP("StatNoTable", "Stat No")},
+                     STATNO_STAT_NO},
+                    {TrText{"StatNoTable", QT_TRANSLATE_NOOP("StatNoTable", "Name")}, STATNO_NAME}},
+        .edit = FormEdit<Ui::StatNoEditLayout>(
+            StatNoStore, TrText{"StatNoTable", QT_TRANSLATE_NOOP("StatNoTable", "Add Stat No")},
+            TrText{"StatNoTable", QT_TRANSLATE_NOOP("StatNoTable", "Edit Stat No:")}, true),
     };
     return info;
 }
@@ -176,16 +230,22 @@ const BrowseInfo& LangBrowse()
 {
     static const BrowseInfo info{
         .store = &LangStore(),
-        .title = TN("LangTable", "Languages"),
-        .newButton = TN("LangTable", "&New Language"),
+        .title = TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "Languages")},
+        .newButton = TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "&New Language")},
         .selectToEdit = kSelectToEdit,
         .selectToDelete = kSelectToDelete,
-        .deleteQuestion = TN("LangTable", "Do you really want to delete the selected Language?"),
-        .chooseMessage = TN("LangTable", "You have to select a language."),
+        .deleteQuestion =
+            TrText{"LangTable",
+                   QT_TRANSLATE_NOOP("LangTable",
+                                     "Do you really want to delete the selected Language?")},
+        .chooseMessage =
+            TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "You have to select a language.")},
         .helpTopic = "ProgramKezelese",
-        .columns = {{TN("LangTable", "Code"), LANG_CODE}, {TN("LangTable", "Name"), LANG_NAME}},
-        .edit = FormEdit<Ui::LangEditLayout>(LangStore, TN("LangTable", "Add Language"),
-                                             TN("LangTable", "Edit Language:"), true),
+        .columns = {{TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "Code")}, LANG_CODE},
+                    {TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "Name")}, LANG_NAME}},
+        .edit = FormEdit<Ui::LangEditLayout>(
+            LangStore, TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "Add Language")},
+            TrText{"LangTable", QT_TRANSLATE_NOOP("LangTable", "Edit Language:")}, true),
     };
     return info;
 }
@@ -194,16 +254,24 @@ const BrowseInfo& CountryBrowse()
 {
     static const BrowseInfo info{
         .store = &CountryStore(),
-        .title = TN("CountryTable", "Countries"),
-        .newButton = TN("CountryTable", "&New Country"),
+        .title = TrText{"CountryTable", QT_TRANSLATE_NOOP("CountryTable", "Countries")},
+        .newButton = TrText{"CountryTable", QT_TRANSLATE_NOOP("CountryTable", "&New Country")},
         .selectToEdit = kSelectToEdit,
         .selectToDelete = kSelectToDelete,
-        .deleteQuestion = TN("CountryTable", "Do you really want to delete the selected Country?"),
-        .chooseMessage = TN("CountryTable", "You have to select a country."),
+        .deleteQuestion =
+            TrText{"CountryTable",
+                   QT_TRANSLATE_NOOP("CountryTable",
+                                     "Do you really want to delete the selected Country?")},
+        .chooseMessage = TrText{"CountryTable",
+                                QT_TRANSLATE_NOOP("CountryTable", "You have to select a country.")},
         .helpTopic = "ProgramKezelese",
-        .columns = {{TN("CountryTable", "Country Name"), COUNTRY_NAME},
-                    {TN("CountryTable", "International Code"), COUNTRY_INTERNATIONAL_CODE},
-                    {TN("CountryTable", "Name In Addresses"), COUNTRY_NAME_ON_MAILS}},
+        .columns = {{TrText{"CountryTable", QT_TRANSLATE_NOOP("CountryTable", "Country Name")},
+                     COUNTRY_NAME},
+                    {TrText{"CountryTable",
+                            QT_TRANSLATE_NOOP("CountryTable", "International Code")},
+                     COUNTRY_INTERNATIONAL_CODE},
+                    {TrText{"CountryTable", QT_TRANSLATE_NOOP("CountryTable", "Name In Addresses")},
+                     COUNTRY_NAME_ON_MAILS}},
         .edit = DialogEdit<CountryEdit>(),
     };
     return info;
@@ -213,27 +281,46 @@ const BrowseInfo& PartnerBrowse()
 {
     static const BrowseInfo info{
         .store = &PartnerStore(),
-        .title = TN("PartnerTable", "Partners"),
-        .newButton = TN("PartnerTable", "&New Partner"),
-        .selectToEdit = TN("PartnerTable", "Select a partner to edit."),
-        .selectToDelete = TN("PartnerTable", "Select a partner to delete."),
-        .deleteQuestion = TN("PartnerTable", "Do you really want to delete the selected partner?"),
-        .chooseMessage = TN("PartnerTable", "You have to select a partner."),
+        .title = TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Partners")},
+        .newButton = TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "&New Partner")},
+        .selectToEdit =
+            TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Select a partner to edit.")},
+        .selectToDelete = TrText{"PartnerTable",
+                                 QT_TRANSLATE_NOOP("PartnerTable", "Select a partner to delete.")},
+        .deleteQuestion =
+            TrText{"PartnerTable",
+                   QT_TRANSLATE_NOOP("PartnerTable",
+                                     "Do you really want to delete the selected partner?")},
+        .chooseMessage = TrText{"PartnerTable",
+                                QT_TRANSLATE_NOOP("PartnerTable", "You have to select a partner.")},
         .helpTopic = "Partnerek",
-        .columns = {{TN("PartnerTable", "Code"), PARTNER_CODE, true},
-                    {TN("PartnerTable", "Name"), PARTNER_NAME},
-                    {TN("PartnerTable", "ZIP"), PARTNER_ZIP},
-                    {TN("PartnerTable", "City"), PARTNER_CITY},
-                    {TN("PartnerTable", "Address"), PARTNER_ADDRESS},
-                    {TN("PartnerTable", "Other Data"), PARTNER_OTHER_DATA},
-                    {TN("PartnerTable", "Payment Method"), nullptr, false, ConvertPaymentmethod},
-                    {TN("PartnerTable", "Due Days"), PARTNER_PAYMENT_DUE_DAYS}},
+        .columns = {{TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Code")},
+                     PARTNER_CODE, true},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Name")},
+                     PARTNER_NAME},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "ZIP")}, PARTNER_ZIP},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "City")},
+                     PARTNER_CITY},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Address")},
+                     PARTNER_ADDRESS},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Other Data")},
+                     PARTNER_OTHER_DATA},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Payment Method")},
+                     nullptr, false, ConvertPaymentmethod},
+                    {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Due Days")},
+                     PARTNER_PAYMENT_DUE_DAYS}},
         .edit = DialogEdit<PartnerEdit>(),
         .searchTip =
-            TN("PartnerTable", "Type in first characters of partner name and press Enter to find"),
+            TrText{"PartnerTable",
+                   QT_TRANSLATE_NOOP(
+                       "PartnerTable",
+                       "Type in first characters of partner name and press Enter to find")},
         .moreMessage =
-            TN("PartnerTable",
-               "There are more matching partners then displayed. Try more specific filter."),
+            TrText{
+                "PartnerTable",
+                QT_TRANSLATE_NOOP(
+                    "PartnerTable",
+                    "There are more matching partners then displayed. Try more specific filter.")},
         .beforeLoad = [] { PaymentMethodStore().names(PaymentMethodNames()); },
     };
     return info;

@@ -18,30 +18,47 @@ const BrowseInfo& ProductBrowseInfo()
 {
     static const BrowseInfo info{
         .store = &ProductStore(),
-        .title = TN("ProductTable", "Products"),
-        .newButton = TN("ProductTable", "&New Product"),
-        .selectToEdit = TN("ProductTable", "Select a product to edit."),
-        .selectToDelete = TN("ProductTable", "Select a product to delete."),
-        .deleteQuestion = TN("ProductTable", "Do you really want to delete the selected product?"),
-        .chooseMessage = TN("ProductTable", "You have to select a product."),
+        .title = TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Products")},
+        .newButton = TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "&New Product")},
+        .selectToEdit =
+            TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Select a product to edit.")},
+        .selectToDelete = TrText{"ProductTable",
+                                 QT_TRANSLATE_NOOP("ProductTable", "Select a product to delete.")},
+        .deleteQuestion =
+            TrText{"ProductTable",
+                   QT_TRANSLATE_NOOP("ProductTable",
+                                     "Do you really want to delete the selected product?")},
+        .chooseMessage = TrText{"ProductTable",
+                                QT_TRANSLATE_NOOP("ProductTable", "You have to select a product.")},
         .helpTopic = "Termekek",
-        .columns = {{TN("ProductTable", "Code"), PRODUCT_CODE, true},
-                    {TN("ProductTable", "Name"), PRODUCT_NAME},
-                    {TN("ProductTable", "Stat No"), PRODUCT_STAT_NO},
-                    {TN("ProductTable", "Unit"), PRODUCT_UNIT},
-                    {TN("ProductTable", "Price"), PRODUCT_PRICE}},
+        .columns =
+            {{TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Code")}, PRODUCT_CODE,
+              true},
+             {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Name")}, PRODUCT_NAME},
+             {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Stat No")},
+              PRODUCT_STAT_NO},
+             {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Unit")}, PRODUCT_UNIT},
+             {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Price")}, PRODUCT_PRICE}},
         .edit =
             [](QWidget* parent, std::optional<qint64> id, const Record& presets) {
                 FormEditDlg<Ui::ProductEditLayout> dlg(ProductStore(), id, parent);
-                dlg.bindFields(TN("ProductTable", "Add Product"),
-                               TN("ProductTable", "Edit Product"), false);
+                dlg.bindFields(
+                    TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Add Product")},
+                    TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Edit Product")},
+                    false);
                 return dlg.run(presets);
             },
         .searchTip =
-            TN("ProductTable", "Type in first characters of product name and press Enter to find"),
+            TrText{"ProductTable",
+                   QT_TRANSLATE_NOOP(
+                       "ProductTable",
+                       "Type in first characters of product name and press Enter to find")},
         .moreMessage =
-            TN("ProductTable",
-               "There are more matching products then displayed. Try more specific filter."),
+            TrText{
+                "ProductTable",
+                QT_TRANSLATE_NOOP(
+                    "ProductTable",
+                    "There are more matching products then displayed. Try more specific filter.")},
     };
     return info;
 }
