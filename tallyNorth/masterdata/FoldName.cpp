@@ -6,8 +6,8 @@ QString FoldName(const QString& name)
     QString out;
     out.reserve(decomposed.size());
     for (const QChar c : decomposed) {
-        if (c.category() == QChar::Mark_NonSpacing ||
-            c.category() == QChar::Mark_SpacingCombining || c.category() == QChar::Mark_Enclosing)
+        if (c.category() == QChar::Mark_NonSpacing || c.category() == QChar::Mark_SpacingCombining
+            || c.category() == QChar::Mark_Enclosing)
             continue;
         out += c;
     }
