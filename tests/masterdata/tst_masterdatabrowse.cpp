@@ -11,6 +11,8 @@
 #include "masterdata/ui/MasterBrowses.h"
 #include "masterdata/ui/NumberEdit.h"
 #include "masterdata/ui/PartnerEdit.h"
+#include "masterdata/ui/ProductEdit.h"
+#include "masterdata/ui/ProductPriceModel.h"
 #include "masterdata/ui/RecordBrowse.h"
 #include "masterdata/ui/RecordBrowseDlg.h"
 #include "masterdata/ui/RecordFinder.h"
@@ -84,6 +86,9 @@ private Q_SLOTS:
     void translationsSavedPerLanguage();
     void enterMovesToNextFieldWhenSet();
     void partnerFinderPicksOrStaysText();
+    void netAndGrossPriceKeptInStep();
+    void priceGridCalculatesAndOverrides();
+    void productListAndFinderShowForeignPrice();
     void numberEditReadsBothSeparators_data();
     void numberEditReadsBothSeparators();
 
@@ -504,6 +509,93 @@ void TestMasterDataBrowse::partnerFinderPicksOrStaysText()
     QVERIFY(!finder.pickedId());
     QCOMPARE(finder.matches()->rowCount(), 0);
     QCOMPARE(finder.text(), "Arvai Bt.x");
+}
+
+void TestMasterDataBrowse::netAndGrossPriceKeptInStep()
+{
+    ProductEdit dlg(std::nullopt);
+    QVERIFY(dlg.load());
+    auto* net = Child<NumberEdit>(&dlg, "m_price");
+    auto* gross = Child<NumberEdit>(&dlg, "m_gross_price");
+    auto* vat = Child<QComboBox>(&dlg, "m_vat_id");
+    vat->setCurrentIndex(vat->findData(1)); // 27%
+    QTest::keyClicks(net, "1000");
+    QCOMPARE(gross->value(), std::optional<double>(1270));
+    gross->clear();
+    QTest::keyClicks(gross, "254");
+    QCOMPARE(net->value(), std::optional<double>(200));
+    // A gross price with decimals gives a net price with two more.
+    gross->clear();
+    QTest::keyClicks(gross, "100,5");
+    QCOMPARE(net->value(), std::optional<double>(79.134));
+    // Another VAT key recomputes the gross price from the stored net price.
+    vat->setCurrentIndex(vat->findData(3)); // 5%
+    QCOMPARE(gross->value(), std::optional<double>(83.091));
+    vat->setCurrentIndex(0); // none: 0%
+    QCOMPARE(gross->value(), std::optional<double>(79.134));
+}
+
+void TestMasterDataBrowse::priceGridCalculatesAndOverrides()
+{
+    QVERIFY(ExecSql("update CURRENCYY set CURRENCY_RATE = 300 where CURRENCY_ID = 1"));
+    auto openProduct = [](std::optional<qint64> id) {
+        auto dlg = std::make_unique<ProductEdit>(id);
+        if (!dlg->load())
+            qFatal("product not loaded");
+        return dlg;
+    };
+    std::unique_ptr<ProductEdit> dlg = openProduct(std::nullopt);
+    ProductPriceModel* prices = dlg->prices();
+    QAbstractItemModelTester tester(prices, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    Child<QLineEdit>(dlg.get(), "m_name")->setText("Kávé");
+    QTest::keyClicks(Child<NumberEdit>(dlg.get(), "m_price"), "1000");
+    QCOMPARE(ColumnTexts(prices, ProductPriceModel::CurrencyColumn), QStringList({"EUR", "USD"}));
+    QCOMPARE(ColumnTexts(prices, ProductPriceModel::CalculatedColumn),
+             QStringList({"3.33", "5.56"}));
+    QVERIFY(prices->setData(prices->index(0, ProductPriceModel::OverriddenColumn), "3,5"));
+    QVERIFY(!prices->setData(prices->index(0, ProductPriceModel::OverriddenColumn), "abc"));
+    QVERIFY(!prices->setData(prices->index(0, ProductPriceModel::CalculatedColumn), "1"));
+    dlg->accept();
+    const std::optional<qint64> id = dlg->id();
+    QVERIFY(id);
+    const QString price =
+        "select PRODUCTPRICE_PRICE from PRODUCTPRICE where PRODUCTPRICE_PRODUCT_ID = ? "
+        "and PRODUCTPRICE_CURRENCY_ID = ?";
+    QCOMPARE(SelectValue(price, {*id, 1}).toDouble(), 3.5);
+    QVERIFY(!SelectValue(price, {*id, 2}).isValid()); // nothing typed: no row
+
+    // Reopened, the overridden price is there; cleared, the row goes and the calculated applies.
+    dlg = openProduct(id);
+    prices = dlg->prices();
+    QCOMPARE(prices->index(0, ProductPriceModel::OverriddenColumn).data().toString(), "3.5");
+    QCOMPARE(prices->index(0, ProductPriceModel::CalculatedColumn).data().toString(), "3.33");
+    QVERIFY(prices->setData(prices->index(0, ProductPriceModel::OverriddenColumn), ""));
+    dlg->accept();
+    QCOMPARE(
+        SelectValue("select count(*) from PRODUCTPRICE where PRODUCTPRICE_PRODUCT_ID = ?", {*id})
+            .toInt(),
+        0);
+}
+
+void TestMasterDataBrowse::productListAndFinderShowForeignPrice()
+{
+    QVERIFY(ExecSql("insert into PRODUCTPRICE values (1, 1, 3.9)"));
+    QVERIFY(ExecSql("insert into PRODUCT (PRODUCT_NAME, PRODUCT_NAME_ASCII, PRODUCT_PRICE) "
+                    "values ('Tea', 'TEA', 560)"));
+    RecordBrowse browse(MasterBrowseInfo(MasterTable::Product), RecordBrowse::Mode::Page);
+    QVERIFY(browse.reload());
+    const int last = browse.model()->columnCount() - 1;
+    QCOMPARE(browse.model()->headerData(last, Qt::Horizontal).toString(), "Price (EUR)");
+    // Tea: 560 / 280 = 2; the test product's euro price is overridden.
+    QCOMPARE(ColumnTexts(browse.model(), last), QStringList({"2", "3.9"}));
+
+    ProductFinder finder;
+    finder.setCurrency(2);
+    finder.show();
+    QTest::keyClicks(&finder, "te");
+    QCOMPARE(ColumnTexts(finder.matches(), 0), QStringList({"Tea", "Teszt termék"}));
+    QCOMPARE(finder.matches()->headerData(2, Qt::Horizontal).toString(), "Price (USD)");
+    QCOMPARE(ColumnTexts(finder.matches(), 2), QStringList({"3.11", "5.56"}));
 }
 
 void TestMasterDataBrowse::numberEditReadsBothSeparators_data()

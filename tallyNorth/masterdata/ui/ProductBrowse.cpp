@@ -1,18 +1,48 @@
 #include "ProductBrowse.h"
 
-#include "RecordEditDlg.h"
-#include "ui_ProductEditLayout.h"
+#include "ProductEdit.h"
 
 #include "Columns.h"
+#include "app/MessageArgs.h"
+#include "app/SqlValue.h"
 #include "masterdata/MasterTables.h"
+#include "masterdata/ProductPrices.h"
 
 using namespace Col;
 
-#define TN(c, text)                                                                                \
-    TrText                                                                                         \
-    {                                                                                              \
-        c, QT_TRANSLATE_NOOP(c, text)                                                              \
-    }
+namespace {
+
+// Prices in the list's second currency, read before each load.
+CurrencyPrices& ListPrices()
+{
+    static CurrencyPrices prices;
+    return prices;
+}
+
+void LoadListPrices()
+{
+    if (const std::optional<qint64> currency = ListPriceCurrency())
+        ListPrices().load(*currency);
+    else
+        ListPrices() = CurrencyPrices();
+}
+
+} // namespace
+
+QString PriceInHeader(const QString& abbreviation)
+{
+    return FillArgs(QCoreApplication::translate("ProductTable", "Price (%s)"), {abbreviation});
+}
+
+QVariant PriceIn(const CurrencyPrices& prices, const Record& product)
+{
+    const std::optional<qint64> id = RowId(product.value(QString::fromLatin1(PRODUCT_ID)));
+    const QVariant net = product.value(QString::fromLatin1(PRODUCT_PRICE));
+    if (!id || IsNullValue(net))
+        return {};
+    const std::optional<double> price = prices.price(*id, ToNumber(net));
+    return price ? QVariant(*price) : QVariant();
+}
 
 const BrowseInfo& ProductBrowseInfo()
 {
@@ -25,9 +55,8 @@ const BrowseInfo& ProductBrowseInfo()
         .selectToDelete = TrText{"ProductTable",
                                  QT_TRANSLATE_NOOP("ProductTable", "Select a product to delete.")},
         .deleteQuestion =
-            TrText{"ProductTable",
-                   QT_TRANSLATE_NOOP("ProductTable",
-                                     "Do you really want to delete the selected product?")},
+            TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Do you really want to delete "
+                                                                     "the selected product?")},
         .chooseMessage = TrText{"ProductTable",
                                 QT_TRANSLATE_NOOP("ProductTable", "You have to select a product.")},
         .helpTopic = "Termekek",
@@ -38,27 +67,25 @@ const BrowseInfo& ProductBrowseInfo()
              {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Stat No")},
               PRODUCT_STAT_NO},
              {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Unit")}, PRODUCT_UNIT},
-             {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Price")}, PRODUCT_PRICE}},
+             {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Price")}, PRODUCT_PRICE},
+             {{},
+              nullptr,
+              false,
+              [](const Record& row) { return PriceIn(ListPrices(), row); },
+              [] { return PriceInHeader(ListPrices().currency().abbreviation); }}},
         .edit =
             [](QWidget* parent, std::optional<qint64> id, const Record& presets) {
-                FormEditDlg<Ui::ProductEditLayout> dlg(ProductStore(), id, parent);
-                dlg.bindFields(
-                    TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Add Product")},
-                    TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Edit Product")},
-                    false);
+                ProductEdit dlg(id, parent);
                 return dlg.run(presets);
             },
-        .searchTip =
-            TrText{"ProductTable",
-                   QT_TRANSLATE_NOOP(
-                       "ProductTable",
-                       "Type in first characters of product name and press Enter to find")},
-        .moreMessage =
-            TrText{
-                "ProductTable",
-                QT_TRANSLATE_NOOP(
-                    "ProductTable",
-                    "There are more matching products then displayed. Try more specific filter.")},
+        .searchTip = TrText{"ProductTable",
+                            QT_TRANSLATE_NOOP("ProductTable", "Type in first characters of product "
+                                                              "name and press Enter to find")},
+        .moreMessage = TrText{"ProductTable",
+                              QT_TRANSLATE_NOOP("ProductTable",
+                                                "There are more matching products then displayed. "
+                                                "Try more specific filter.")},
+        .beforeLoad = LoadListPrices,
     };
     return info;
 }

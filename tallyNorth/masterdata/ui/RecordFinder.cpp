@@ -1,10 +1,12 @@
 #include "RecordFinder.h"
 
+#include "ProductBrowse.h"
 #include "RecordListModel.h"
 
 #include "Columns.h"
 #include "app/Setup.h"
 #include "masterdata/MasterTables.h"
+#include "masterdata/ProductPrices.h"
 
 #include <QCompleter>
 #include <QHeaderView>
@@ -85,4 +87,37 @@ PartnerFinder::PartnerFinder(QWidget* parent)
            {{"PartnerFinder", QT_TRANSLATE_NOOP("PartnerFinder", "City")}, Col::PARTNER_CITY}},
           parent)
 {
+}
+
+ProductFinder::ProductFinder(QWidget* parent)
+    : ProductFinder(std::make_shared<CurrencyPrices>(), parent)
+{
+}
+
+// The columns share the prices with the finder, which loads them before each search.
+ProductFinder::ProductFinder(std::shared_ptr<CurrencyPrices> prices, QWidget* parent)
+    : RecordFinder(
+          ProductStore(),
+          {{{"ProductFinder", QT_TRANSLATE_NOOP("ProductFinder", "Name")}, Col::PRODUCT_NAME},
+           {{"ProductFinder", QT_TRANSLATE_NOOP("ProductFinder", "Price")}, Col::PRODUCT_PRICE},
+           {{},
+            nullptr,
+            false,
+            [prices](const Record& row) { return PriceIn(*prices, row); },
+            [prices] { return PriceInHeader(prices->currency().abbreviation); }}},
+          parent),
+      m_prices(std::move(prices))
+{
+}
+
+ProductFinder::~ProductFinder() = default;
+
+void ProductFinder::setCurrency(qint64 currencyId)
+{
+    m_currencyId = currencyId;
+}
+
+void ProductFinder::prepareSearch()
+{
+    m_prices->load(m_currencyId);
 }

@@ -6,6 +6,9 @@
 
 #include <QLineEdit>
 
+#include <memory>
+
+class CurrencyPrices;
 class QCompleter;
 class RecordListModel;
 
@@ -46,4 +49,25 @@ class PartnerFinder : public RecordFinder
     Q_OBJECT
 public:
     explicit PartnerFinder(QWidget* parent = nullptr);
+};
+
+// Products by name, with the net price and the price in one foreign currency (an order's).
+class ProductFinder : public RecordFinder
+{
+    Q_OBJECT
+public:
+    explicit ProductFinder(QWidget* parent = nullptr);
+    ~ProductFinder() override;
+
+    // The currency of the "Price (%s)" column; the forint shows the net price there too.
+    void setCurrency(qint64 currencyId);
+
+protected:
+    void prepareSearch() override;
+
+private:
+    ProductFinder(std::shared_ptr<CurrencyPrices> prices, QWidget* parent);
+
+    std::shared_ptr<CurrencyPrices> m_prices;
+    qint64 m_currencyId = 0;
 };
