@@ -7,6 +7,7 @@
 #include "Columns.h"
 #include "app/Setup.h"
 #include "masterdata/MasterTables.h"
+#include "orders/OrderCalc.h"
 
 using namespace Col;
 
@@ -36,10 +37,13 @@ PartnerEdit::PartnerEdit(std::optional<qint64> id, QWidget* parent)
         FillMasterCombo(m_ui->m_mail_country_id, MasterTable::Country, true);
         mirrorMailAddress();
     });
-    m_ui->m_discount_type->addItem(QCoreApplication::translate("DiscountType", "No discount"), 0);
+    m_ui->m_discount_type->addItem(QCoreApplication::translate("DiscountType", "No discount"),
+                                   static_cast<int>(DiscountType::NoDiscount));
     m_ui->m_discount_type->addItem(
-        QCoreApplication::translate("DiscountType", "Percent from List Price"), 1);
-    m_ui->m_discount_type->addItem(QCoreApplication::translate("DiscountType", "Special Price"), 2);
+        QCoreApplication::translate("DiscountType", "Percent from List Price"),
+        static_cast<int>(DiscountType::PercentFromListPrice));
+    m_ui->m_discount_type->addItem(QCoreApplication::translate("DiscountType", "Special Price"),
+                                   static_cast<int>(DiscountType::EnteredPrice));
     m_ui->m_payment_due_days->setWholeNumbers(true);
 
     connect(m_ui->m_mail_is_same, &QCheckBox::toggled, this, &PartnerEdit::mirrorMailAddress);
