@@ -1,9 +1,11 @@
 // The GUI entry point.
+#include "app/BaseFolder.h"
 #include "app/Language.h"
+#include "app/ui/PlaceholderWindow.h"
+#include "app/ui/Startup.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLabel>
 
 int main(int argc, char* argv[])
 {
@@ -13,14 +15,24 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(QStringLiteral("3.0.4"));
 
     QCommandLineParser parser;
+    const QCommandLineOption baseOption(QStringLiteral("base"),
+                                        QStringLiteral("Base folder holding DB and backups"),
+                                        QStringLiteral("DIR"));
     const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("hu or en"),
                                         QStringLiteral("LANG"));
+    parser.addOption(baseOption);
     parser.addOption(langOption);
+    parser.addPositionalArgument(QStringLiteral("database"),
+                                 QStringLiteral("The company database file to open"));
     parser.addHelpOption();
     parser.process(app);
     InstallLanguage(ChooseLanguage(parser.value(langOption)));
+    BaseFolder::set(ResolveBaseFolder(parser.value(baseOption)));
+    BaseFolder::ensureExists();
 
-    QLabel placeholder(QStringLiteral("Vantrell Invoicer"));
-    placeholder.show();
+    if (!StartUp(parser.positionalArguments().value(0)))
+        return 1;
+    PlaceholderWindow window;
+    window.show();
     return app.exec();
 }

@@ -33,11 +33,17 @@ case "$mode" in
         ;;
     run)
         base=${TALLYNORTH_BASE:-${XDG_DATA_HOME:-$HOME/.local/share}/tallyNorth}
+        cli=("$build/tallynorth-cli" --base "$base")
         if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
             echo "No display found: preparing the demonstration company without a window."
-            "$build/tallynorth-cli" --base "$base" check
-            "$build/tallynorth-cli" --base "$base" companies
-            exit 0
+            echo "\$ tallynorth-cli --base $base check"
+            "${cli[@]}" check || true
+            echo "\$ tallynorth-cli --base $base companies"
+            exec "${cli[@]}" companies
+        fi
+        # The first start finds no company: the demonstration company is made for it.
+        if ! compgen -G "$base/DB/*.db" >/dev/null; then
+            "${cli[@]}" check
         fi
         exec "$build/tallynorth" --base "$base"
         ;;

@@ -6,35 +6,48 @@
 #include "SqlTransaction.h"
 
 #include <QCoreApplication>
+#include <QSqlError>
 
-bool SchemaExists()
+namespace {
+
+Result RunResource(const char* name, Interaction* interaction, const QSqlDatabase& db)
 {
-    SqlStatement probe(QStringLiteral("select count(*) from ORDERHEAD"));
+    return ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/") + QLatin1String(name)), interaction,
+                         db);
+}
+
+} // namespace
+
+bool SchemaExists(const QSqlDatabase& db)
+{
+    SqlStatement probe(QStringLiteral("select count(*) from ORDERHEAD"), {}, db);
     return probe.exec();
 }
 
-Result CreateSchema(Interaction* interaction, Progress* progress)
+Result CreateSchema(Interaction* interaction, Progress* progress, const QSqlDatabase& db)
 {
-    SqlTransaction transaction;
+    SqlTransaction transaction(db);
     if (progress)
         progress->setText(QCoreApplication::translate("Schema", "Creating database tables"));
-    Result r = ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/create_tables.sql")), interaction);
+    Result r = RunResource("create_tables.sql", interaction, db);
     if (!r)
         return r;
     if (progress)
         progress->setText(QCoreApplication::translate("Schema", "Creating database indexes"));
-    r = ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/create_indexes.sql")), interaction);
+    r = RunResource("create_indexes.sql", interaction, db);
     if (!r)
         return r;
-    r = ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/basic_data.sql")), interaction);
-    if (r)
-        r = ExecSqlScript(LoadSqlScript(QStringLiteral(":/sql/order_labels.sql")), interaction);
+    for (const char* script :
+         {"basic_data.sql", "reference_data.sql", "order_labels.sql", "order_labels_added.sql"}) {
+        r = RunResource(script, interaction, db);
+        if (!r)
+            break;
+    }
+    const QString message =
+        QCoreApplication::translate("Schema", "Unable to insert basic data to database.");
     if (!r)
-        return Result::failure(
-            QCoreApplication::translate("Schema", "Unable to insert basic data to database."),
-            r.sqlError(), r.statement());
+        return Result::failure(message, r.sqlError(), r.statement());
     if (!transaction.commit())
-        return Result::failure(
-            QCoreApplication::translate("Schema", "Unable to insert basic data to database."));
+        return Result::failure(message, db.lastError().text());
     return Result::success();
 }

@@ -4,7 +4,24 @@
 #include "SqlValue.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QSqlRecord>
+
+namespace {
+
+// Column names are pasted into the statement, so only plain SETUP column names pass.
+bool IsSetupColumn(const QString& name)
+{
+    static const QRegularExpression re(QStringLiteral("^SETUP_[A-Z0-9_]+$"));
+    return re.match(name).hasMatch();
+}
+
+QString UpdateFailedText()
+{
+    return QCoreApplication::translate("Setup", "Unable to update SETUP record.");
+}
+
+} // namespace
 
 Result Setup::load()
 {
@@ -86,16 +103,28 @@ Result Setup::write(const QHash<QString, QVariant>& values)
     QStringList assignments;
     QVariantList binds;
     for (const QString& name : std::as_const(names)) {
+        if (!IsSetupColumn(name))
+            return Result::failure(UpdateFailedText(), {}, name);
         assignments << name + QLatin1String(" = ?");
         binds << values.value(name);
     }
-    // A database made before the row existed gets it on first save.
-    if (SelectValue(QStringLiteral("select count(*) from SETUP")).toInt() == 0
-        && !ExecSql(QStringLiteral("insert into SETUP (SETUP_NAME) values (NULL)")))
-        return Result::failure(QCoreApplication::translate("Setup", "Unable to update SETUP record."));
+    // A database made before the row existed gets it on first save; never a second one.
+    const QVariant rows = SelectValue(QStringLiteral("select count(*) from SETUP"));
+    if (!rows.isValid())
+        return Result::failure(UpdateFailedText());
+    if (rows.toInt() == 0) {
+        const Result inserted = ExecSql(
+            QStringLiteral("insert into SETUP (SETUP_NAME) values (NULL)"), {}, UpdateFailedText());
+        if (!inserted)
+            return inserted;
+    }
     SqlStatement st(QStringLiteral("UPDATE SETUP SET ") + assignments.join(u','), binds);
     if (!st.exec())
-        return st.failure(QCoreApplication::translate("Setup", "Unable to update SETUP record."));
+        return st.failure(UpdateFailedText());
+    // The settings in memory follow what was written, whoever wrote it.
+    Setup& settings = current();
+    for (const QString& name : std::as_const(names))
+        settings.m_values.insert(name, values.value(name));
     return Result::success();
 }
 

@@ -29,8 +29,9 @@ public:
     // Writes the columns changed since load() (or the given ones) in one statement.
     Result save();
     Result save(const QStringList& columns);
-    // Writes the given columns with values bound as parameters, without touching memory state:
-    // the way template texts are stored (quotes, brackets and line breaks kept byte for byte).
+    // Writes the given SETUP columns in one statement with the values bound as parameters: the
+    // way template texts are stored (quotes, brackets and line breaks kept byte for byte).
+    // Only names of the form SETUP_... are accepted. current() then holds the written values.
     static Result write(const QHash<QString, QVariant>& values);
 
     // The settings of the open company, reloaded when a database is opened.

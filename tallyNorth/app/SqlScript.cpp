@@ -53,12 +53,23 @@ QString LoadSqlScript(const QString& resource)
     return QString::fromUtf8(f.readAll());
 }
 
-Result ExecSqlScript(const QString& script, Interaction* interaction)
+QString SqlScriptSection(const QString& script, const QString& name)
+{
+    const QString marker = QLatin1String("-- [") + name + QLatin1String("]\n");
+    qsizetype start = script.indexOf(marker);
+    if (start < 0)
+        return {};
+    start += marker.size();
+    const qsizetype end = script.indexOf(QLatin1String("\n-- ["), start);
+    return script.mid(start, end < 0 ? -1 : end - start + 1);
+}
+
+Result ExecSqlScript(const QString& script, Interaction* interaction, const QSqlDatabase& db)
 {
     const QStringList statements = SplitSqlScript(script);
     for (const QString& text : statements) {
         for (;;) {
-            SqlStatement st(text);
+            SqlStatement st(text, {}, db);
             if (st.exec())
                 break;
             if (interaction && interaction->sqlError(st.errorText(), text))

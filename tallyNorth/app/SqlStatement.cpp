@@ -4,8 +4,8 @@
 
 #include <QSqlError>
 
-SqlStatement::SqlStatement(QString text, QVariantList binds)
-    : m_text(std::move(text)), m_binds(std::move(binds)), m_query(Database::session())
+SqlStatement::SqlStatement(QString text, QVariantList binds, const QSqlDatabase& db)
+    : m_text(std::move(text)), m_binds(std::move(binds)), m_query(db)
 {
 }
 
@@ -32,9 +32,10 @@ Result SqlStatement::failure(const QString& message) const
     return Result::failure(message, errorText(), m_text);
 }
 
-Result ExecSql(const QString& text, const QVariantList& binds, const QString& message)
+Result ExecSql(const QString& text, const QVariantList& binds, const QString& message,
+               const QSqlDatabase& db)
 {
-    SqlStatement st(text, binds);
+    SqlStatement st(text, binds, db);
     if (!st.exec())
         return st.failure(message.isEmpty() ? st.errorText() : message);
     return Result::success();

@@ -1,6 +1,7 @@
 // A statement on the current session with every value bound through "?" placeholders.
 #pragma once
 
+#include "Database.h"
 #include "Result.h"
 
 #include <QSqlQuery>
@@ -11,7 +12,9 @@
 class SqlStatement
 {
 public:
-    explicit SqlStatement(QString text, QVariantList binds = {});
+    // Runs on the current session unless another connection is given.
+    explicit SqlStatement(QString text, QVariantList binds = {},
+                          const QSqlDatabase& db = Database::session());
 
     // Prepares, binds and executes; false with errorText() on failure.
     bool exec();
@@ -34,7 +37,8 @@ private:
 };
 
 // Runs one statement that returns no rows.
-Result ExecSql(const QString& text, const QVariantList& binds = {}, const QString& message = {});
+Result ExecSql(const QString& text, const QVariantList& binds = {}, const QString& message = {},
+               const QSqlDatabase& db = Database::session());
 
 // First column of the first row, or an invalid QVariant when there is no row or it fails.
 QVariant SelectValue(const QString& text, const QVariantList& binds = {});

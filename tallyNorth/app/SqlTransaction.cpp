@@ -2,9 +2,9 @@
 
 #include "Database.h"
 
-SqlTransaction::SqlTransaction()
+SqlTransaction::SqlTransaction(const QSqlDatabase& db) : m_db(db)
 {
-    m_active = Database::session().transaction();
+    m_active = m_db.transaction();
 }
 
 SqlTransaction::~SqlTransaction()
@@ -17,7 +17,7 @@ bool SqlTransaction::commit()
     if (!m_active)
         return false;
     m_active = false;
-    return Database::session().commit();
+    return m_db.commit();
 }
 
 void SqlTransaction::rollback()
@@ -25,5 +25,5 @@ void SqlTransaction::rollback()
     if (!m_active)
         return;
     m_active = false;
-    Database::session().rollback();
+    m_db.rollback();
 }

@@ -1,10 +1,12 @@
 // Writes that belong together: rolled back unless committed.
 #pragma once
 
+#include "Database.h"
+
 class SqlTransaction
 {
 public:
-    SqlTransaction();
+    explicit SqlTransaction(const QSqlDatabase& db = Database::session());
     ~SqlTransaction();
     SqlTransaction(const SqlTransaction&) = delete;
     SqlTransaction& operator=(const SqlTransaction&) = delete;
@@ -14,5 +16,6 @@ public:
     void rollback();
 
 private:
+    QSqlDatabase m_db;
     bool m_active = false;
 };

@@ -1,6 +1,7 @@
 // The command-line front end's shared pieces: the context every verb runs in.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
@@ -9,7 +10,7 @@ class Interaction;
 
 struct CliContext
 {
-    QString dbPath;  // --db FILE, empty when not given
+    QString dbPath; // --db FILE, empty when not given
     QString language;
     Interaction* interaction = nullptr;
     QTextStream* out = nullptr;
@@ -28,3 +29,8 @@ struct CliCommand
 
 // Prints a message of the system on standard error: "&" is a line break, formatting dropped.
 void PrintMessage(CliContext& context, const QString& text);
+
+// Splits a verb's arguments into positional ones and "--name value" options of the given names;
+// false on an unknown option or a missing value (bad usage).
+bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,
+                   QHash<QString, QString>* options);

@@ -1,7 +1,9 @@
 // The command-line front end: works on a company database without a window.
+#include "AppCommands.h"
 #include "Cli.h"
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
+#include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
@@ -19,6 +21,12 @@ const CliCommand kCommands[] = {
          *c.out << QCoreApplication::applicationVersion() << Qt::endl;
          return int(ExitOk);
      }},
+    {"companies", "companies", RunCompanies},
+    {"create", "create NAME --tax-no NO [--zip Z] [--city C] [--address A] [--file NAME.db]",
+     RunCreate},
+    {"check", "check [--unpaid-methods \"A,B\"]", RunCheck},
+    {"backup", "backup FILE", RunBackup},
+    {"restore", "restore FILE", RunRestore},
     {"qtf",
      "qtf FILE [--header FILE] [--footer FILE] [--page WxH] [--shift-mm X,Y] --pdf OUT | --text",
      RunQtfCommand},
@@ -28,6 +36,23 @@ const CliCommand kCommands[] = {
 void PrintMessage(CliContext& context, const QString& text)
 {
     *context.err << MessagePlainText(text) << Qt::endl;
+}
+
+bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,
+                   QHash<QString, QString>* options)
+{
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString& arg = args.at(i);
+        if (!arg.startsWith(QLatin1String("--"))) {
+            *positional << arg;
+            continue;
+        }
+        const QString name = arg.mid(2);
+        if (!optionNames.contains(name) || i + 1 >= args.size())
+            return false;
+        options->insert(name, args.at(++i));
+    }
+    return true;
 }
 
 namespace {

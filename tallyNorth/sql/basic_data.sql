@@ -1,28 +1,13 @@
--- Basic data of a new company database; the invoice captions are in order_labels.sql.
-insert into COUNTRY values (0, 'HU', 'Magyarország', '', NULL, 0);
-insert into COUNTRY values (1, 'US', 'Amerikai Egyesült Államok', 'USA', 1, 2);
-insert into COUNTRY values (2, 'DE', 'Németország', 'Germany', 2, 1);
-insert into COUNTRY values (3, 'AT', 'Ausztria', 'Austria', 2, 1);
-insert into COUNTRY values (4, 'RO', 'Románia', 'Romania', 1, 1);
-insert into COUNTRY values (5, 'SK', 'Szlovákia', 'Slovak Republic', 1, 1);
+-- Basic data of a new company database: VAT keys, payment methods, currencies, the settings
+-- row and a sample order. Reference rows shared with the upgrade are in reference_data.sql, the
+-- invoice captions in order_labels.sql and order_labels_added.sql.
 
 insert into CURRENCYY values (0, 'Magyar forint', 'Ft', 1, 0, 1, 2, 0, 0, '1', NULL, NULL, NULL, NULL);
 insert into CURRENCYY values (1, 'Euro', 'EUR', 280, 2, 2, 2, 2, 2, '1', NULL, NULL, NULL, NULL);
 insert into CURRENCYY values (2, 'Amerikai Dollár', 'USD', 180, 2, 2, 2, 2, 2, '1', NULL, NULL, NULL, NULL);
 
-insert into LANG values (1, 'EN', 'Angol');
-insert into LANG values (2, 'DE', 'Német');
-
-insert into NOVATREASON values (1, 'FAD', 'Fordított adózás', 'Az ÁFÁ-t a vevő fizeti.');
-insert into NOVATREASONTRANSLATION values (1, 1, 'VAT have to be paid by customer.');
-insert into NOVATREASONTRANSLATION values (1, 2, 'MwSt wird von den Kunden bezahlt.');
-
 insert into PAYMENTMETHOD values (1, 'KP', '1', '0', 0, 'Készpénz', 'Köszönjük, hogy nálunk vásárolt.', '1');
 insert into PAYMENTMETHOD values (2, 'AT', '0', '0', 8, 'Átutalás', 'Késedelmes fizetés esetén a Polgári Törvénykönyv szerinti késedelmi kamatot számítjuk fel.', '0');
-insert into PAYMENTMETHODTRANSLATION values (1, 1, 'Cash', 'Thank you for your purchase. Köszönjük, hogy nálunk vásárolt.');
-insert into PAYMENTMETHODTRANSLATION values (1, 2, 'Barverkauf', 'Vielen Dank für Ihren Einkauf. Köszönjük, hogy nálunk vásárolt.');
-insert into PAYMENTMETHODTRANSLATION values (2, 1, 'Wire Transfer', 'Thank you for your purchase. Köszönjük, hogy nálunk vásárolt.');
-insert into PAYMENTMETHODTRANSLATION values (2, 2, 'Überweisung', 'Vielen Dank für Ihren Einkauf. Köszönjük, hogy nálunk vásárolt.');
 
 insert into VAT values (1, '27', '27%', 27);
 insert into VAT values (2, '18', '18%', 18);
@@ -66,7 +51,7 @@ insert into PARTNER (PARTNER_ID, PARTNER_NAME, PARTNER_NAME_ASCII, PARTNER_ZIP, 
   PARTNER_PAYMENT_DUE_DAYS, PARTNER_DISCOUNT_TYPE, PARTNER_DISCOUNT_PERCENT, PARTNER_CURRENCY_ID,
   PARTNER_MAIL_IS_SAME, PARTNER_MAIL_NAME, PARTNER_MAIL_ZIP, PARTNER_MAIL_CITY, PARTNER_MAIL_ADDRESS,
   PARTNER_MAIL_COUNTRY_ID)
-values (1, 'Teszt Partner Kft', 'TESZT PARTNER KFT', '1011', 'Budapest', 'Fő utca 1.', '12345676-2-41',
+values (1, 'Teszt Partner Kft', 'TESZT PARTNER KFT', '1011', 'Budapest', 'Fő utca 1.', '87654323-2-13',
   0, 0, 2, 8, 0, 0, 0, '1', 'Teszt Partner Kft', '1011', 'Budapest', 'Fő utca 1.', 0);
 
 insert into PRODUCT values (1, NULL, 'Teszt termék', 'TESZT TERMEK', NULL, NULL, 'db', 1, 1000);
@@ -91,7 +76,7 @@ insert into ORDERHEAD (ORDERHEAD_ID, ORDERHEAD_PARTNER_ID, ORDERHEAD_PARTNER_NAM
   ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_UNPAID_TOTAL, ORDERHEAD_PAID,
   ORDERHEAD_PRINTED_COPIES, ORDERHEAD_VERIFIED)
 values (1, 1, 'Teszt Partner Kft', 'TESZT PARTNER KFT', '1011', 'Budapest', 'Fő utca 1.',
-  '12345676-2-41', 0, 'HU', 'Magyarország', '', 0, '1', 'Teszt Partner Kft', '1011', 'Budapest',
+  '87654323-2-13', 0, 'HU', 'Magyarország', '', 0, '1', 'Teszt Partner Kft', '1011', 'Budapest',
   'Fő utca 1.', 0, 'HU', 'Magyarország', '', 2, 'AT', 'Átutalás', '0', '0', '3000-01-01',
   '3000-01-01', '3000-01-01', '0', '0', 0, 'Ft', 1, 0, 1, 2, 0, 0, 'Mintarendelés', 2500, 675,
   3175, 0, '0', 0, '0');

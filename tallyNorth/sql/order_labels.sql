@@ -1,4 +1,5 @@
--- Invoice captions of languages 0 (Hungarian), 1 (English) and 2 (German).
+-- Invoice captions of languages 0 (Hungarian), 1 (English) and 2 (German): written into a new
+-- company database and again by the upgrade to version 300.
 insert into ORDERLABELTRANSLATION values (0, 'TR_PHONE', 'Tel.');
 insert into ORDERLABELTRANSLATION values (1, 'TR_PHONE', 'Phone');
 insert into ORDERLABELTRANSLATION values (2, 'TR_PHONE', 'Telephone');
@@ -121,12 +122,3 @@ insert into ORDERLABELTRANSLATION values (2, 'TR_NET', 'Netto');
 insert into ORDERLABELTRANSLATION values (0, 'TR_GROSS', 'Bruttó');
 insert into ORDERLABELTRANSLATION values (1, 'TR_GROSS', 'Gross');
 insert into ORDERLABELTRANSLATION values (2, 'TR_GROSS', 'Brutto');
-insert into ORDERLABELTRANSLATION values (0, 'TR_ROUNDING_ERROR_CORRECTION', 'Korrekciós tényező');
-insert into ORDERLABELTRANSLATION values (1, 'TR_ROUNDING_ERROR_CORRECTION', 'Rounding error correction');
-insert into ORDERLABELTRANSLATION values (2, 'TR_ROUNDING_ERROR_CORRECTION', 'Rundung Fehlerkorrektur');
-insert into ORDERLABELTRANSLATION values (0, 'TR_ROUNDING', 'Kerekítés');
-insert into ORDERLABELTRANSLATION values (1, 'TR_ROUNDING', 'Rounding');
-insert into ORDERLABELTRANSLATION values (2, 'TR_ROUNDING', 'Rundung');
-insert into ORDERLABELTRANSLATION values (0, 'TR_MAIL_TO', 'Levélcím');
-insert into ORDERLABELTRANSLATION values (1, 'TR_MAIL_TO', 'Mail To');
-insert into ORDERLABELTRANSLATION values (2, 'TR_MAIL_TO', 'Adresse');

@@ -1,5 +1,8 @@
 #include "GuiInteraction.h"
 
+#include "CheckItemsDlg.h"
+#include "SqlErrorDlg.h"
+#include "app/ProgramInfo.h"
 #include "documents/MessageText.h"
 
 #include <QApplication>
@@ -36,7 +39,7 @@ private:
 
 void GuiInteraction::message(MessageKind kind, const QString& text)
 {
-    const QString title = QApplication::applicationDisplayName();
+    const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
         QMessageBox::information(m_parent, title, MessageRichText(text));
@@ -52,16 +55,15 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, QApplication::applicationDisplayName(),
-                                 MessageRichText(text),
+    return QMessageBox::question(m_parent, ProgramName(), MessageRichText(text),
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
-                    MessageRichText(text), QMessageBox::NoButton, m_parent);
+    QMessageBox box(QMessageBox::Question, ProgramName(), MessageRichText(text), QMessageBox::NoButton,
+                    m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);
@@ -75,17 +77,18 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
 
 bool GuiInteraction::sqlError(const QString& error, const QString& statement)
 {
-    QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
-                    QApplication::translate("SqlErrorLayout", "SQL error:") + u'\n' + error,
-                    QMessageBox::Retry | QMessageBox::Cancel, m_parent);
-    box.setDetailedText(QApplication::translate("SqlErrorLayout", "Error statement:") + u'\n' + statement);
-    return box.exec() == QMessageBox::Retry;
+    return SqlErrorDlg::askRetry(error, statement, m_parent);
 }
 
-std::optional<QList<bool>> GuiInteraction::checkItems(const QString&, const QString&,
-                                                      const QString&, const QStringList& items)
+std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,
+                                                      const QString& itemCaption,
+                                                      const QString& checkCaption,
+                                                      const QStringList& items)
 {
-    return QList<bool>(items.size(), false);
+    CheckItemsDlg dlg(title, itemCaption, checkCaption, items, m_parent);
+    if (dlg.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dlg.checked();
 }
 
 std::unique_ptr<Progress> GuiInteraction::progress(const QString& text)

@@ -1,0 +1,162 @@
+#include "Backup.h"
+
+#include "Database.h"
+#include "Interaction.h"
+#include "MessageArgs.h"
+#include "Setup.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+bool SameFile(const QString& a, const QString& b)
+{
+    const QFileInfo fa(a), fb(b);
+    if (fa.exists() && fb.exists())
+        return fa.canonicalFilePath() == fb.canonicalFilePath();
+    return fa.absoluteFilePath() == fb.absoluteFilePath();
+}
+
+// Copies through a temporary file that replaces target only when complete, so a failed copy
+// leaves an earlier target as it was.
+bool CopyReplacing(const QString& source, const QString& target)
+{
+    if (SameFile(source, target))
+        return false;
+    QFile in(source);
+    if (!in.open(QIODevice::ReadOnly))
+        return false;
+    QSaveFile out(target);
+    if (!out.open(QIODevice::WriteOnly))
+        return false;
+    while (!in.atEnd()) {
+        const QByteArray chunk = in.read(1 << 20);
+        if (chunk.isEmpty() && in.error() != QFileDevice::NoError)
+            return false;
+        if (out.write(chunk) != chunk.size())
+            return false;
+    }
+    return out.commit();
+}
+
+// Moves from to to, replacing an earlier to.
+bool MoveReplacing(const QString& from, const QString& to)
+{
+    if (QFile::exists(to) && !QFile::remove(to))
+        return false;
+    return QFile::rename(from, to);
+}
+
+// Puts the company's own file back after a failed restore. If even that fails, the user must
+// learn where the file is.
+bool PutBack(const QString& aside, const QString& databasePath, Interaction& interaction)
+{
+    if (!QFile::exists(aside))
+        return true;
+    if (MoveReplacing(aside, databasePath))
+        return true;
+    interaction.error(FillArgs(
+        QCoreApplication::translate("Backup", "The previous database file is kept here:&%s"),
+        {aside}));
+    return false;
+}
+
+Result OpenCompanyFile(const QString& path)
+{
+    const Result opened = Database::open(path);
+    if (!opened)
+        return opened;
+    return Setup::current().load();
+}
+
+} // namespace
+
+QString BackupFileName(const QString& databasePath)
+{
+    return QFileInfo(databasePath).fileName() + u'k';
+}
+
+bool BackupBelongsTo(const QString& backupPath, const QString& databasePath)
+{
+    return QFileInfo(backupPath).completeBaseName() == QFileInfo(databasePath).completeBaseName();
+}
+
+QString RestoreAsidePath(const QString& databasePath)
+{
+    return databasePath + QLatin1String(".dbk");
+}
+
+bool DoBackup(const QString& databasePath, const QString& target, Interaction& interaction)
+{
+    const bool wasOpen = Database::isOpen();
+    Database::close();
+    const bool copied = CopyReplacing(databasePath, target);
+    const Result reopened = wasOpen ? Database::open(databasePath) : Result::success();
+    if (copied)
+        interaction.info(QCoreApplication::translate("Backup", "Backup file saved successfully."));
+    else
+        interaction.error(QCoreApplication::translate("Backup", "Error backing up database file."));
+    if (!reopened)
+        interaction.error(reopened.message());
+    return copied && reopened;
+}
+
+bool ConfirmRestore(Interaction& interaction)
+{
+    return interaction.askYesNo(QCoreApplication::translate(
+        "Backup", "The content of current database will be overwritten&by the "
+                  "backup file you select to restore.&Do you want to continue?"));
+}
+
+bool RestoreBackup(const QString& databasePath, const QString& backupPath, Interaction& interaction,
+                   const CompanyOpener& open)
+{
+    if (!BackupBelongsTo(backupPath, databasePath)) {
+        interaction.exclamation(QCoreApplication::translate(
+            "Backup", "The selected file is not a backup of currently active database/company."));
+        return false;
+    }
+    const bool wasOpen = Database::isOpen();
+    const auto reopenOwn = [&] {
+        if (wasOpen)
+            open(databasePath);
+    };
+    Database::close();
+    const QString aside = RestoreAsidePath(databasePath);
+    if (QFile::exists(databasePath) && !MoveReplacing(databasePath, aside)) {
+        interaction.error(
+            QCoreApplication::translate("Backup", "Error restoring backup database file."));
+        reopenOwn();
+        return false;
+    }
+    if (!CopyReplacing(backupPath, databasePath)) {
+        interaction.error(
+            QCoreApplication::translate("Backup", "Error restoring backup database file."));
+        if (PutBack(aside, databasePath, interaction))
+            reopenOwn();
+        return false;
+    }
+    if (!wasOpen && !interaction.askYesNo(QCoreApplication::translate(
+                        "Backup", "Database restored successfully.&Do you want to open it now?")))
+        return true;
+    if (!open(databasePath)) {
+        Database::close();
+        interaction.error(
+            QCoreApplication::translate("Backup", "Unable to open restored database file."));
+        if (PutBack(aside, databasePath, interaction))
+            reopenOwn();
+        return false;
+    }
+    if (wasOpen)
+        interaction.info(
+            QCoreApplication::translate("Backup", "Backup file restored successfully."));
+    return true;
+}
+
+bool RestoreBackup(const QString& databasePath, const QString& backupPath, Interaction& interaction)
+{
+    return RestoreBackup(databasePath, backupPath, interaction, OpenCompanyFile);
+}

@@ -1,0 +1,37 @@
+// Backups of a company database: byte-for-byte copies of its file with the extension "dbk",
+// kept in the backup folder, and their restore in place of the company's file.
+#pragma once
+
+#include "Result.h"
+
+#include <QString>
+
+#include <functional>
+
+class Interaction;
+
+// Opens a company file as the current database, prepared for use (an older file upgraded).
+using CompanyOpener = std::function<Result(const QString& path)>;
+
+// "ceg.db" gives "ceg.dbk" (the file name only).
+QString BackupFileName(const QString& databasePath);
+// A backup belongs to a company when the names of both files without extension are equal.
+bool BackupBelongsTo(const QString& backupPath, const QString& databasePath);
+// Where a restore keeps the replaced file: the database path with ".dbk" appended.
+QString RestoreAsidePath(const QString& databasePath);
+
+// Copies the company's file to target, replacing it. The session is closed for the copy and
+// opened again afterwards whatever happened. Tells the user the outcome; true on success.
+bool DoBackup(const QString& databasePath, const QString& target, Interaction& interaction);
+
+// The question asked before the backup file is chosen.
+bool ConfirmRestore(Interaction& interaction);
+
+// Puts backupPath in the place of the company's file, keeping the replaced file aside, and opens
+// the restored file through open. When no database was open, asks first whether to open it.
+// Failures leave the company's own file in place (and open again when it was open).
+bool RestoreBackup(const QString& databasePath, const QString& backupPath, Interaction& interaction,
+                   const CompanyOpener& open);
+// The same, opening the restored file the way the program opens a company.
+bool RestoreBackup(const QString& databasePath, const QString& backupPath,
+                   Interaction& interaction);

@@ -1,0 +1,77 @@
+#include "CompanyChoice.h"
+
+#include "Database.h"
+#include "DatabasePrepare.h"
+#include "Interaction.h"
+#include "MessageArgs.h"
+#include "Setup.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include "Columns.h"
+
+namespace {
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("CompanyChoice", text);
+}
+
+} // namespace
+
+QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
+                              Interaction& interaction, const CompanySelector& select)
+{
+    if (!commandLinePath.isEmpty()) {
+        if (QFileInfo(commandLinePath).isFile())
+            return QFileInfo(commandLinePath).absoluteFilePath();
+        interaction.error(FillArgs(Tr("%s does not exists."), {commandLinePath}));
+        return {};
+    }
+    const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
+    if (files.isEmpty()) {
+        interaction.error(
+            Tr("Missing database files. Maybe you have to reinstall the application."));
+        return {};
+    }
+    if (files.size() == 1)
+        return files.first();
+    return select(ReadCompanyEntries(files)).value_or(QString());
+}
+
+Result OpenCompany(const QString& path, Interaction& interaction)
+{
+    const Result opened = Database::open(path);
+    if (!opened) {
+        interaction.error(opened.message());
+        return opened;
+    }
+    return PrepareDatabase(interaction);
+}
+
+bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
+                           const CompanySelector& select)
+{
+    const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
+    if (files.isEmpty()) {
+        interaction.error(Tr("Error: there are no databases."));
+        return false;
+    }
+    if (files.size() == 1) {
+        interaction.info(Tr("There is only one database."));
+        return false;
+    }
+    const std::optional<QString> chosen = select(ReadCompanyEntries(files));
+    if (!chosen)
+        return false;
+    const QString previous = Database::path();
+    if (!OpenCompany(*chosen, interaction)) {
+        if (!previous.isEmpty())
+            OpenCompany(previous, interaction);
+        return false;
+    }
+    interaction.info(FillArgs(Tr("Database/company changed successfully to:&%s"),
+                              {Setup::current().text(Col::SETUP_NAME)}));
+    return true;
+}

@@ -1,0 +1,29 @@
+// Which company database to work on: the choice at start-up and the change of company while
+// running. The asking is left to a selector (the selection dialog, or a script) and the
+// messages go through the Interaction, so the GUI, the command line and the tests share it.
+#pragma once
+
+#include "CompanyList.h"
+#include "Result.h"
+
+#include <functional>
+#include <optional>
+
+class Interaction;
+
+// Picks one of the offered companies and returns its path; nothing when cancelled.
+using CompanySelector = std::function<std::optional<QString>(const QList<CompanyEntry>&)>;
+
+// The path to open at start-up: the command-line path when given and present, the only offered
+// file of dbFolder, or the selector's choice. Empty when the program must not go on; the reason
+// has then been shown.
+QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
+                              Interaction& interaction, const CompanySelector& select);
+
+// Opens path as the current database and prepares it; messages are shown.
+Result OpenCompany(const QString& path, Interaction& interaction);
+
+// "Change database/company...": true when another file was chosen, opened and prepared. When
+// the chosen file cannot be used, the company worked on before is opened again.
+bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
+                           const CompanySelector& select);

@@ -1,0 +1,20 @@
+#include "RegisterCommands.h"
+
+#include "FileCommands.h"
+#include "MainWindow.h"
+
+// One line per subsystem: each registers its handlers with MainWindow::setCommand() and its
+// lists with MainWindow::setTabPage().
+void RegisterCommands(MainWindow& window)
+{
+    RegisterFileCommands(window);
+}
+
+std::unique_ptr<MainWindow> OpenMainWindow()
+{
+    auto window = std::make_unique<MainWindow>();
+    RegisterCommands(*window);
+    window->companyChanged();
+    window->show();
+    return window;
+}

@@ -1,0 +1,106 @@
+#include "AppCommands.h"
+
+#include "CliInteraction.h"
+
+#include "app/BaseFolder.h"
+#include "app/CompanyChoice.h"
+#include "app/CompanyCreate.h"
+#include "app/DatabasePrepare.h"
+#include "app/MessageArgs.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString Tr(const char* text)
+{
+    return QCoreApplication::translate("AppCommands", text);
+}
+
+// The command line cannot ask which company to use: it lists them and wants --db.
+std::optional<QString> RefuseToChoose(CliContext& context, const QList<CompanyEntry>& entries)
+{
+    QStringList lines{QCoreApplication::translate("DatabaseSelectLayout",
+                                                  "Select the database/company you want to use")};
+    for (const CompanyEntry& e : entries)
+        lines << QLatin1String("  ") + e.fileName() + QLatin1String(": ") + e.name;
+    lines << Tr("Choose one with --db FILE.");
+    PrintMessage(context, lines.join(u'\n'));
+    return std::nullopt;
+}
+
+} // namespace
+
+int RunCompanies(CliContext& context, const QStringList& args)
+{
+    if (!args.isEmpty())
+        return ExitUsage;
+    const QList<CompanyEntry> entries =
+        ReadCompanyEntries(OfferedCompanyFiles(CompanyFiles(BaseFolder::dbFolder())));
+    for (const CompanyEntry& e : entries) {
+        *context.out << QStringList{e.fileName(), e.name, e.zip, e.city, e.address, e.taxNo}.join(
+                            u'\t')
+                     << Qt::endl;
+    }
+    return ExitOk;
+}
+
+int RunCreate(CliContext& context, const QStringList& args)
+{
+    QStringList positional;
+    QHash<QString, QString> options;
+    const QStringList names{QStringLiteral("tax-no"), QStringLiteral("zip"), QStringLiteral("city"),
+                            QStringLiteral("address"), QStringLiteral("file")};
+    if (!ParseVerbArgs(args, names, &positional, &options) || positional.size() != 1 ||
+        !options.contains(QStringLiteral("tax-no")))
+        return ExitUsage;
+    NewCompany company;
+    company.name = positional.first();
+    company.taxNo = options.value(QStringLiteral("tax-no"));
+    company.zip = options.value(QStringLiteral("zip"));
+    company.city = options.value(QStringLiteral("city"));
+    company.address = options.value(QStringLiteral("address"));
+    company.fileName = options.value(QStringLiteral("file"));
+    QString path;
+    const Result r = CreateCompany(company, BaseFolder::dbFolder(), *context.interaction, &path);
+    if (!r) {
+        PrintMessage(context, r.message());
+        return ExitFailure;
+    }
+    *context.out << path << Qt::endl;
+    return ExitOk;
+}
+
+int RunCheck(CliContext& context, const QStringList& args)
+{
+    QStringList positional;
+    QHash<QString, QString> options;
+    if (!ParseVerbArgs(args, {QStringLiteral("unpaid-methods")}, &positional, &options) ||
+        !positional.isEmpty())
+        return ExitUsage;
+    if (auto* cli = dynamic_cast<CliInteraction*>(context.interaction)) {
+        const QStringList methods =
+            options.value(QStringLiteral("unpaid-methods")).split(u',', Qt::SkipEmptyParts);
+        for (const QString& m : methods)
+            cli->checkedItems << m.trimmed();
+    }
+    const QString folder = BaseFolder::dbFolder();
+    if (context.dbPath.isEmpty() && CompanyFiles(folder).isEmpty()) {
+        QString demo;
+        BaseFolder::ensureExists();
+        const Result created = CreateDemoCompany(folder, *context.interaction, &demo);
+        if (!created) {
+            PrintMessage(context, created.message());
+            return ExitFailure;
+        }
+        PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {demo}));
+    }
+    const QString path = ChooseStartupDatabase(context.dbPath, folder, *context.interaction,
+                                               [&context](const QList<CompanyEntry>& entries) {
+                                                   return RefuseToChoose(context, entries);
+                                               });
+    if (path.isEmpty() || !OpenCompany(path, *context.interaction))
+        return ExitFailure;
+    *context.out << path << '\t' << ReadDbVersion() << Qt::endl;
+    return ExitOk;
+}

@@ -1,0 +1,86 @@
+#include "LabelTranslations.h"
+
+#include "Columns.h"
+#include "app/SqlStatement.h"
+#include "app/SqlValue.h"
+
+#include <QCoreApplication>
+
+Result LabelTranslations::Load()
+{
+    m_texts.clear();
+    SqlStatement st(QStringLiteral("select %1, %2, %3 from %4")
+                        .arg(QLatin1StringView(Col::ORDERLABELTRANSLATION_LANG_ID),
+                             QLatin1StringView(Col::ORDERLABELTRANSLATION_KEY),
+                             QLatin1StringView(Col::ORDERLABELTRANSLATION_TEXT),
+                             QLatin1StringView(Tbl::ORDERLABELTRANSLATION)));
+    if (!st.exec())
+        return st.failure(QCoreApplication::translate(
+            "LabelTranslations", "Unable to load invoice label translations."));
+    while (st.next()) {
+        if (IsNullValue(st.value(0)) || IsNullValue(st.value(1)))
+            continue;
+        Set(st.value(1).toString(), int(ToInteger(st.value(0))), st.value(2).toString());
+    }
+    return Result::success();
+}
+
+QString LabelTranslations::Get(const QString& key, int language) const
+{
+    return m_texts.value(key).value(language);
+}
+
+QString LabelTranslations::GetBilingual(const QString& key, const QVariant& language) const
+{
+    const QString hungarian = Get(key, Hungarian);
+    if (hungarian.isEmpty())
+        return hungarian;
+    return Join(ForeignText(key, language), hungarian);
+}
+
+QList<std::pair<QString, QString>> LabelTranslations::Placeholders(const QVariant& language) const
+{
+    QList<std::pair<QString, QString>> out;
+    for (auto it = m_texts.cbegin(); it != m_texts.cend(); ++it) {
+        const QString hungarian = it.value().value(Hungarian);
+        if (hungarian.isEmpty())
+            continue;
+        QString name = it.key();
+        name.replace(u'_', u'.');
+        out.append({name, Join(ForeignText(it.key(), language), hungarian)});
+    }
+    return out;
+}
+
+QString LabelTranslations::ForeignText(const QString& key, const QVariant& language) const
+{
+    // Hungarian is printed once: its own text is never the translation beside it.
+    if (IsNullValue(language) || ToInteger(language) == Hungarian)
+        return {};
+    return Get(key, int(ToInteger(language)));
+}
+
+QString LabelTranslations::Join(const QString& translation, const QString& hungarian)
+{
+    if (translation.isEmpty())
+        return hungarian;
+    return translation + QStringLiteral(" / ") + hungarian;
+}
+
+void LabelTranslations::FillPlaceholders(QMap<QString, QString>& map,
+                                         const QVariant& language) const
+{
+    for (const auto& [name, value] : Placeholders(language))
+        map.insert(name, value);
+}
+
+void LabelTranslations::Set(const QString& key, int language, const QString& text)
+{
+    m_texts[key][language] = text;
+}
+
+LabelTranslations& LabelTranslations::current()
+{
+    static LabelTranslations labels;
+    return labels;
+}

@@ -1,0 +1,276 @@
+#include "MasterTables.h"
+
+#include "Columns.h"
+#include "app/SqlValue.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+
+using namespace Col;
+
+namespace {
+
+QString Name(const char* column)
+{
+    return QString::fromLatin1(column);
+}
+
+const char* const kTranslationError =
+    QT_TRANSLATE_NOOP("TableStore", "Unable to save translation data.");
+
+} // namespace
+
+void CapRoundingDecimals(Record& currency)
+{
+    const std::pair<const char*, const char*> pairs[] = {
+        {CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, CURRENCY_LINE_TOTAL_PRINTING_DECIMALS},
+        {CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS, CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS},
+    };
+    for (const auto& [rounding, printing] : pairs) {
+        const QVariant print = currency.value(Name(printing));
+        if (IsNullValue(print))
+            continue;
+        const qint64 round = ToInteger(currency.value(Name(rounding)), ToInteger(print));
+        currency.insert(Name(rounding), std::min(round, ToInteger(print)));
+    }
+}
+
+void CopyMailAddress(Record& partner)
+{
+    if (!IsFlagSet(partner.value(Name(PARTNER_MAIL_IS_SAME))))
+        return;
+    const std::pair<const char*, const char*> pairs[] = {
+        {PARTNER_NAME, PARTNER_MAIL_NAME},
+        {PARTNER_ZIP, PARTNER_MAIL_ZIP},
+        {PARTNER_CITY, PARTNER_MAIL_CITY},
+        {PARTNER_ADDRESS, PARTNER_MAIL_ADDRESS},
+        {PARTNER_COUNTRY_ID, PARTNER_MAIL_COUNTRY_ID},
+    };
+    for (const auto& [billing, mail] : pairs)
+        partner.insert(Name(mail), partner.value(Name(billing)));
+}
+
+const TableStore& VatStore()
+{
+    static const TableStore store({
+        .context = "VatTable",
+        .table = Tbl::VAT,
+        .idColumn = VAT_ID,
+        .columns = {VAT_CODE, VAT_NAME, VAT_PERCENT},
+        .nameColumn = VAT_NAME,
+        .orderBy = QStringLiteral("VAT_PERCENT, VAT_ID"),
+        .required = {{VAT_NAME, QT_TRANSLATE_NOOP("VatTable", "VAT Name field must have a value.")},
+                     {VAT_PERCENT,
+                      QT_TRANSLATE_NOOP("VatTable", "VAT Percent field must have a value.")}},
+        .codeColumns = {VAT_CODE},
+    });
+    return store;
+}
+
+const TableStore& CurrencyStore()
+{
+    static const TableStore store({
+        .context = "CurrencyTable",
+        .table = Tbl::CURRENCYY,
+        .idColumn = CURRENCY_ID,
+        .columns = {CURRENCY_NAME, CURRENCY_ABBREVIATION, CURRENCY_RATE,
+                    CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS,
+                    CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, CURRENCY_LINE_TOTAL_PRINTING_DECIMALS,
+                    CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS,
+                    CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS, CURRENCY_BANK_BY_SETUP,
+                    CURRENCY_BANK_NAME, CURRENCY_BANK_ACCT_NO, CURRENCY_BANK_IBAN,
+                    CURRENCY_BANK_SWIFT},
+        .nameColumn = CURRENCY_NAME,
+        .orderBy = QStringLiteral("CURRENCY_ID"),
+        .required = {{CURRENCY_NAME,
+                      QT_TRANSLATE_NOOP("CurrencyTable", "Currency Name field must have a value.")},
+                     {CURRENCY_ABBREVIATION,
+                      QT_TRANSLATE_NOOP("CurrencyTable",
+                                        "Currency Abbreviation field must have a value.")},
+                     {CURRENCY_RATE, QT_TRANSLATE_NOOP("CurrencyTable",
+                                                       "Exchange Rate field must have a value.")}},
+        .homeId = 0,
+        .homeMessage = QT_TRANSLATE_NOOP("CurrencyTable", "This currency can not be deleted."),
+        .prepare = CapRoundingDecimals,
+    });
+    return store;
+}
+
+const TableStore& PaymentMethodStore()
+{
+    static const TableStore store({
+        .context = "PaymentMethodTable",
+        .table = Tbl::PAYMENTMETHOD,
+        .idColumn = PAYMENTMETHOD_ID,
+        .columns = {PAYMENTMETHOD_CODE, PAYMENTMETHOD_PAID, PAYMENTMETHOD_CHEQUE,
+                    PAYMENTMETHOD_DUE_DAYS, PAYMENTMETHOD_NAME, PAYMENTMETHOD_COMMENT_TEXT,
+                    PAYMENTMETHOD_ROUND_TO_5},
+        .nameColumn = PAYMENTMETHOD_NAME,
+        .orderBy = QStringLiteral("PAYMENTMETHOD_NAME, PAYMENTMETHOD_ID"),
+        .required = {{PAYMENTMETHOD_NAME,
+                      QT_TRANSLATE_NOOP("PaymentMethodTable", "Name field must have a value.")}},
+        .codeColumns = {PAYMENTMETHOD_CODE},
+        .children = {{Tbl::PAYMENTMETHODTRANSLATION,
+                      PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID,
+                      PAYMENTMETHODTRANSLATION_LANG_ID,
+                      {PAYMENTMETHODTRANSLATION_NAME, PAYMENTMETHODTRANSLATION_COMMENT},
+                      kTranslationError}},
+    });
+    return store;
+}
+
+const TableStore& NoVatReasonStore()
+{
+    static const TableStore store({
+        .context = "NoVatReasonTable",
+        .table = Tbl::NOVATREASON,
+        .idColumn = NOVATREASON_ID,
+        .columns = {NOVATREASON_CODE, NOVATREASON_NAME, NOVATREASON_TEXT},
+        .nameColumn = NOVATREASON_NAME,
+        .orderBy = QStringLiteral("NOVATREASON_NAME, NOVATREASON_ID"),
+        .required = {{NOVATREASON_NAME,
+                      QT_TRANSLATE_NOOP("NoVatReasonTable", "Name field must have a value.")}},
+        .codeColumns = {NOVATREASON_CODE},
+        .children = {{Tbl::NOVATREASONTRANSLATION,
+                      NOVATREASONTRANSLATION_NOVATREASON_ID,
+                      NOVATREASONTRANSLATION_LANG_ID,
+                      {NOVATREASONTRANSLATION_TEXT},
+                      kTranslationError}},
+    });
+    return store;
+}
+
+const TableStore& StatNoStore()
+{
+    static const TableStore store({
+        .context = "StatNoTable",
+        .table = Tbl::STATNO,
+        .idColumn = STATNO_ID,
+        .columns = {STATNO_STAT_NO, STATNO_NAME},
+        .nameColumn = STATNO_NAME,
+        .orderBy = QStringLiteral("STATNO_STAT_NO, STATNO_ID"),
+        .required = {{STATNO_STAT_NO,
+                      QT_TRANSLATE_NOOP("StatNoTable", "Stat No field must have a value.")},
+                     {STATNO_NAME,
+                      QT_TRANSLATE_NOOP("StatNoTable", "Name field must have a value.")}},
+    });
+    return store;
+}
+
+const TableStore& LangStore()
+{
+    static const TableStore store({
+        .context = "LangTable",
+        .table = Tbl::LANG,
+        .idColumn = LANG_ID,
+        .columns = {LANG_CODE, LANG_NAME},
+        .nameColumn = LANG_NAME,
+        .orderBy = QStringLiteral("LANG_ID"),
+        .required = {{LANG_CODE,
+                      QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")},
+                     {LANG_NAME,
+                      QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")}},
+    });
+    return store;
+}
+
+const TableStore& CountryStore()
+{
+    static const TableStore store({
+        .context = "CountryTable",
+        .table = Tbl::COUNTRY,
+        .idColumn = COUNTRY_ID,
+        .columns = {COUNTRY_INTERNATIONAL_CODE, COUNTRY_NAME, COUNTRY_NAME_ON_MAILS,
+                    COUNTRY_LANG_ID, COUNTRY_CURRENCY_ID},
+        .nameColumn = COUNTRY_NAME,
+        .orderBy = QStringLiteral("COUNTRY_ID <> 0, COUNTRY_NAME, COUNTRY_ID"),
+        .required = {{COUNTRY_NAME,
+                      QT_TRANSLATE_NOOP("CountryTable", "Country Name field must have a value.")},
+                     {COUNTRY_INTERNATIONAL_CODE,
+                      QT_TRANSLATE_NOOP("CountryTable",
+                                        "International Country Code field must have a value.")}},
+        .homeId = 0,
+        .homeMessage = QT_TRANSLATE_NOOP("CountryTable", "This country can not be deleted."),
+    });
+    return store;
+}
+
+const TableStore& PartnerStore()
+{
+    static const TableStore store({
+        .context = "PartnerTable",
+        .table = Tbl::PARTNER,
+        .idColumn = PARTNER_ID,
+        .columns = {PARTNER_CODE,
+                    PARTNER_NAME,
+                    PARTNER_NAME_ASCII,
+                    PARTNER_ZIP,
+                    PARTNER_CITY,
+                    PARTNER_ADDRESS,
+                    PARTNER_OTHER_DATA,
+                    PARTNER_TAX_NO,
+                    PARTNER_EU_TAX_NO,
+                    PARTNER_COUNTRY_ID,
+                    PARTNER_LANG_ID,
+                    PARTNER_PAYMENTMETHOD_ID,
+                    PARTNER_PAYMENT_DUE_DAYS,
+                    PARTNER_DISCOUNT_TYPE,
+                    PARTNER_DISCOUNT_PERCENT,
+                    PARTNER_CURRENCY_ID,
+                    PARTNER_MAIL_IS_SAME,
+                    PARTNER_MAIL_NAME,
+                    PARTNER_MAIL_ZIP,
+                    PARTNER_MAIL_CITY,
+                    PARTNER_MAIL_ADDRESS,
+                    PARTNER_MAIL_COUNTRY_ID,
+                    PARTNER_COMMENT,
+                    PARTNER_CONTACT_NAME,
+                    PARTNER_CONTACT_PHONE,
+                    PARTNER_CONTACT_MOBILE_PHONE,
+                    PARTNER_CONTACT_EMAIL,
+                    PARTNER_CONTACT_COMMENT},
+        .nameColumn = PARTNER_NAME,
+        .orderBy = QStringLiteral("PARTNER_NAME_ASCII, PARTNER_ID"),
+        .required = {{PARTNER_NAME,
+                      QT_TRANSLATE_NOOP("PartnerTable", "Partner Name field must have a value.")},
+                     {PARTNER_MAIL_NAME,
+                      QT_TRANSLATE_NOOP(
+                          "PartnerTable",
+                          "A partner levelezesi cimehez tartozo nevet meg kell adni.")}},
+        .codeColumns = {PARTNER_CODE},
+        .foldColumn = PARTNER_NAME_ASCII,
+        .prepare = CopyMailAddress,
+    });
+    return store;
+}
+
+const TableStore& ProductStore()
+{
+    static const TableStore store({
+        .context = "ProductTable",
+        .table = Tbl::PRODUCT,
+        .idColumn = PRODUCT_ID,
+        .columns = {PRODUCT_CODE, PRODUCT_NAME, PRODUCT_NAME_ASCII, PRODUCT_COMMENT,
+                    PRODUCT_STAT_NO, PRODUCT_UNIT, PRODUCT_VAT_ID, PRODUCT_PRICE},
+        .nameColumn = PRODUCT_NAME,
+        .orderBy = QStringLiteral("PRODUCT_NAME_ASCII, PRODUCT_ID"),
+        .required = {{PRODUCT_NAME,
+                      QT_TRANSLATE_NOOP("ProductTable", "Name field must have a value.")}},
+        .codeColumns = {PRODUCT_CODE},
+        .foldColumn = PRODUCT_NAME_ASCII,
+        .children = {{Tbl::PRODUCTTRANSLATION,
+                      PRODUCTTRANSLATION_PRODUCT_ID,
+                      PRODUCTTRANSLATION_LANG_ID,
+                      {PRODUCTTRANSLATION_NAME, PRODUCTTRANSLATION_COMMENT,
+                       PRODUCTTRANSLATION_UNIT},
+                      kTranslationError},
+                     {Tbl::PRODUCTPRICE,
+                      PRODUCTPRICE_PRODUCT_ID,
+                      PRODUCTPRICE_CURRENCY_ID,
+                      {PRODUCTPRICE_PRICE},
+                      QT_TRANSLATE_NOOP("TableStore", "Unable to save currency data.")}},
+        .removeError = QT_TRANSLATE_NOOP("ProductTable", "Error in deleting product."),
+    });
+    return store;
+}

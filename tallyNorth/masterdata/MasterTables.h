@@ -1,0 +1,25 @@
+// The stores of the master-data tables, each configured with its columns, order and rules.
+#pragma once
+
+#include "TableStore.h"
+
+const TableStore& VatStore();
+const TableStore& CurrencyStore();
+const TableStore& PaymentMethodStore();
+const TableStore& NoVatReasonStore();
+const TableStore& StatNoStore();
+const TableStore& LangStore();
+const TableStore& CountryStore();
+const TableStore& PartnerStore();
+const TableStore& ProductStore();
+
+// Child tables of the payment method, no-VAT reason and product stores, in their order.
+enum class ProductChild { Translations, Prices };
+
+// Decimal-count range of the currency fields.
+inline constexpr int kMaxCurrencyDecimals = 6;
+
+// A total is never rounded to more decimals than it is printed with.
+void CapRoundingDecimals(Record& currency);
+// A partner whose mailing address is the billing address gets the billing data as mailing data.
+void CopyMailAddress(Record& partner);

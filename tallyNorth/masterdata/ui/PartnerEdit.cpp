@@ -1,0 +1,104 @@
+#include "PartnerEdit.h"
+
+#include "FieldBinding.h"
+#include "MasterBrowses.h"
+#include "ui_PartnerEditLayout.h"
+
+#include "Columns.h"
+#include "app/Setup.h"
+#include "masterdata/MasterTables.h"
+#include "orders/OrderCalc.h"
+
+using namespace Col;
+
+namespace {
+
+QString N(const char* column)
+{
+    return QString::fromLatin1(column);
+}
+
+} // namespace
+
+PartnerEdit::PartnerEdit(std::optional<qint64> id, QWidget* parent)
+    : RecordEditDlg(PartnerStore(), id, parent), m_ui(std::make_unique<Ui::PartnerEditLayout>())
+{
+    m_ui->setupUi(this);
+    FillMasterCombo(m_ui->m_paymentmethod_id, MasterTable::PaymentMethod, true);
+    FillMasterCombo(m_ui->m_country_id, MasterTable::Country, true);
+    FillMasterCombo(m_ui->m_mail_country_id, MasterTable::Country, true);
+    FillMasterCombo(m_ui->m_lang_id, MasterTable::Lang, true);
+    FillMasterCombo(m_ui->m_currency_id, MasterTable::Currency, false);
+    LinkChooser(m_ui->m_countries, m_ui->m_country_id, MasterTable::Country, true);
+    LinkChooser(m_ui->m_languages, m_ui->m_lang_id, MasterTable::Lang, true);
+    LinkChooser(m_ui->m_currencies, m_ui->m_currency_id, MasterTable::Currency, false);
+    // The countries button refills the billing country only; the mailing list follows it.
+    connect(m_ui->m_countries, &QPushButton::clicked, this, [this] {
+        FillMasterCombo(m_ui->m_mail_country_id, MasterTable::Country, true);
+        mirrorMailAddress();
+    });
+    m_ui->m_discount_type->addItem(QCoreApplication::translate("DiscountType", "No discount"),
+                                   static_cast<int>(DiscountType::NoDiscount));
+    m_ui->m_discount_type->addItem(
+        QCoreApplication::translate("DiscountType", "Percent from List Price"),
+        static_cast<int>(DiscountType::PercentFromListPrice));
+    m_ui->m_discount_type->addItem(QCoreApplication::translate("DiscountType", "Special Price"),
+                                   static_cast<int>(DiscountType::EnteredPrice));
+    m_ui->m_payment_due_days->setWholeNumbers(true);
+
+    connect(m_ui->m_mail_is_same, &QCheckBox::toggled, this, &PartnerEdit::mirrorMailAddress);
+    for (QLineEdit* billing : {m_ui->m_name, m_ui->m_zip, m_ui->m_city, m_ui->m_address})
+        connect(billing, &QLineEdit::textChanged, this, &PartnerEdit::mirrorMailAddress);
+    connect(m_ui->m_country_id, &QComboBox::currentIndexChanged, this,
+            &PartnerEdit::mirrorMailAddress);
+    connect(m_ui->m_country_id, &QComboBox::activated, this, &PartnerEdit::takeCountryDefaults);
+    bindFields({"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Add Partner")},
+               {"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Partner szerkesztese:")}, true);
+}
+
+PartnerEdit::~PartnerEdit() = default;
+
+void PartnerEdit::newRecord(Record& row)
+{
+    const Setup& setup = Setup::current();
+    row.insert(N(PARTNER_MAIL_IS_SAME), QStringLiteral("1"));
+    row.insert(N(PARTNER_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID));
+    row.insert(N(PARTNER_MAIL_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID));
+    row.insert(N(PARTNER_LANG_ID), setup.integer(SETUP_INVOICE_LANG_ID));
+    row.insert(N(PARTNER_CURRENCY_ID), setup.integer(SETUP_INVOICE_CURRENCY_ID));
+    row.insert(N(PARTNER_DISCOUNT_TYPE), setup.integer(SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE));
+}
+
+void PartnerEdit::showRecord(const Record& row)
+{
+    Q_UNUSED(row);
+    mirrorMailAddress();
+}
+
+void PartnerEdit::mirrorMailAddress()
+{
+    const bool same = m_ui->m_mail_is_same->isChecked();
+    for (QWidget* w :
+         {static_cast<QWidget*>(m_ui->m_mail_name), static_cast<QWidget*>(m_ui->m_mail_zip),
+          static_cast<QWidget*>(m_ui->m_mail_city), static_cast<QWidget*>(m_ui->m_mail_address),
+          static_cast<QWidget*>(m_ui->m_mail_country_id)})
+        w->setEnabled(!same);
+    if (!same)
+        return;
+    m_ui->m_mail_name->setText(m_ui->m_name->text());
+    m_ui->m_mail_zip->setText(m_ui->m_zip->text());
+    m_ui->m_mail_city->setText(m_ui->m_city->text());
+    m_ui->m_mail_address->setText(m_ui->m_address->text());
+    SelectComboId(m_ui->m_mail_country_id, m_ui->m_country_id->currentData());
+}
+
+void PartnerEdit::takeCountryDefaults()
+{
+    const std::optional<qint64> country = RowId(m_ui->m_country_id->currentData());
+    Record row;
+    if (!country || !CountryStore().read(*country, row))
+        return;
+    SelectComboId(m_ui->m_lang_id, row.value(N(COUNTRY_LANG_ID)));
+    if (!row.value(N(COUNTRY_CURRENCY_ID)).isNull())
+        SelectComboId(m_ui->m_currency_id, row.value(N(COUNTRY_CURRENCY_ID)));
+}

@@ -1,0 +1,159 @@
+// The settings record: awkward template texts, an all-NULL row, and the one-row rule.
+#include "TestCompany.h"
+
+#include "Columns.h"
+#include "app/Setup.h"
+#include "app/SqlStatement.h"
+
+#include <QtTest>
+
+namespace {
+
+int SetupRows()
+{
+    return SelectValue(QStringLiteral("select count(*) from SETUP")).toInt();
+}
+
+QVariant Stored(const char* column)
+{
+    return SelectValue(QStringLiteral("select %1 from SETUP").arg(QLatin1String(column)));
+}
+
+} // namespace
+
+class TestSetup : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void templateTextsRoundTrip_data();
+    void templateTextsRoundTrip();
+    void allNullRowReadsAsUnset();
+    void savingKeepsOneRow();
+    void missingRowIsCreatedOnce();
+    void failedWriteLeavesRowUnchanged_data();
+    void failedWriteLeavesRowUnchanged();
+};
+
+void TestSetup::templateTextsRoundTrip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("single quotes") << QStringLiteral("it's the company's 'own' text");
+    QTest::newRow("double quotes") << QStringLiteral("[* \"Számla\"] \"\"");
+    QTest::newRow("line breaks of every kind") << QStringLiteral("a\nb\r\nc\rd\n\n");
+    QTest::newRow("qtf brackets and escapes")
+        << QStringLiteral("{{1:1 [s0;= [*@3 !ORDERHEAD.INVOICE.NO.STR!]]}}`[`]\\n");
+    QTest::newRow("sql looking text") << QStringLiteral("'); drop table SETUP; -- ? ?1 :name");
+    QTest::newRow("accents and symbols") << QStringLiteral("ÁÉÍÓÖŐÚÜŰ áéíóöőúüű € ¤ \t end ");
+    QTest::newRow("empty") << QString(QLatin1String(""));
+}
+
+// Templates are written by the installer through write() and by the setup window through
+// set()/save(); both must keep every byte, and a fresh load() must see the same text.
+void TestSetup::templateTextsRoundTrip()
+{
+    QFETCH(QString, text);
+    TestCompany company;
+    QVERIFY(company.isValid());
+
+    const QString other = text + QStringLiteral("\n[footer]");
+    QVERIFY(Setup::write({{QString::fromLatin1(Col::SETUP_INVOICE_BODY_QTF), text},
+                          {QString::fromLatin1(Col::SETUP_CHEQUE_QTF), other}}));
+    QCOMPARE(Stored(Col::SETUP_INVOICE_BODY_QTF).toString(), text);
+    QCOMPARE(Stored(Col::SETUP_CHEQUE_QTF).toString(), other);
+    QCOMPARE(Setup::current().text(Col::SETUP_INVOICE_BODY_QTF), text);
+
+    Setup setup;
+    QVERIFY(setup.load());
+    QCOMPARE(setup.text(Col::SETUP_CHEQUE_QTF), other);
+    setup.set(Col::SETUP_INVOICE_FOOTER_QTF, text);
+    QVERIFY(setup.save());
+
+    Setup reread;
+    QVERIFY(reread.load());
+    QCOMPARE(reread.text(Col::SETUP_INVOICE_FOOTER_QTF).toUtf8(), text.toUtf8());
+    QCOMPARE(reread.text(Col::SETUP_INVOICE_BODY_QTF).toUtf8(), text.toUtf8());
+    QCOMPARE(SetupRows(), 1);
+}
+
+void TestSetup::allNullRowReadsAsUnset()
+{
+    TestCompany company;
+    QVERIFY(company.isValid());
+    QVERIFY(ExecSql(QStringLiteral("delete from SETUP")));
+    QVERIFY(ExecSql(QStringLiteral("insert into SETUP (SETUP_NAME) values (NULL)")));
+
+    Setup setup;
+    QVERIFY(setup.load());
+    QVERIFY(!setup.flag(Col::SETUP_LOAD_MAIN_WINDOW_DATA_ON_START));
+    QVERIFY(!setup.flag(Col::SETUP_ENTER_LIKE_TAB));
+    QVERIFY(setup.text(Col::SETUP_NAME).isEmpty());
+    QCOMPARE(setup.integer(Col::SETUP_RECORD_LIMIT, 500), 500);
+    QCOMPARE(setup.number(Col::SETUP_INVOICE_LOGO_SIZE_PERCENT), 0.0);
+
+    // A flag written back from an unset one is stored as the text "0".
+    setup.setFlag(Col::SETUP_ENTER_LIKE_TAB, setup.flag(Col::SETUP_ENTER_LIKE_TAB));
+    QVERIFY(setup.save());
+    QCOMPARE(Stored(Col::SETUP_ENTER_LIKE_TAB), QVariant(QStringLiteral("0")));
+}
+
+void TestSetup::savingKeepsOneRow()
+{
+    TestCompany company;
+    QVERIFY(company.isValid());
+    QCOMPARE(SetupRows(), 1);
+    Setup setup;
+    QVERIFY(setup.load());
+    for (int i = 0; i < 3; ++i) {
+        setup.set(Col::SETUP_NAME, QStringLiteral("Minta Kft %1").arg(i));
+        setup.setFlag(Col::SETUP_SHOW_CODE_FIELDS, i % 2 == 1);
+        QVERIFY(setup.save());
+    }
+    QCOMPARE(SetupRows(), 1);
+    QCOMPARE(Stored(Col::SETUP_NAME).toString(), QStringLiteral("Minta Kft 2"));
+    QCOMPARE(Stored(Col::SETUP_SHOW_CODE_FIELDS).toString(), QStringLiteral("0"));
+}
+
+void TestSetup::missingRowIsCreatedOnce()
+{
+    TestCompany company;
+    QVERIFY(company.isValid());
+    QVERIFY(ExecSql(QStringLiteral("delete from SETUP")));
+
+    Setup setup;
+    QVERIFY(setup.load());
+    QVERIFY(!setup.flag(Col::SETUP_REFRESH_MAIN_WINDOW_DATA_ON_TAB_CHANGE));
+    setup.set(Col::SETUP_TAX_NO, QStringLiteral("12345678-2-41"));
+    QVERIFY(setup.save());
+    QVERIFY(Setup::write({{QString::fromLatin1(Col::SETUP_ZIP), QStringLiteral("1111")}}));
+    QCOMPARE(SetupRows(), 1);
+    QCOMPARE(Stored(Col::SETUP_TAX_NO).toString(), QStringLiteral("12345678-2-41"));
+    QCOMPARE(Stored(Col::SETUP_ZIP).toString(), QStringLiteral("1111"));
+}
+
+void TestSetup::failedWriteLeavesRowUnchanged_data()
+{
+    QTest::addColumn<QString>("badColumn");
+    // Names are pasted into the statement: anything but a plain column name must not get there.
+    QTest::newRow("pasted assignment") << QStringLiteral("SETUP_NAME = 'x', SETUP_ZIP");
+    // One statement: a column that does not exist fails the whole write.
+    QTest::newRow("unknown column") << QStringLiteral("SETUP_NO_SUCH_COLUMN");
+}
+
+void TestSetup::failedWriteLeavesRowUnchanged()
+{
+    QFETCH(QString, badColumn);
+    TestCompany company;
+    QVERIFY(company.isValid());
+    QVERIFY(Setup::current().load());
+    const QString before = Stored(Col::SETUP_NAME).toString();
+    const Result r = Setup::write(
+        {{QString::fromLatin1(Col::SETUP_NAME), QStringLiteral("Changed")}, {badColumn, 1}});
+    QVERIFY(!r);
+    QCOMPARE(r.message(), QStringLiteral("Unable to update SETUP record."));
+    QCOMPARE(Stored(Col::SETUP_NAME).toString(), before);
+    QCOMPARE(Setup::current().text(Col::SETUP_NAME), before);
+    QCOMPARE(SetupRows(), 1);
+}
+
+QTEST_GUILESS_MAIN(TestSetup)
+#include "tst_setup.moc"
