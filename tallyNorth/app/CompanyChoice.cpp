@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include "Columns.h"
+#include "documents/QtfReader.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbF
     if (!commandLinePath.isEmpty()) {
         if (QFileInfo(commandLinePath).isFile())
             return QFileInfo(commandLinePath).absoluteFilePath();
-        interaction.error(FillArgs(Tr("%s does not exists."), {commandLinePath}));
+        interaction.error(FillArgs(Tr("%s does not exists."), {QtfEscape(commandLinePath)}));
         return {};
     }
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
@@ -72,6 +73,6 @@ bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
         return false;
     }
     interaction.info(FillArgs(Tr("Database/company changed successfully to:&%s"),
-                              {Setup::current().text(Col::SETUP_NAME)}));
+                              {QtfEscape(Setup::current().text(Col::SETUP_NAME))}));
     return true;
 }

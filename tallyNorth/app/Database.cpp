@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include "MessageArgs.h"
+#include "documents/QtfReader.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -31,7 +32,7 @@ Result Database::open(const QString& path)
         QSqlDatabase::removeDatabase(QString::fromLatin1(kConnection));
         return Result::failure(
             FillArgs(QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
-                     {path}),
+                     {QtfEscape(path)}),
             error);
     }
     currentPath() = QFileInfo(path).absoluteFilePath();

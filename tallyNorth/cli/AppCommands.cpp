@@ -7,6 +7,7 @@
 #include "app/CompanyCreate.h"
 #include "app/DatabasePrepare.h"
 #include "app/MessageArgs.h"
+#include "documents/QtfReader.h"
 
 #include <QCoreApplication>
 
@@ -93,7 +94,7 @@ int RunCheck(CliContext& context, const QStringList& args)
             PrintMessage(context, created.message());
             return ExitFailure;
         }
-        PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {demo}));
+        PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {QtfEscape(demo)}));
     }
     const QString path = ChooseStartupDatabase(context.dbPath, folder, *context.interaction,
                                                [&context](const QList<CompanyEntry>& entries) {

@@ -5,6 +5,7 @@
 #include "app/Backup.h"
 #include "app/Database.h"
 #include "app/MessageArgs.h"
+#include "documents/QtfReader.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -36,7 +37,7 @@ int RunBackup(CliContext& context, const QStringList& args)
     if (!QFile::exists(database)) {
         PrintMessage(context,
                      FillArgs(QCoreApplication::translate("ShellCommands", "%s does not exists."),
-                              {database}));
+                              {QtfEscape(database)}));
         return ExitFailure;
     }
     const Result opened = Database::open(database);
