@@ -1,6 +1,6 @@
 #include "DocumentCommands.h"
 
-#include "app/Database.h"
+#include "app/CompanyChoice.h"
 #include "app/MessageArgs.h"
 #include "app/Setup.h"
 #include "app/SqlTransaction.h"
@@ -128,11 +128,10 @@ int TemplateInstall(CliContext& context, const QString& dir)
                          "DocumentCommands", "Give an existing company database with --db FILE."));
         return ExitUsage;
     }
-    const Result opened = Database::open(context.dbPath);
-    if (!opened) {
-        PrintMessage(context, opened.message());
+    // Opened and prepared as at start-up (an older company gets its upgrades first); what goes
+    // wrong is shown through the interaction.
+    if (!OpenCompany(context.dbPath, *context.interaction))
         return ExitFailure;
-    }
     const InvoiceTemplate t = LoadTemplateDir(dir);
     SqlTransaction transaction;
     Result r = SaveTemplateToSetup(t);
