@@ -160,14 +160,20 @@ std::pair<int, int> SplitRow(QTextDocument& doc, double pageHeight)
 }
 
 // Cuts a top-level table before row: the rest, under a copy of the header rows, becomes a
-// table of its own that starts a page.
-void SplitTable(Qtf::Document& doc, int tableIndex, int row)
+// table of its own that starts a page. A table cut at its first row moves to the next page
+// whole. False when there is nothing left to change.
+bool SplitTable(Qtf::Document& doc, int tableIndex, int row)
 {
     int index = -1;
     for (qsizetype i = 0; i < doc.blocks.size(); ++i) {
         if (!doc.blocks[i].isTable() || ++index != tableIndex)
             continue;
         Qtf::Table& first = *doc.blocks[i].table;
+        if (row <= first.format.headerRows || row == 0) {
+            const bool moved = doc.blocks[i].pageBreak || first.format.pageBreak || i == 0;
+            doc.blocks[i].pageBreak = true;
+            return !moved;
+        }
         auto rest = std::make_shared<Qtf::Table>();
         rest->format = first.format;
         rest->format.before = 0;
@@ -196,8 +202,9 @@ void SplitTable(Qtf::Document& doc, int tableIndex, int row)
         block.table = rest;
         block.pageBreak = true;
         doc.blocks.insert(i + 1, block);
-        return;
+        return true;
     }
+    return false;
 }
 
 QString Substitute(QString qtf, int page, const QDate& date)
@@ -344,7 +351,8 @@ void Report::layoutSection(Section& s) const
         const auto [table, row] = SplitRow(*s.doc, s.bodyHeight);
         if (table < 0)
             break;
-        SplitTable(body, table, row);
+        if (!SplitTable(body, table, row))
+            break;
     }
     s.pages = std::max(1, s.doc->pageCount());
 }

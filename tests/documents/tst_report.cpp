@@ -104,6 +104,7 @@ private Q_SLOTS:
     void pageNumbersAndDateInHeaderAndFooter();
     void pageFieldsOfDocumentHeader();
     void pageBreaksAndKeep();
+    void tableRowsAreNeverCut();
     void chequePageSize();
     void shiftMovesTheContent();
     void sectionsNumberTheirOwnPages();
@@ -366,6 +367,43 @@ void TestReport::pageBreaksAndKeep()
     const QStringList hp = PdfPages(pdf);
     QCOMPARE(hp.size(), 2);
     QVERIFY2(hp[1].contains(QStringLiteral("Heading")), qPrintable(hp[0]));
+}
+
+// A row that a page end would cut moves to the next page under its repeated header; a table
+// whose first row would be cut moves whole, leaving no lonely header behind.
+void TestReport::tableRowsAreNeverCut()
+{
+    const auto lines = [](int count) {
+        QString out;
+        for (int i = 0; i < count; ++i)
+            out += QStringLiteral("line %1&").arg(i);
+        return out;
+    };
+    // Left to Qt, the page end would fall inside the three-line row.
+    const QString tall = QStringLiteral("first line&second line&third line");
+    Report report;
+    report.setPageSize(QSize(2000, 3000));
+    report.setBody(lines(22) +
+                   QStringLiteral("{{1:1h1 Head:: Other:: row1:: %1:: row2:: x}}").arg(tall));
+    const QString pdf = m_dir.filePath(QStringLiteral("rows.pdf"));
+    QVERIFY(report.exportPdf(pdf));
+    QStringList pages = PdfPages(pdf);
+    QCOMPARE(pages.size(), 2);
+    QVERIFY(!pages[0].contains(QStringLiteral("Head")));
+    QVERIFY(pages[1].contains(QStringLiteral("Head")) &&
+            pages[1].contains(QStringLiteral("first line")));
+
+    report.setBody(
+        lines(21) +
+        QStringLiteral("{{1:1h1 Head:: Other:: r0:: one:: row1:: %1:: row2:: x}}").arg(tall));
+    QVERIFY(report.exportPdf(pdf));
+    pages = PdfPages(pdf);
+    QCOMPARE(pages.size(), 2);
+    QVERIFY(pages[0].contains(QStringLiteral("Head")) && pages[0].contains(QStringLiteral("r0")));
+    QVERIFY(!pages[0].contains(QStringLiteral("first line")));
+    QVERIFY(pages[1].contains(QStringLiteral("Head")));
+    QVERIFY(pages[1].contains(QStringLiteral("first line")) &&
+            pages[1].contains(QStringLiteral("third line")));
 }
 
 void TestReport::chequePageSize()
