@@ -314,24 +314,26 @@ QTextBlockFormat Builder::blockFormat(const ParaFormat& f, double width) const
         break;
     }
 
-    // Tab stops count from the paragraph's left margin; Qt counts from the frame's edge.
+    // Tab stops count from the paragraph's left margin; Qt counts from where each line starts,
+    // so the first line's indent is taken off (tabs live in first lines). The leader painter
+    // compares the stops with positions in the whole line.
     QList<QTextOption::Tab> tabs;
     // Every stop goes into the leaders list so that painting finds the stop a tab reached.
     QVariantList leaders;
     bool anyLeader = false;
     int last = 0;
     for (const TabStop& t : f.tabs) {
-        const double pos = t.fromRight ? width - f.rightMargin - t.pos : left + t.pos;
-        tabs << QTextOption::Tab(units(pos), TabType(t.kind));
-        leaders << QPointF(units(pos), t.fill);
+        const double pos = t.fromRight ? width - f.rightMargin - left - t.pos : t.pos;
+        tabs << QTextOption::Tab(units(pos - indent), TabType(t.kind));
+        leaders << QPointF(units(left + pos), t.fill);
         anyLeader = anyLeader || t.fill;
         last = std::max(last, int(pos));
     }
     if (f.tabSize != 296 && f.tabSize > 0) {
         // Qt has one default tab width per document: a paragraph's own becomes stops.
-        for (int pos = left + f.tabSize; pos < width && tabs.size() < 200; pos += f.tabSize) {
+        for (int pos = f.tabSize; left + pos < width && tabs.size() < 200; pos += f.tabSize) {
             if (pos > last)
-                tabs << QTextOption::Tab(units(pos), QTextOption::LeftTab);
+                tabs << QTextOption::Tab(units(pos - indent), QTextOption::LeftTab);
         }
     }
     if (!tabs.isEmpty())

@@ -100,6 +100,7 @@ private Q_SLOTS:
     void imagesKeepTheirSize();
     void emptyParagraphsAroundTablesHaveNoHeight();
     void leadersFillOnlyTheirTab();
+    void tabStopsCountFromTheLeftMargin();
     void longTableBreaksWithHeaderOnEveryPage();
     void pageNumbersAndDateInHeaderAndFooter();
     void pageFieldsOfDocumentHeader();
@@ -266,6 +267,21 @@ void TestReport::leadersFillOnlyTheirTab()
     };
     QCOMPARE(inkBetween(30, 180), 0);   // "a" to the centred "b": no fill
     QVERIFY(inkBetween(230, 330) > 10); // "b" to the right-aligned "c": dashes
+}
+
+void TestReport::tabStopsCountFromTheLeftMargin()
+{
+    auto doc = Dots(QStringLiteral("[l400~1000~>>100 a-|b-|c]"), 4000);
+    const QTextBlock block = doc->begin();
+    const QTextLine line = block.layout()->lineAt(0);
+    const double frameLeft = doc->documentLayout()->blockBoundingRect(block).left();
+    QCOMPARE(qRound(frameLeft + line.cursorToX(2)), 1400);
+    // Measured from the right edge: "c" ends 100 dots before it.
+    QCOMPARE(qRound(frameLeft + line.cursorToX(5)), 3900);
+    // A first-line indent moves the text, not the stops.
+    auto indented = Dots(QStringLiteral("[l400i200~1000 a-|b]"), 4000);
+    const QTextLine first = indented->begin().layout()->lineAt(0);
+    QCOMPARE(qRound(first.cursorToX(2)), 1400);
 }
 
 void TestReport::longTableBreaksWithHeaderOnEveryPage()
