@@ -19,7 +19,8 @@ Result PrintReport(const Report& report, QPrinter& printer);
 // counts as success.
 Result PrintReport(const Report& report, QWidget* parent, bool askPrinter = true);
 
-// The preview window over the report, not yet shown; it prints from its own toolbar.
+// The preview window over the report (which must outlive it), not yet shown; it prints from
+// its own toolbar.
 std::unique_ptr<QPrintPreviewDialog> MakeReportPreview(const Report& report, QPrinter& printer,
                                                        QWidget* parent, const QString& title);
 void PreviewReport(const Report& report, QWidget* parent, const QString& title = QString());
