@@ -4,7 +4,6 @@
 #include "Interaction.h"
 #include "MessageArgs.h"
 #include "Setup.h"
-#include "documents/QtfReader.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -61,7 +60,7 @@ bool PutBack(const QString& aside, const QString& databasePath, Interaction& int
         return true;
     interaction.error(FillArgs(
         QCoreApplication::translate("Backup", "The previous database file is kept here:&%s"),
-        {QtfEscape(aside)}));
+        {aside}));
     return false;
 }
 

@@ -10,7 +10,6 @@
 #include <QFileInfo>
 
 #include "Columns.h"
-#include "documents/QtfReader.h"
 
 namespace {
 
@@ -27,7 +26,7 @@ QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbF
     if (!commandLinePath.isEmpty()) {
         if (QFileInfo(commandLinePath).isFile())
             return QFileInfo(commandLinePath).absoluteFilePath();
-        interaction.error(FillArgs(Tr("%s does not exists."), {QtfEscape(commandLinePath)}));
+        interaction.error(FillArgs(Tr("%s does not exists."), {commandLinePath}));
         return {};
     }
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
@@ -73,6 +72,6 @@ bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
         return false;
     }
     interaction.info(FillArgs(Tr("Database/company changed successfully to:&%s"),
-                              {QtfEscape(Setup::current().text(Col::SETUP_NAME))}));
+                              {Setup::current().text(Col::SETUP_NAME)}));
     return true;
 }

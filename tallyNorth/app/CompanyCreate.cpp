@@ -5,7 +5,6 @@
 #include "Schema.h"
 #include "ScopedConnection.h"
 #include "SqlStatement.h"
-#include "documents/QtfReader.h"
 #include "masterdata/FoldName.h"
 
 #include <QCoreApplication>
@@ -43,7 +42,7 @@ Result Validate(const NewCompany& company, const QString& folder)
         return Result::failure(Tr("The file name must end with \".db\", be longer than three "
                                   "characters and must not begin with \".\"."));
     if (!company.fileName.isEmpty() && FileExistsIn(QDir(folder), company.fileName))
-        return Result::failure(FillArgs(Tr("%s already exists."), {QtfEscape(company.fileName)}));
+        return Result::failure(FillArgs(Tr("%s already exists."), {company.fileName}));
     const QList<CompanyEntry> existing = ReadCompanyEntries(CompanyFiles(folder));
     for (const CompanyEntry& entry : existing) {
         if (SameTaxNo(entry.taxNo, company.taxNo))
@@ -59,7 +58,7 @@ Result WriteCompany(const NewCompany& company, const QString& path, Interaction&
     if (!connection.isOpen())
         return Result::failure(FillArgs(QCoreApplication::translate(
                                             "Database", "Can't create or open database file:\n%s"),
-                                        {QtfEscape(path)}),
+                                        {path}),
                                connection.errorText());
     Result r = CreateSchema(&interaction, nullptr, connection.db());
     if (!r)
@@ -118,7 +117,7 @@ Result CreateCompany(const NewCompany& company, const QString& folder, Interacti
     if (!QDir().mkpath(folder))
         return Result::failure(FillArgs(
             QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
-            {QtfEscape(folder)}));
+            {folder}));
     const QString name =
         company.fileName.isEmpty() ? CompanyFileName(company.name, folder) : company.fileName;
     const QString file = QDir(folder).absoluteFilePath(name);

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include "MessageArgs.h"
-#include "documents/QtfReader.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,7 +31,7 @@ Result Database::open(const QString& path)
         QSqlDatabase::removeDatabase(QString::fromLatin1(kConnection));
         return Result::failure(
             FillArgs(QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
-                     {QtfEscape(path)}),
+                     {path}),
             error);
     }
     currentPath() = QFileInfo(path).absoluteFilePath();

@@ -8,7 +8,6 @@
 #include "SqlStatement.h"
 #include "SqlTransaction.h"
 #include "SqlValue.h"
-#include "documents/QtfReader.h"
 
 #include <QFile>
 #include <QSqlError>
@@ -153,7 +152,7 @@ Result DatabasePrepare::restore(const QString& path, const QString& copy)
     if (!QFile::remove(path) || !QFile::rename(copy, path)) {
         m_interaction.error(FillArgs(tr("Error restoring database file after failed upgrade.&The "
                                         "saved original database file is here:&&%s"),
-                                     {QtfEscape(copy)}));
+                                     {copy}));
     }
     if (m_canceled)
         return fail(tr("Upgrading database aborted."));

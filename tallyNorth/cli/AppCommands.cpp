@@ -7,7 +7,6 @@
 #include "app/CompanyCreate.h"
 #include "app/DatabasePrepare.h"
 #include "app/MessageArgs.h"
-#include "documents/QtfReader.h"
 
 #include <QCoreApplication>
 
@@ -94,7 +93,7 @@ int RunCheck(CliContext& context, const QStringList& args)
             PrintMessage(context, created.message());
             return ExitFailure;
         }
-        PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {QtfEscape(demo)}));
+        PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {demo}));
     }
     const QString path = ChooseStartupDatabase(context.dbPath, folder, *context.interaction,
                                                [&context](const QList<CompanyEntry>& entries) {

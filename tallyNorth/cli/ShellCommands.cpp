@@ -5,7 +5,6 @@
 #include "app/Backup.h"
 #include "app/Database.h"
 #include "app/MessageArgs.h"
-#include "documents/QtfReader.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -37,7 +36,7 @@ int RunBackup(CliContext& context, const QStringList& args)
     if (!QFile::exists(database)) {
         PrintMessage(context,
                      FillArgs(QCoreApplication::translate("ShellCommands", "%s does not exists."),
-                              {QtfEscape(database)}));
+                              {database}));
         return ExitFailure;
     }
     const Result opened = Database::open(database);

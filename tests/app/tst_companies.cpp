@@ -9,7 +9,6 @@
 #include "app/DatabasePrepare.h"
 #include "app/Setup.h"
 #include "app/SqlStatement.h"
-#include "documents/MessageText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -217,7 +216,7 @@ void TestCompanies::commandLinePath()
 
     const QString missing = QDir(folder()).filePath(QStringLiteral("nincs.db"));
     QVERIFY(ChooseStartupDatabase(missing, folder(), interaction, selector.function()).isEmpty());
-    QCOMPARE(MessagePlainText(interaction.lastMessage()), missing + QLatin1String(" does not exists."));
+    QCOMPARE(interaction.lastMessage(), missing + QLatin1String(" does not exists."));
     QVERIFY(!QFile::exists(missing));
 }
 
@@ -342,7 +341,7 @@ void TestCompanies::createRefusals()
     c.fileName = file;
     QString path;
     const Result r = CreateCompany(c, folder(), m_silent, &path);
-    QCOMPARE(MessagePlainText(r.message()), message);
+    QCOMPARE(r.message(), message);
     QVERIFY(path.isEmpty());
     QCOMPARE(FileNames(CompanyFiles(folder())),
              QStringList({QStringLiteral("demo.db"), QStringLiteral("kovacs_bt.db")}));
@@ -392,7 +391,7 @@ void TestCompanies::changeCompany()
     RecordingSelector selector;
     selector.pick = pick;
     QCOMPARE(ChangeCompanyDatabase(folder(), interaction, selector.function()), changed);
-    QCOMPARE(MessagePlainText(interaction.lastMessage()), MessagePlainText(message));
+    QCOMPARE(interaction.lastMessage(), message);
     if (changed)
         QCOMPARE(QFileInfo(Database::path()).fileName(), pick);
     else if (!first.isEmpty())
