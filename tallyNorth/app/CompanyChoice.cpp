@@ -6,6 +6,8 @@
 #include "MessageArgs.h"
 #include "Setup.h"
 
+#include "documents/LabelTranslations.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -47,7 +49,16 @@ Result OpenCompany(const QString& path, Interaction& interaction)
         interaction.error(opened.message());
         return opened;
     }
-    return PrepareDatabase(interaction);
+    const Result prepared = PrepareDatabase(interaction);
+    if (!prepared)
+        return prepared;
+    // Invoices are printed with the labels of the company they are issued in.
+    const Result labels = LabelTranslations::current().Load();
+    if (!labels) {
+        Database::close();
+        interaction.error(labels.message());
+    }
+    return labels;
 }
 
 bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
@@ -63,10 +74,13 @@ bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
         return false;
     }
     const std::optional<QString> chosen = select(ReadCompanyEntries(files));
-    if (!chosen)
-        return false;
+    return chosen && SwitchCompany(*chosen, interaction);
+}
+
+bool SwitchCompany(const QString& path, Interaction& interaction)
+{
     const QString previous = Database::path();
-    if (!OpenCompany(*chosen, interaction)) {
+    if (!OpenCompany(path, interaction)) {
         if (!previous.isEmpty())
             OpenCompany(previous, interaction);
         return false;

@@ -95,12 +95,17 @@ int RunCheck(CliContext& context, const QStringList& args)
         }
         PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {demo}));
     }
-    const QString path = ChooseStartupDatabase(context.dbPath, folder, *context.interaction,
-                                               [&context](const QList<CompanyEntry>& entries) {
-                                                   return RefuseToChoose(context, entries);
-                                               });
+    const QString path = ChooseCompany(context);
     if (path.isEmpty() || !OpenCompany(path, *context.interaction))
         return ExitFailure;
     *context.out << path << '\t' << ReadDbVersion() << Qt::endl;
     return ExitOk;
+}
+
+QString ChooseCompany(CliContext& context)
+{
+    return ChooseStartupDatabase(context.dbPath, BaseFolder::dbFolder(), *context.interaction,
+                                 [&context](const QList<CompanyEntry>& entries) {
+                                     return RefuseToChoose(context, entries);
+                                 });
 }

@@ -9,6 +9,7 @@
 #include "app/DatabasePrepare.h"
 #include "app/Setup.h"
 #include "app/SqlStatement.h"
+#include "documents/LabelTranslations.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -68,6 +69,7 @@ private Q_SLOTS:
     void changeCompany_data();
     void changeCompany();
     void changeToUnusableFileKeepsCurrent();
+    void invoiceLabelsFollowTheCompany();
 
 private:
     QString folder() const { return m_dir->path(); }
@@ -413,6 +415,36 @@ void TestCompanies::changeToUnusableFileKeepsCurrent()
     QVERIFY(Database::isOpen());
     QCOMPARE(Database::path(), kovacs);
     QCOMPARE(Setup::current().text("SETUP_NAME"), QStringLiteral("Kovács Bt."));
+}
+
+// Invoices must be printed with the labels of the company they are issued in; a company whose
+// labels cannot be read is not opened.
+void TestCompanies::invoiceLabelsFollowTheCompany()
+{
+    const QString key = QStringLiteral("TR_PAYMENT_METHOD");
+    const QString kovacs = company(QStringLiteral("Kovács Bt."), QStringLiteral("11111111-2-41"));
+    const QString szabo = company(QStringLiteral("Szabó Kft."), QStringLiteral("22222222-2-42"));
+    const QString broken = company(QStringLiteral("Hibás Kft."), QStringLiteral("33333333-2-43"));
+    QVERIFY(Database::open(szabo));
+    QVERIFY(ExecSql(QStringLiteral("update ORDERLABELTRANSLATION set ORDERLABELTRANSLATION_TEXT = "
+                                   "? where ORDERLABELTRANSLATION_KEY = ? and "
+                                   "ORDERLABELTRANSLATION_LANG_ID = 0"),
+                    {QStringLiteral("Fizetés módja"), key}));
+    QVERIFY(Database::open(broken));
+    QVERIFY(ExecSql(QStringLiteral("drop table ORDERLABELTRANSLATION")));
+
+    ScriptedInteraction interaction;
+    QVERIFY(OpenCompany(kovacs, interaction));
+    QCOMPARE(LabelTranslations::current().Get(key, 0), QStringLiteral("Fizetési mód"));
+    RecordingSelector selector;
+    selector.pick = QStringLiteral("szabo_kft.db");
+    QVERIFY(ChangeCompanyDatabase(folder(), interaction, selector.function()));
+    QCOMPARE(LabelTranslations::current().Get(key, 0), QStringLiteral("Fizetés módja"));
+
+    QVERIFY(!OpenCompany(broken, interaction));
+    QCOMPARE(interaction.lastMessage(),
+             QStringLiteral("Unable to load invoice label translations."));
+    QVERIFY(!Database::isOpen());
 }
 
 QTEST_GUILESS_MAIN(TestCompanies)
