@@ -13,28 +13,22 @@
 
 #include "Columns.h"
 
-namespace {
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("CompanyChoice", text);
-}
-
-} // namespace
-
 QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
                               Interaction& interaction, const CompanySelector& select)
 {
     if (!commandLinePath.isEmpty()) {
         if (QFileInfo(commandLinePath).isFile())
             return QFileInfo(commandLinePath).absoluteFilePath();
-        interaction.error(FillArgs(Tr("%s does not exists."), {commandLinePath}));
+        interaction.error(
+            FillArgs(QCoreApplication::translate("CompanyChoice", "%s does not exists."),
+                     {commandLinePath}));
         return {};
     }
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
     if (files.isEmpty()) {
-        interaction.error(
-            Tr("Missing database files. Maybe you have to reinstall the application."));
+        interaction.error(QCoreApplication::translate(
+            "CompanyChoice",
+            "Missing database files. Maybe you have to reinstall the application."));
         return {};
     }
     if (files.size() == 1)
@@ -66,11 +60,15 @@ bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
 {
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
     if (files.isEmpty()) {
-        interaction.error(Tr("Error: there are no databases."));
+        interaction.error(
+            QCoreApplication::translate("CompanyChoice", "Error: there are no databases."));
         return false;
     }
-    if (files.size() == 1) {
-        interaction.info(Tr("There is only one database."));
+    // One company is nothing to change to, unless the file open is another one: the
+    // demonstration company, hidden from the list once a real company exists.
+    if (files.size() == 1 && QFileInfo(files.first()) == QFileInfo(Database::path())) {
+        interaction.info(
+            QCoreApplication::translate("CompanyChoice", "There is only one database."));
         return false;
     }
     const std::optional<QString> chosen = select(ReadCompanyEntries(files));
@@ -85,7 +83,8 @@ bool SwitchCompany(const QString& path, Interaction& interaction)
             OpenCompany(previous, interaction);
         return false;
     }
-    interaction.info(FillArgs(Tr("Database/company changed successfully to:&%s"),
+    interaction.info(FillArgs(QCoreApplication::translate(
+                                  "CompanyChoice", "Database/company changed successfully to:&%s"),
                               {Setup::current().text(Col::SETUP_NAME)}));
     return true;
 }

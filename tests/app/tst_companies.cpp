@@ -69,6 +69,7 @@ private Q_SLOTS:
     void changeCompany_data();
     void changeCompany();
     void changeToUnusableFileKeepsCurrent();
+    void changeFromDemoToTheOnlyCompany();
     void invoiceLabelsFollowTheCompany();
 
 private:
@@ -415,6 +416,26 @@ void TestCompanies::changeToUnusableFileKeepsCurrent()
     QVERIFY(Database::isOpen());
     QCOMPARE(Database::path(), kovacs);
     QCOMPARE(Setup::current().text("SETUP_NAME"), QStringLiteral("Kovács Bt."));
+}
+
+// Right after the first real company is made, the demonstration company may still be open: the
+// new company, the only one offered, is not "only one database" to change to.
+void TestCompanies::changeFromDemoToTheOnlyCompany()
+{
+    QVERIFY(CreateDemoCompany(folder(), m_silent));
+    const QString kovacs = company(QStringLiteral("Kovács Bt."), QStringLiteral("11111111-2-41"));
+    ScriptedInteraction interaction;
+    QVERIFY(OpenCompany(QDir(folder()).filePath(QStringLiteral("demo.db")), interaction));
+    RecordingSelector selector;
+    selector.pick = QStringLiteral("kovacs_bt.db");
+    QVERIFY(ChangeCompanyDatabase(folder(), interaction, selector.function()));
+    QCOMPARE(selector.offered, QList<QStringList>{{QStringLiteral("kovacs_bt.db:Kovács Bt.")}});
+    QCOMPARE(Database::path(), kovacs);
+
+    // Now it is the one open: nothing to change to.
+    QVERIFY(!ChangeCompanyDatabase(folder(), interaction, selector.function()));
+    QCOMPARE(interaction.lastMessage(), QStringLiteral("There is only one database."));
+    QCOMPARE(selector.offered.size(), 1);
 }
 
 // Invoices must be printed with the labels of the company they are issued in; a company whose

@@ -185,6 +185,7 @@ private Q_SLOTS:
     void addProductWithEuroPrice();
     void otherBasicDataWindows();
     void backupAndRestoreFromMenu();
+    void newCompanyFromMenu();
 
 private:
     QTableView* list(MainTab tab) const
@@ -510,6 +511,51 @@ void TestNewUser::backupAndRestoreFromMenu()
     m_window->showTab(MainTab::Partners);
     QVERIFY(ColumnTexts(list(MainTab::Partners)->model(), 1)
                 .contains(QStringLiteral("Árvíztűrő Kft.")));
+}
+
+// The user's own company is made from the File menu and worked on at once; the lists follow it.
+void TestNewUser::newCompanyFromMenu()
+{
+    m_window->showTab(MainTab::Partners);
+    QStringList messages;
+    ModalDriver creating({[](QWidget* dialog) {
+                              Type(dialog, "m_name", QStringLiteral("Kovács és Társa Bt."));
+                              Type(dialog, "m_tax_no", QStringLiteral("11223344-2-13"));
+                              Type(dialog, "m_zip", QStringLiteral("6720"));
+                              Type(dialog, "m_city", QStringLiteral("Szeged"));
+                              Type(dialog, "m_address", QStringLiteral("Kárász utca 5."));
+                              Grab(dialog, QStringLiteral("newcompany"));
+                              OkLater(dialog);
+                          },
+                          [&messages](QWidget* box) {
+                              Grab(box, QStringLiteral("newcompany-question"));
+                              Answer(&messages, QMessageBox::Yes)(box);
+                          },
+                          [&messages](QWidget* box) {
+                              Grab(box, QStringLiteral("newcompany-changed"));
+                              Answer (&messages)(box);
+                          }});
+    m_window->action(MainCommand::NewCompany)->trigger();
+    QVERIFY(creating.done());
+    QCOMPARE(messages.size(), 2);
+    QCOMPARE(m_window->windowTitle(),
+             QStringLiteral("Vantrell Invoicer - Kovács és Társa Bt. (adószám:11223344-2-13)"));
+    QCOMPARE(QFileInfo(m_window->companyFile()).fileName(),
+             QStringLiteral("kovacs_es_tarsa_bt.db"));
+    QVERIFY(!ColumnTexts(list(MainTab::Partners)->model(), 1)
+                 .contains(QStringLiteral("Árvíztűrő Kft.")));
+    Grab(m_window.get(), QStringLiteral("main-newcompany"));
+
+    // The demonstration company now stays out of the list: there is nothing to change to.
+    ModalDriver changing({[&messages](QWidget* box) {
+        Grab(box, QStringLiteral("change-only-one"));
+        Answer (&messages)(box);
+    }});
+    m_window->action(MainCommand::ChangeCompany)->trigger();
+    QVERIFY(changing.done());
+    QCOMPARE(messages.size(), 3);
+    QCOMPARE(QFileInfo(m_window->companyFile()).fileName(),
+             QStringLiteral("kovacs_es_tarsa_bt.db"));
 }
 
 QTEST_MAIN(TestNewUser)

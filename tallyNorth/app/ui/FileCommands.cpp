@@ -35,6 +35,8 @@ QString ChooseBackupFile(MainWindow& window, QFileDialog::AcceptMode mode, const
                               ? QCoreApplication::translate("FileCommands", "Do backup")
                               : QCoreApplication::translate("FileCommands", "Restore backup"));
     dialog.setDefaultSuffix(QStringLiteral("dbk"));
+    // Room for the folder list and the file names with their dates.
+    dialog.resize(760, 480);
     if (!proposed.isEmpty())
         dialog.selectFile(proposed);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
