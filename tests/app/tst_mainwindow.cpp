@@ -7,17 +7,13 @@
 #include "Columns.h"
 #include "app/Backup.h"
 #include "app/BaseFolder.h"
-#include "app/CompanyChoice.h"
-#include "app/CompanyCreate.h"
 #include "app/Database.h"
-#include "app/DatabasePrepare.h"
 #include "app/Setup.h"
 #include "app/SqlStatement.h"
 #include "app/ui/ListTab.h"
 #include "app/ui/MainWindow.h"
 #include "app/ui/RegisterCommands.h"
 
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -92,7 +88,6 @@ private Q_SLOTS:
     void masterDataPagesFollowLoadingRules_data();
     void masterDataPagesFollowLoadingRules();
     void changeCompanyCommand();
-    void newCompanyCommandRefusesTakenTaxNumber();
 };
 
 void TestMainWindow::title_data()
@@ -473,49 +468,6 @@ void TestMainWindow::changeCompanyCommand()
              QStringLiteral("Vantrell Invoicer - Második Kft (adószám:22222222-2-22)"));
     QCOMPARE(window.companyFile(), second);
     QCOMPARE(orderList->reloads, 1);
-}
-
-// With only the demonstration company a new company is made from the File menu; a tax number
-// that a company already has is refused and the typed data kept for the correction.
-void TestMainWindow::newCompanyCommandRefusesTakenTaxNumber()
-{
-    QTemporaryDir base;
-    BaseFolder::set(base.path());
-    QVERIFY(BaseFolder::ensureExists());
-    ScriptedInteraction quiet;
-    QString demo;
-    QVERIFY(CreateDemoCompany(BaseFolder::dbFolder(), quiet, &demo));
-    QVERIFY(OpenCompany(demo, quiet));
-    MainWindow window;
-    RegisterCommands(window);
-    window.companyChanged();
-
-    const auto fill = [](const QString& taxNo) {
-        return [taxNo](QWidget* w) {
-            if (Child<QLineEdit>(w, "m_name")->text().isEmpty())
-                Child<QLineEdit>(w, "m_name")->setText(QStringLiteral("Új Cég Kft."));
-            QCOMPARE(Child<QLineEdit>(w, "m_name")->text(), QStringLiteral("Új Cég Kft."));
-            Child<QLineEdit>(w, "m_tax_no")->setText(taxNo);
-            Child<QDialogButtonBox>(w, "m_buttons")->button(QDialogButtonBox::Ok)->click();
-        };
-    };
-    QStringList messages;
-    ModalDriver driver({fill(QStringLiteral("12345676-2-41")), Answer(&messages),
-                        fill(QStringLiteral("99999999-2-41")), Answer(&messages, QMessageBox::Yes),
-                        Answer(&messages)});
-    window.action(MainCommand::NewCompany)->trigger();
-    QVERIFY(driver.done());
-    QCOMPARE(
-        messages,
-        (QStringList{
-            QStringLiteral("It is not possible to create a new database with an existing tax no."),
-            QStringLiteral("The new company database has been created.&Do you want to work "
-                           "with it now?"),
-            QStringLiteral("Database/company changed successfully to:&Új Cég Kft.")}));
-    QCOMPARE(window.windowTitle(),
-             QStringLiteral("Vantrell Invoicer - Új Cég Kft. (adószám:99999999-2-41)"));
-    QCOMPARE(QFileInfo(window.companyFile()).fileName(), QStringLiteral("uj_ceg_kft.db"));
-    QCOMPARE(ReadDbVersion(), 302);
 }
 
 QTEST_MAIN(TestMainWindow)

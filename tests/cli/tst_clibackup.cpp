@@ -51,7 +51,6 @@ private Q_SLOTS:
     void severalCompaniesNeedDb_data();
     void severalCompaniesNeedDb();
     void restoreUpgradesOlderBackup();
-    void restoreRefusesAnotherCompanysBackup();
 
 private:
     Run cli(const QStringList& args) const;
@@ -167,22 +166,6 @@ void TestCliBackup::restoreUpgradesOlderBackup()
     QVERIFY(Database::open(db(QStringLiteral("ceg.db"))));
     QCOMPARE(SelectValue(QStringLiteral("select count(*) from ORDERHEAD")).toInt(), 6);
     Database::close();
-}
-
-void TestCliBackup::restoreRefusesAnotherCompanysBackup()
-{
-    QCOMPARE(cli({QStringLiteral("check")}).exitCode, 0);
-    const QString demo = db(QStringLiteral("demo.db"));
-    const QString other = backup(QStringLiteral("masik.dbk"));
-    QVERIFY(QFile::copy(demo, other));
-    QVERIFY(AddMarker(demo, QStringLiteral("own")));
-
-    const Run run = cli({QStringLiteral("restore"), other});
-    QCOMPARE(run.exitCode, 1);
-    QCOMPARE(
-        run.err.trimmed(),
-        QStringLiteral("The selected file is not a backup of currently active database/company."));
-    QCOMPARE(Markers(demo), QStringList{QStringLiteral("own")});
 }
 
 QTEST_GUILESS_MAIN(TestCliBackup)
