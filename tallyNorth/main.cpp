@@ -1,7 +1,9 @@
 // The GUI entry point.
 #include "app/BaseFolder.h"
 #include "app/Language.h"
-#include "app/ui/PlaceholderWindow.h"
+#include "app/ProgramInfo.h"
+#include "app/ui/MainWindow.h"
+#include "app/ui/RegisterCommands.h"
 #include "app/ui/Startup.h"
 
 #include <QApplication>
@@ -11,8 +13,8 @@ int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tallyNorth"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Vantrell Invoicer"));
-    QApplication::setApplicationVersion(QStringLiteral("3.0.4"));
+    // No display name: the window system would append it to the company's exact window title.
+    QApplication::setApplicationVersion(ProgramVersion());
 
     QCommandLineParser parser;
     const QCommandLineOption baseOption(QStringLiteral("base"),
@@ -32,7 +34,6 @@ int main(int argc, char* argv[])
 
     if (!StartUp(parser.positionalArguments().value(0)))
         return 1;
-    PlaceholderWindow window;
-    window.show();
+    const std::unique_ptr<MainWindow> window = OpenMainWindow();
     return app.exec();
 }

@@ -1,9 +1,9 @@
 #include "Backup.h"
 
+#include "CompanyChoice.h"
 #include "Database.h"
 #include "Interaction.h"
 #include "MessageArgs.h"
-#include "Setup.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -64,12 +64,12 @@ bool PutBack(const QString& aside, const QString& databasePath, Interaction& int
     return false;
 }
 
-Result OpenCompanyFile(const QString& path)
+// Only an SQLite file holds a company. Opening an empty or foreign file would make a new, empty
+// company of it in the place of the restored one.
+bool IsDatabaseFile(const QString& path)
 {
-    const Result opened = Database::open(path);
-    if (!opened)
-        return opened;
-    return Setup::current().load();
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(16) == QByteArray("SQLite format 3", 16);
 }
 
 } // namespace
@@ -158,5 +158,9 @@ bool RestoreBackup(const QString& databasePath, const QString& backupPath, Inter
 
 bool RestoreBackup(const QString& databasePath, const QString& backupPath, Interaction& interaction)
 {
-    return RestoreBackup(databasePath, backupPath, interaction, OpenCompanyFile);
+    // A backup of an older version is upgraded as it is opened.
+    const auto open = [&interaction](const QString& path) {
+        return IsDatabaseFile(path) ? OpenCompany(path, interaction) : Result::failure({});
+    };
+    return RestoreBackup(databasePath, backupPath, interaction, open);
 }

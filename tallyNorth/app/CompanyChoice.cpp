@@ -6,19 +6,12 @@
 #include "MessageArgs.h"
 #include "Setup.h"
 
+#include "documents/LabelTranslations.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include "Columns.h"
-
-namespace {
-
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("CompanyChoice", text);
-}
-
-} // namespace
 
 QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
                               Interaction& interaction, const CompanySelector& select)
@@ -26,13 +19,16 @@ QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbF
     if (!commandLinePath.isEmpty()) {
         if (QFileInfo(commandLinePath).isFile())
             return QFileInfo(commandLinePath).absoluteFilePath();
-        interaction.error(FillArgs(Tr("%s does not exists."), {commandLinePath}));
+        interaction.error(
+            FillArgs(QCoreApplication::translate("CompanyChoice", "%s does not exists."),
+                     {commandLinePath}));
         return {};
     }
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
     if (files.isEmpty()) {
-        interaction.error(
-            Tr("Missing database files. Maybe you have to reinstall the application."));
+        interaction.error(QCoreApplication::translate(
+            "CompanyChoice",
+            "Missing database files. Maybe you have to reinstall the application."));
         return {};
     }
     if (files.size() == 1)
@@ -47,7 +43,16 @@ Result OpenCompany(const QString& path, Interaction& interaction)
         interaction.error(opened.message());
         return opened;
     }
-    return PrepareDatabase(interaction);
+    const Result prepared = PrepareDatabase(interaction);
+    if (!prepared)
+        return prepared;
+    // Invoices are printed with the labels of the company they are issued in.
+    const Result labels = LabelTranslations::current().Load();
+    if (!labels) {
+        Database::close();
+        interaction.error(labels.message());
+    }
+    return labels;
 }
 
 bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
@@ -55,23 +60,31 @@ bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
 {
     const QStringList files = OfferedCompanyFiles(CompanyFiles(dbFolder));
     if (files.isEmpty()) {
-        interaction.error(Tr("Error: there are no databases."));
+        interaction.error(
+            QCoreApplication::translate("CompanyChoice", "Error: there are no databases."));
         return false;
     }
-    if (files.size() == 1) {
-        interaction.info(Tr("There is only one database."));
+    // One company is nothing to change to, unless the file open is another one: the
+    // demonstration company, hidden from the list once a real company exists.
+    if (files.size() == 1 && QFileInfo(files.first()) == QFileInfo(Database::path())) {
+        interaction.info(
+            QCoreApplication::translate("CompanyChoice", "There is only one database."));
         return false;
     }
     const std::optional<QString> chosen = select(ReadCompanyEntries(files));
-    if (!chosen)
-        return false;
+    return chosen && SwitchCompany(*chosen, interaction);
+}
+
+bool SwitchCompany(const QString& path, Interaction& interaction)
+{
     const QString previous = Database::path();
-    if (!OpenCompany(*chosen, interaction)) {
+    if (!OpenCompany(path, interaction)) {
         if (!previous.isEmpty())
             OpenCompany(previous, interaction);
         return false;
     }
-    interaction.info(FillArgs(Tr("Database/company changed successfully to:&%s"),
+    interaction.info(FillArgs(QCoreApplication::translate(
+                                  "CompanyChoice", "Database/company changed successfully to:&%s"),
                               {Setup::current().text(Col::SETUP_NAME)}));
     return true;
 }

@@ -20,10 +20,15 @@ using CompanySelector = std::function<std::optional<QString>(const QList<Company
 QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
                               Interaction& interaction, const CompanySelector& select);
 
-// Opens path as the current database and prepares it; messages are shown.
+// Opens path as the current database, prepares it and loads what the company's work reads from
+// it (settings, invoice labels); messages are shown. A failure leaves no database open.
 Result OpenCompany(const QString& path, Interaction& interaction);
 
 // "Change database/company...": true when another file was chosen, opened and prepared. When
 // the chosen file cannot be used, the company worked on before is opened again.
 bool ChangeCompanyDatabase(const QString& dbFolder, Interaction& interaction,
                            const CompanySelector& select);
+
+// Makes path the current company and tells the user its name. When path cannot be used, the
+// company worked on before is opened again.
+bool SwitchCompany(const QString& path, Interaction& interaction);

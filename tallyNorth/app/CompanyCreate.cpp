@@ -15,11 +15,6 @@
 
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("CompanyCreate", text);
-}
-
 bool FileExistsIn(const QDir& dir, const QString& name)
 {
     const QStringList names = dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
@@ -35,19 +30,25 @@ bool ValidFileName(const QString& name)
 Result Validate(const NewCompany& company, const QString& folder)
 {
     if (company.name.trimmed().isEmpty())
-        return Result::failure(Tr("Name field must have a value."));
+        return Result::failure(
+            QCoreApplication::translate("CompanyCreate", "Name field must have a value."));
     if (company.taxNo.trimmed().isEmpty())
-        return Result::failure(Tr("Tax No field must have a value."));
+        return Result::failure(
+            QCoreApplication::translate("CompanyCreate", "Tax No field must have a value."));
     if (!company.fileName.isEmpty() && !ValidFileName(company.fileName))
-        return Result::failure(Tr("The file name must end with \".db\", be longer than three "
-                                  "characters and must not begin with \".\"."));
+        return Result::failure(QCoreApplication::translate(
+            "CompanyCreate", "The file name must end with \".db\", be longer than three "
+                             "characters and must not begin with \".\"."));
     if (!company.fileName.isEmpty() && FileExistsIn(QDir(folder), company.fileName))
-        return Result::failure(FillArgs(Tr("%s already exists."), {company.fileName}));
+        return Result::failure(
+            FillArgs(QCoreApplication::translate("CompanyCreate", "%s already exists."),
+                     {company.fileName}));
     const QList<CompanyEntry> existing = ReadCompanyEntries(CompanyFiles(folder));
     for (const CompanyEntry& entry : existing) {
         if (SameTaxNo(entry.taxNo, company.taxNo))
-            return Result::failure(
-                Tr("It is not possible to create a new database with an existing tax no."));
+            return Result::failure(QCoreApplication::translate(
+                "CompanyCreate",
+                "It is not possible to create a new database with an existing tax no."));
     }
     return Result::success();
 }

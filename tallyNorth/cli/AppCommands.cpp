@@ -12,11 +12,6 @@
 
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("AppCommands", text);
-}
-
 // The command line cannot ask which company to use: it lists them and wants --db.
 std::optional<QString> RefuseToChoose(CliContext& context, const QList<CompanyEntry>& entries)
 {
@@ -24,7 +19,7 @@ std::optional<QString> RefuseToChoose(CliContext& context, const QList<CompanyEn
                                                   "Select the database/company you want to use")};
     for (const CompanyEntry& e : entries)
         lines << QLatin1String("  ") + e.fileName() + QLatin1String(": ") + e.name;
-    lines << Tr("Choose one with --db FILE.");
+    lines << QCoreApplication::translate("AppCommands", "Choose one with --db FILE.");
     PrintMessage(context, lines.join(u'\n'));
     return std::nullopt;
 }
@@ -93,14 +88,21 @@ int RunCheck(CliContext& context, const QStringList& args)
             PrintMessage(context, created.message());
             return ExitFailure;
         }
-        PrintMessage(context, FillArgs(Tr("Demonstration company created: %s"), {demo}));
+        PrintMessage(context, FillArgs(QCoreApplication::translate(
+                                           "AppCommands", "Demonstration company created: %s"),
+                                       {demo}));
     }
-    const QString path = ChooseStartupDatabase(context.dbPath, folder, *context.interaction,
-                                               [&context](const QList<CompanyEntry>& entries) {
-                                                   return RefuseToChoose(context, entries);
-                                               });
+    const QString path = ChooseCompany(context);
     if (path.isEmpty() || !OpenCompany(path, *context.interaction))
         return ExitFailure;
     *context.out << path << '\t' << ReadDbVersion() << Qt::endl;
     return ExitOk;
+}
+
+QString ChooseCompany(CliContext& context)
+{
+    return ChooseStartupDatabase(context.dbPath, BaseFolder::dbFolder(), *context.interaction,
+                                 [&context](const QList<CompanyEntry>& entries) {
+                                     return RefuseToChoose(context, entries);
+                                 });
 }

@@ -6,3 +6,8 @@
 int RunCompanies(CliContext& context, const QStringList& args);
 int RunCreate(CliContext& context, const QStringList& args);
 int RunCheck(CliContext& context, const QStringList& args);
+
+// The company file a verb works on: --db FILE, else the file the program would open at start-up.
+// Where the start-up would ask, the companies are listed with the hint to choose one with --db.
+// Empty when there is none to use; the reason has been printed.
+QString ChooseCompany(CliContext& context);

@@ -1,44 +1,40 @@
 #include "ShellCommands.h"
 
+#include "AppCommands.h"
 #include "Cli.h"
 
 #include "app/Backup.h"
 #include "app/Database.h"
-#include "app/MessageArgs.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
 
-// The company file the verbs work on: --db FILE.
-QString CompanyPath(CliContext& context)
-{
-    if (context.dbPath.isEmpty())
-        return {};
-    return QFileInfo(context.dbPath).absoluteFilePath();
-}
-
 int Usage(CliContext& context, const char* usage)
 {
-    *context.err << "usage: tallynorth-cli --db FILE " << usage << Qt::endl;
+    *context.err << "usage: tallynorth-cli [--db FILE] " << usage << Qt::endl;
     return ExitUsage;
+}
+
+// The restore may bring back a company file that has been lost, so --db names the file to
+// restore even when it is missing; without --db the company is chosen as at start-up.
+QString RestoreTarget(CliContext& context)
+{
+    if (!context.dbPath.isEmpty())
+        return QFileInfo(context.dbPath).absoluteFilePath();
+    return ChooseCompany(context);
 }
 
 } // namespace
 
 int RunBackup(CliContext& context, const QStringList& args)
 {
-    const QString database = CompanyPath(context);
-    if (args.size() != 1 || database.isEmpty())
+    if (args.size() != 1)
         return Usage(context, "backup FILE");
-    if (!QFile::exists(database)) {
-        PrintMessage(context,
-                     FillArgs(QCoreApplication::translate("ShellCommands", "%s does not exists."),
-                              {database}));
+    const QString database = ChooseCompany(context);
+    if (database.isEmpty())
         return ExitFailure;
-    }
     const Result opened = Database::open(database);
     if (!opened) {
         PrintMessage(context, opened.message());
@@ -52,9 +48,11 @@ int RunBackup(CliContext& context, const QStringList& args)
 
 int RunRestore(CliContext& context, const QStringList& args)
 {
-    const QString database = CompanyPath(context);
-    if (args.size() != 1 || database.isEmpty())
+    if (args.size() != 1)
         return Usage(context, "restore FILE");
+    const QString database = RestoreTarget(context);
+    if (database.isEmpty())
+        return ExitFailure;
     // With the company's file open the restored file is opened (and upgraded) at once.
     if (QFile::exists(database))
         Database::open(database);

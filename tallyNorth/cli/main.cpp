@@ -7,6 +7,7 @@
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
+#include "app/ProgramInfo.h"
 #include "documents/MessageText.h"
 
 #include <QGuiApplication>
@@ -75,7 +76,7 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyNorth"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("3.0.4"));
+    QCoreApplication::setApplicationVersion(ProgramVersion());
 
     QTextStream out(stdout);
     QTextStream err(stderr);

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hu_HU">
     <context>
+        <name>AppCommands</name>
+        <message>
+            <source>Choose one with --db FILE.</source>
+            <translation>Válasszon egyet a --db FILE kapcsolóval.</translation>
+        </message>
+        <message>
+            <source>Demonstration company created: %s</source>
+            <translation>A bemutató cég létrejött: %s</translation>
+        </message>
+    </context>
+    <context>
         <name>Backup</name>
         <message>
             <source>The previous database file is kept here:&amp;%s</source>
@@ -38,6 +49,52 @@
         <message>
             <source>Backup file restored successfully.</source>
             <translation>A biztonsági mentés visszaállítása sikerült.</translation>
+        </message>
+    </context>
+    <context>
+        <name>CompanyChoice</name>
+        <message>
+            <source>%s does not exists.</source>
+            <translation>%s nem létezik.</translation>
+        </message>
+        <message>
+            <source>Missing database files. Maybe you have to reinstall the application.</source>
+            <translation>Hiányoznak az adatbázisfájlok. Lehet, hogy újra kell telepítenie a programot.</translation>
+        </message>
+        <message>
+            <source>Error: there are no databases.</source>
+            <translation>Hiba: nincsenek adatbázisok.</translation>
+        </message>
+        <message>
+            <source>There is only one database.</source>
+            <translation>Csak egy adatbázis van.</translation>
+        </message>
+        <message>
+            <source>Database/company changed successfully to:&amp;%s</source>
+            <translation>Az adatbázis/cég sikeresen átváltva erre:&amp;%s</translation>
+        </message>
+    </context>
+    <context>
+        <name>CompanyCreate</name>
+        <message>
+            <source>Name field must have a value.</source>
+            <translation>A Név mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Tax No field must have a value.</source>
+            <translation>Az Adószám mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>The file name must end with ".db", be longer than three characters and must not begin with ".".</source>
+            <translation>A fájlnév ".db" végződésű, háromnál több karakter hosszú legyen, és nem kezdődhet "." karakterrel.</translation>
+        </message>
+        <message>
+            <source>%s already exists.</source>
+            <translation>%s már létezik.</translation>
+        </message>
+        <message>
+            <source>It is not possible to create a new database with an existing tax no.</source>
+            <translation>Már meglévő adószámmal nem hozható létre új adatbázis.</translation>
         </message>
     </context>
     <context>
@@ -444,6 +501,10 @@
             <source>Restore backup</source>
             <translation>Biztonsági mentés visszaállítása</translation>
         </message>
+        <message>
+            <source>The new company database has been created.&amp;Do you want to work with it now?</source>
+            <translation>Az új cég adatbázisa elkészült.&amp;Szeretne most ezzel a céggel dolgozni?</translation>
+        </message>
     </context>
     <context>
         <name>GuiInteraction</name>
@@ -762,6 +823,14 @@
         <message>
             <source>Partners</source>
             <translation>Partnerek</translation>
+        </message>
+        <message>
+            <source>New company...</source>
+            <translation>Új cég...</translation>
+        </message>
+        <message>
+            <source>Create a new company database</source>
+            <translation>Új cégadatbázis létrehozása</translation>
         </message>
     </context>
     <context>
@@ -1200,21 +1269,6 @@
         </message>
     </context>
     <context>
-        <name>PlaceholderWindow</name>
-        <message>
-            <source>&amp;File</source>
-            <translation>&amp;Fájl</translation>
-        </message>
-        <message>
-            <source>Change database/company...</source>
-            <translation>Adatbázis/cég váltása...</translation>
-        </message>
-        <message>
-            <source>Exit</source>
-            <translation>Kilépés</translation>
-        </message>
-    </context>
-    <context>
         <name>ProductEdit</name>
         <message>
             <source>Product Name Translations</source>
@@ -1475,13 +1529,6 @@
         <message>
             <source>Unable to update SETUP record.</source>
             <translation>Nem sikerült a beállításokat menteni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ShellCommands</name>
-        <message>
-            <source>%s does not exists.</source>
-            <translation>%s nem létezik.</translation>
         </message>
     </context>
     <context>

@@ -1,13 +1,16 @@
 // Backup and restore of the company file: names, the belonging rule, and that every failure
 // leaves the company's own file in place and usable.
+#include "OldCompanyFile.h"
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
 
 #include "Columns.h"
 #include "app/Backup.h"
 #include "app/Database.h"
+#include "app/DatabasePrepare.h"
 #include "app/Setup.h"
 #include "app/SqlStatement.h"
+#include "documents/LabelTranslations.h"
 
 #include <QtTest>
 
@@ -69,6 +72,8 @@ private Q_SLOTS:
     void restoreFailureKeepsOwnFile_data();
     void restoreFailureKeepsOwnFile();
     void restoreWithoutOpenDatabaseAsks();
+    void restoreUpgradesOlderBackup_data();
+    void restoreUpgradesOlderBackup();
 };
 
 void TestBackup::backupName_data()
@@ -202,6 +207,8 @@ void TestBackup::restoreFailureKeepsOwnFile_data()
     QTest::newRow("backup cannot be read") << QByteArray() << true << kRestoreError;
     QTest::newRow("backup is not a database")
         << QByteArray("this is not an SQLite file, only text") << false << kUnableToOpen;
+    // SQLite would take an empty file for a new database and make an empty company of it.
+    QTest::newRow("backup is empty") << QByteArray() << false << kUnableToOpen;
 }
 
 void TestBackup::restoreFailureKeepsOwnFile()
@@ -250,6 +257,47 @@ void TestBackup::restoreWithoutOpenDatabaseAsks()
     QCOMPARE(ui.questions.size(), 2);
     QVERIFY(Database::isOpen());
     QCOMPARE(Markers(), QStringList{QStringLiteral("in backup")});
+}
+
+void TestBackup::restoreUpgradesOlderBackup_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::newRow("without version table") << -1;
+    QTest::newRow("1") << 1;
+    QTest::newRow("301") << 301;
+}
+
+// A backup made by an older version of the program comes back upgraded, with its own data and
+// invoice labels in use, and the file's replaced content kept aside.
+void TestBackup::restoreUpgradesOlderBackup()
+{
+    QFETCH(int, version);
+    TestCompany company;
+    QVERIFY(company.isValid());
+    AddMarker(QStringLiteral("current"));
+    QTemporaryDir folder;
+    const QString backup = folder.filePath(QStringLiteral("company.dbk"));
+    OldCompanyFile old;
+    old.version = version;
+    QVERIFY(old.build(backup));
+    QVERIFY(Database::open(company.path()));
+
+    ScriptedInteraction ui;
+    ui.checkAnswers.enqueue(QList<bool>{false, false, true});
+    QVERIFY(RestoreBackup(company.path(), backup, ui));
+    QCOMPARE(ui.lastMessage(), kRestored);
+    QVERIFY(ui.progressTexts.contains(QStringLiteral("Upgrading database.")));
+    QVERIFY(Database::isOpen());
+    QCOMPARE(Database::path(), company.path());
+    QCOMPARE(ReadDbVersion(), 302);
+    QCOMPARE(Setup::current().text(Col::SETUP_NAME), QStringLiteral("Régi Kereskedő Kft."));
+    QCOMPARE(SelectValue(QStringLiteral("select count(*) from ORDERHEAD")).toInt(), 6);
+    QCOMPARE(Markers(), QStringList{});
+    QCOMPARE(LabelTranslations::current().Get(QStringLiteral("TR_PAYMENT_METHOD"), 0),
+             QStringLiteral("Fizetési mód"));
+
+    QVERIFY(Database::open(RestoreAsidePath(company.path())));
+    QCOMPARE(Markers(), QStringList{QStringLiteral("current")});
 }
 
 QTEST_GUILESS_MAIN(TestBackup)

@@ -9,6 +9,7 @@
 #include "app/DatabasePrepare.h"
 #include "app/Setup.h"
 #include "app/SqlStatement.h"
+#include "documents/LabelTranslations.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -68,6 +69,8 @@ private Q_SLOTS:
     void changeCompany_data();
     void changeCompany();
     void changeToUnusableFileKeepsCurrent();
+    void changeFromDemoToTheOnlyCompany();
+    void invoiceLabelsFollowTheCompany();
 
 private:
     QString folder() const { return m_dir->path(); }
@@ -413,6 +416,56 @@ void TestCompanies::changeToUnusableFileKeepsCurrent()
     QVERIFY(Database::isOpen());
     QCOMPARE(Database::path(), kovacs);
     QCOMPARE(Setup::current().text("SETUP_NAME"), QStringLiteral("Kovács Bt."));
+}
+
+// Right after the first real company is made, the demonstration company may still be open: the
+// new company, the only one offered, is not "only one database" to change to.
+void TestCompanies::changeFromDemoToTheOnlyCompany()
+{
+    QVERIFY(CreateDemoCompany(folder(), m_silent));
+    const QString kovacs = company(QStringLiteral("Kovács Bt."), QStringLiteral("11111111-2-41"));
+    ScriptedInteraction interaction;
+    QVERIFY(OpenCompany(QDir(folder()).filePath(QStringLiteral("demo.db")), interaction));
+    RecordingSelector selector;
+    selector.pick = QStringLiteral("kovacs_bt.db");
+    QVERIFY(ChangeCompanyDatabase(folder(), interaction, selector.function()));
+    QCOMPARE(selector.offered, QList<QStringList>{{QStringLiteral("kovacs_bt.db:Kovács Bt.")}});
+    QCOMPARE(Database::path(), kovacs);
+
+    // Now it is the one open: nothing to change to.
+    QVERIFY(!ChangeCompanyDatabase(folder(), interaction, selector.function()));
+    QCOMPARE(interaction.lastMessage(), QStringLiteral("There is only one database."));
+    QCOMPARE(selector.offered.size(), 1);
+}
+
+// Invoices must be printed with the labels of the company they are issued in; a company whose
+// labels cannot be read is not opened.
+void TestCompanies::invoiceLabelsFollowTheCompany()
+{
+    const QString key = QStringLiteral("TR_PAYMENT_METHOD");
+    const QString kovacs = company(QStringLiteral("Kovács Bt."), QStringLiteral("11111111-2-41"));
+    const QString szabo = company(QStringLiteral("Szabó Kft."), QStringLiteral("22222222-2-42"));
+    const QString broken = company(QStringLiteral("Hibás Kft."), QStringLiteral("33333333-2-43"));
+    QVERIFY(Database::open(szabo));
+    QVERIFY(ExecSql(QStringLiteral("update ORDERLABELTRANSLATION set ORDERLABELTRANSLATION_TEXT = "
+                                   "? where ORDERLABELTRANSLATION_KEY = ? and "
+                                   "ORDERLABELTRANSLATION_LANG_ID = 0"),
+                    {QStringLiteral("Fizetés módja"), key}));
+    QVERIFY(Database::open(broken));
+    QVERIFY(ExecSql(QStringLiteral("drop table ORDERLABELTRANSLATION")));
+
+    ScriptedInteraction interaction;
+    QVERIFY(OpenCompany(kovacs, interaction));
+    QCOMPARE(LabelTranslations::current().Get(key, 0), QStringLiteral("Fizetési mód"));
+    RecordingSelector selector;
+    selector.pick = QStringLiteral("szabo_kft.db");
+    QVERIFY(ChangeCompanyDatabase(folder(), interaction, selector.function()));
+    QCOMPARE(LabelTranslations::current().Get(key, 0), QStringLiteral("Fizetés módja"));
+
+    QVERIFY(!OpenCompany(broken, interaction));
+    QCOMPARE(interaction.lastMessage(),
+             QStringLiteral("Unable to load invoice label translations."));
+    QVERIFY(!Database::isOpen());
 }
 
 QTEST_GUILESS_MAIN(TestCompanies)

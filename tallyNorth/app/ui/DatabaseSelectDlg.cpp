@@ -1,11 +1,8 @@
 #include "DatabaseSelectDlg.h"
 
 #include "CompanyListModel.h"
-#include "GuiInteraction.h"
 #include "NewCompanyDlg.h"
 #include "ui_DatabaseSelectLayout.h"
-
-#include "app/CompanyCreate.h"
 
 #include <QHeaderView>
 
@@ -67,21 +64,9 @@ void DatabaseSelectDlg::setHelpHandler(HelpHandler handler)
 
 void DatabaseSelectDlg::newCompany()
 {
-    GuiInteraction interaction(this);
-    NewCompany values;
-    for (;;) {
-        NewCompanyDlg dlg(values, this);
-        if (dlg.exec() != QDialog::Accepted)
-            return;
-        values = dlg.company();
-        QString path;
-        const Result r = CreateCompany(values, m_dbFolder, interaction, &path);
-        if (r) {
-            select(m_model->append(ReadCompanyEntry(path)));
-            return;
-        }
-        interaction.error(r.message());
-    }
+    const QString path = NewCompanyDlg::createCompany(m_dbFolder, this);
+    if (!path.isEmpty())
+        select(m_model->append(ReadCompanyEntry(path)));
 }
 
 void DatabaseSelectDlg::showHelp()

@@ -2,9 +2,13 @@
 
 #include "GuiInteraction.h"
 #include "MainWindow.h"
+#include "NewCompanyDlg.h"
+#include "Startup.h"
 
 #include "app/Backup.h"
 #include "app/BaseFolder.h"
+#include "app/CompanyChoice.h"
+#include "app/Database.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -31,6 +35,8 @@ QString ChooseBackupFile(MainWindow& window, QFileDialog::AcceptMode mode, const
                               ? QCoreApplication::translate("FileCommands", "Do backup")
                               : QCoreApplication::translate("FileCommands", "Restore backup"));
     dialog.setDefaultSuffix(QStringLiteral("dbk"));
+    // Room for the folder list and the file names with their dates.
+    dialog.resize(760, 480);
     if (!proposed.isEmpty())
         dialog.selectFile(proposed);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
@@ -67,8 +73,39 @@ void RestoreBackupCommand(MainWindow& window)
     window.companyChanged();
 }
 
+namespace {
+
+// The window follows the session when it now is on another file (or on none, after a failure).
+void FollowCompany(MainWindow& window, bool changed)
+{
+    if (changed || Database::path() != window.companyFile())
+        window.companyChanged();
+}
+
+} // namespace
+
+void ChangeCompanyCommand(MainWindow& window)
+{
+    FollowCompany(window, ChangeCompany(&window));
+}
+
+void NewCompanyCommand(MainWindow& window)
+{
+    const QString path = NewCompanyDlg::createCompany(BaseFolder::dbFolder(), &window);
+    if (path.isEmpty())
+        return;
+    GuiInteraction interaction(&window);
+    if (!interaction.askYesNo(QCoreApplication::translate(
+            "FileCommands",
+            "The new company database has been created.&Do you want to work with it now?")))
+        return;
+    FollowCompany(window, SwitchCompany(path, interaction));
+}
+
 void RegisterFileCommands(MainWindow& window)
 {
+    window.setCommand(MainCommand::ChangeCompany, [&window] { ChangeCompanyCommand(window); });
+    window.setCommand(MainCommand::NewCompany, [&window] { NewCompanyCommand(window); });
     window.setCommand(MainCommand::DoBackup, [&window] { DoBackupCommand(window); });
     window.setCommand(MainCommand::RestoreBackup, [&window] { RestoreBackupCommand(window); });
     window.setCommand(MainCommand::Exit, [&window] { window.close(); });

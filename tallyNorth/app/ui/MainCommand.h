@@ -8,6 +8,7 @@ enum class MainCommand {
     DoBackup,
     RestoreBackup,
     ChangeCompany,
+    NewCompany,
     Exit,
     VatKeys,
     NoVatReasons,

@@ -100,6 +100,9 @@ void MainWindow::buildMenus()
     addCommand(file, MainCommand::ChangeCompany, tr("Change database/company..."),
                tr("Change database to an other one if you want to work with an other company"))
         ->setIcon(s->standardIcon(QStyle::SP_DirOpenIcon));
+    addCommand(file, MainCommand::NewCompany, tr("New company..."),
+               tr("Create a new company database"))
+        ->setIcon(s->standardIcon(QStyle::SP_FileDialogNewFolder));
     file->addSeparator();
     QAction* exit =
         addCommand(file, MainCommand::Exit, tr("Exit"), tr("Finish editing and close this window"));

@@ -1,5 +1,6 @@
 #include "NewCompanyDlg.h"
 
+#include "GuiInteraction.h"
 #include "ui_NewCompanyLayout.h"
 
 NewCompanyDlg::NewCompanyDlg(const NewCompany& company, QWidget* parent)
@@ -26,4 +27,21 @@ NewCompany NewCompanyDlg::company() const
     c.city = m_ui->m_city->text();
     c.address = m_ui->m_address->text();
     return c;
+}
+
+QString NewCompanyDlg::createCompany(const QString& dbFolder, QWidget* parent)
+{
+    GuiInteraction interaction(parent);
+    NewCompany values;
+    for (;;) {
+        NewCompanyDlg dlg(values, parent);
+        if (dlg.exec() != QDialog::Accepted)
+            return {};
+        values = dlg.company();
+        QString path;
+        const Result r = CreateCompany(values, dbFolder, interaction, &path);
+        if (r)
+            return path;
+        interaction.error(r.message());
+    }
 }

@@ -22,6 +22,11 @@ public:
 
     NewCompany company() const;
 
+    // Asks for the new company's data until its file is made in dbFolder or the user cancels;
+    // a refusal (an existing tax number, an empty name...) is shown and the data kept for a
+    // correction. The new file's path, empty when cancelled.
+    static QString createCompany(const QString& dbFolder, QWidget* parent);
+
 private:
     std::unique_ptr<Ui::NewCompanyLayout> m_ui;
 };

@@ -3,11 +3,14 @@
 #include "FileCommands.h"
 #include "MainWindow.h"
 
+#include "masterdata/ui/MasterdataCommands.h"
+
 // One line per subsystem: each registers its handlers with MainWindow::setCommand() and its
 // lists with MainWindow::setTabPage().
 void RegisterCommands(MainWindow& window)
 {
     RegisterFileCommands(window);
+    RegisterMasterdataCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()

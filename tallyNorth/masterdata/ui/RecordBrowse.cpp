@@ -105,9 +105,7 @@ Result RecordBrowse::reload()
     const bool showCodes = Setup::current().flag(Col::SETUP_SHOW_CODE_FIELDS);
     for (int c = 0; c < m_model->columnCount(); ++c)
         m_ui->m_list->setColumnHidden(c, m_model->column(c).code && !showCodes);
-    m_ui->m_list->resizeColumnsToContents();
-    for (int c = 0; c < m_model->columnCount(); ++c)
-        m_ui->m_list->setColumnWidth(c, std::min(m_ui->m_list->columnWidth(c), kMaxColumnWidth));
+    fitColumns();
     if (selected)
         selectId(*selected);
     if (!r)
@@ -115,6 +113,26 @@ Result RecordBrowse::reload()
     else if (page.more)
         showNote(m_info.moreMessage.text());
     return r;
+}
+
+// Columns as wide as their texts (within a limit); the last shown one fills the rest of the
+// list. The header's own last-section stretch keeps the width the sizing gave when the list is
+// read while shown, which leaves a blank strip or runs the column past the edge.
+void RecordBrowse::fitColumns()
+{
+    QHeaderView* header = m_ui->m_list->horizontalHeader();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    m_ui->m_list->resizeColumnsToContents();
+    for (int c = 0; c < m_model->columnCount(); ++c)
+        m_ui->m_list->setColumnWidth(c, std::min(m_ui->m_list->columnWidth(c), kMaxColumnWidth));
+    for (int v = header->count() - 1; v >= 0; --v) {
+        const int column = header->logicalIndex(v);
+        if (!header->isSectionHidden(column)) {
+            header->setSectionResizeMode(column, QHeaderView::Stretch);
+            break;
+        }
+    }
 }
 
 std::optional<qint64> RecordBrowse::currentId() const

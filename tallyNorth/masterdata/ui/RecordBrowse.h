@@ -56,6 +56,7 @@ protected:
 
 private:
     void activate();
+    void fitColumns();
     void showNote(const QString& text);
     void openHelp();
     Interaction& interaction();

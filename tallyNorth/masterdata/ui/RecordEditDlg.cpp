@@ -11,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QTabBar>
 #include <QTableView>
 
 RecordEditDlg::RecordEditDlg(const TableStore& store, std::optional<qint64> id, QWidget* parent)
@@ -55,9 +56,10 @@ void RecordEditDlg::addTranslations(QTableView* view, QList<TrText> headers)
     m_translations->loadLanguages();
     view->setModel(m_translations);
     view->verticalHeader()->hide();
-    view->horizontalHeader()->setStretchLastSection(true);
+    // The language keeps its width; the texts share the rest, so none is squeezed to a stub.
+    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     view->setEditTriggers(QAbstractItemView::AllEditTriggers);
-    view->resizeColumnToContents(0);
 }
 
 Result RecordEditDlg::loadChildren(qint64 id)
@@ -75,6 +77,23 @@ QList<QList<Record>> RecordEditDlg::childRows() const
     if (!m_translations)
         return {};
     return {m_translations->rows()};
+}
+
+// Typing starts in the first field shown, not on the tab bar of a tabbed dialog.
+void RecordEditDlg::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (focusWidget() && !qobject_cast<QTabBar*>(focusWidget()))
+        return;
+    for (QWidget* w = nextInFocusChain(); w != this; w = w->nextInFocusChain()) {
+        // The tab widget hands its focus to its bar; buttons are not fields.
+        if (w->focusProxy() || qobject_cast<QTabBar*>(w) || qobject_cast<QAbstractButton*>(w))
+            continue;
+        if (w->isVisibleTo(this) && w->isEnabled() && (w->focusPolicy() & Qt::TabFocus)) {
+            w->setFocus();
+            return;
+        }
+    }
 }
 
 std::optional<qint64> RecordEditDlg::run(const Record& presets)

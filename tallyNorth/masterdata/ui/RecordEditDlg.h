@@ -58,6 +58,7 @@ protected:
     virtual QList<QList<Record>> childRows() const;
 
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     const TableStore& m_store;
