@@ -24,10 +24,10 @@ QString MessageRichText(const QString& message)
     QtfLayout layout;
     layout.units = QtfUnits::Screen;
     layout.width = 0;
-    return QtfToTextDocument(MessageQtf(message), layout)->toHtml();
+    return MakeTextDocument(ReadQtfMessage(MessageQtf(message)), layout)->toHtml();
 }
 
 QString MessagePlainText(const QString& message)
 {
-    return QtfToPlainText(message);
+    return PlainText(ReadQtfMessage(message).blocks);
 }

@@ -45,7 +45,7 @@ struct FlowState
 class Parser
 {
 public:
-    explicit Parser(const QString& text) : m_s(text)
+    Parser(const QString& text, bool message) : m_s(text), m_message(message)
     {
         const qsizetype nul = m_s.indexOf(QChar(0));
         if (nul >= 0)
@@ -116,6 +116,8 @@ private:
     QHash<QString, int> m_styleNames;
     bool m_pageBreakNext = false;
     bool m_failed = false;
+    // Messages: the lenient reading of QtfMessage().
+    bool m_message = false;
     FlowState* m_flow = nullptr;
 };
 
@@ -128,6 +130,9 @@ Parser::Stop Parser::parseFlow(FlowState& f, Mode mode)
         const ushort u = cur().unicode();
         if (u == 1) {
             raw(f);
+        } else if (u == '\n' && m_message) {
+            ++m_pos;
+            finishParagraph(f);
         } else if (u < 32) {
             ++m_pos;
         } else if (!parseSpecial(f, mode, &stop)) {
@@ -154,6 +159,8 @@ bool Parser::parseSpecial(FlowState& f, Mode mode, Stop* stop)
         m_pending = m_fmt;
         return true;
     case ']':
+        if (m_stack.isEmpty() && m_message)
+            return false;
         if (m_stack.isEmpty()) {
             fail(QStringLiteral("Unmatched ']'"), m_pos);
             return true;
@@ -166,11 +173,16 @@ bool Parser::parseSpecial(FlowState& f, Mode mode, Stop* stop)
         finishParagraph(f);
         return true;
     case '_':
+        if (m_message)
+            return false;
         ++m_pos;
         addText(f, QString(QChar(0xA0)));
         return true;
-    case '`':
     case '\\':
+        if (m_message)
+            return false;
+        [[fallthrough]];
+    case '`':
         ++m_pos;
         if (!atEnd())
             addText(f, QString(take()));
@@ -181,7 +193,7 @@ bool Parser::parseSpecial(FlowState& f, Mode mode, Stop* stop)
             addText(f, QStringLiteral("\t"));
             return true;
         }
-        if (n != u'-')
+        if (n != u'-' || (!inTable && m_message))
             return false;
         if (!inTable) {
             fail(QStringLiteral("Not in table"), m_pos);
@@ -192,7 +204,7 @@ bool Parser::parseSpecial(FlowState& f, Mode mode, Stop* stop)
         return true;
     case ':':
     case '|':
-        if (n != c)
+        if (n != c || (!inTable && m_message))
             return false;
         if (!inTable) {
             fail(QStringLiteral("Not in table"), m_pos);
@@ -1247,7 +1259,12 @@ QString Qtf::Paragraph::text() const
 
 Qtf::Document ReadQtf(const QString& qtf)
 {
-    return Parser(qtf).run();
+    return Parser(qtf, false).run();
+}
+
+Qtf::Document ReadQtfMessage(const QString& message)
+{
+    return Parser(message, true).run();
 }
 
 QString PlainText(const QList<Qtf::Block>& blocks, bool tabs)

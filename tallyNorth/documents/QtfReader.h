@@ -10,6 +10,10 @@
 // keeps what it has and adds "ERROR: reason: next source characters" to the paragraph being
 // built, as the original format's reader did.
 Qtf::Document ReadQtf(const QString& qtf);
+// A message text read leniently: the program's messages often carry file names, command-line
+// options and line feeds unescaped, so a line feed ends a line, "_" and "\" are themselves, and
+// "--", "::", "||" or a "]" that closes nothing are text instead of errors.
+Qtf::Document ReadQtfMessage(const QString& message);
 
 // The plain text of a QTF text: paragraphs joined by line feeds, table cells row by row.
 // With tabs, the cells of a row are separated by TAB when none of them holds a line break.

@@ -311,6 +311,14 @@ void TestTemplates::messages()
     QVERIFY(wrapped.contains(QStringLiteral("The partner's data has changed.")));
     QVERIFY(!wrapped.contains(QStringLiteral("ERROR")));
     QCOMPARE(MessagePlainText(QStringLiteral("[G1 a&b]")), QStringLiteral("a\nb"));
+    // Messages made by the program carry file names, options and line feeds as they are.
+    QCOMPARE(MessagePlainText(QStringLiteral(
+                 "Choose one:\n  kovacs_bt.db\nwith --db FILE (C:\\DB\\a::b || c]).")),
+             QStringLiteral("Choose one:\n  kovacs_bt.db\nwith --db FILE (C:\\DB\\a::b || c])."));
+    // Escaped data reads back the same in a message.
+    const QString data = QStringLiteral("x_y [z] & \\w");
+    QCOMPARE(MessagePlainText(QStringLiteral("[* ") + QtfEscape(data) + u']'), data);
+    QVERIFY(!MessageRichText(QStringLiteral("a--b")).contains(QStringLiteral("ERROR")));
 }
 
 namespace {
