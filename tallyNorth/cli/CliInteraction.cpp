@@ -1,27 +1,22 @@
 #include "CliInteraction.h"
 
-QString PlainMessage(const QString& text)
-{
-    QString out = text;
-    out.replace(u'&', u'\n');
-    return out;
-}
+#include "documents/MessageText.h"
 
 void CliInteraction::message(MessageKind, const QString& text)
 {
-    m_err << PlainMessage(text) << Qt::endl;
+    m_err << MessagePlainText(text) << Qt::endl;
 }
 
 bool CliInteraction::askYesNo(const QString& text)
 {
-    m_err << PlainMessage(text) << (yesAnswer ? " -> yes" : " -> no") << Qt::endl;
+    m_err << MessagePlainText(text) << (yesAnswer ? " -> yes" : " -> no") << Qt::endl;
     return yesAnswer;
 }
 
 Interaction::Choice CliInteraction::choose3(const QString& text, const QString&, const QString&,
                                             const QString& third)
 {
-    m_err << PlainMessage(text) << " -> " << third << Qt::endl;
+    m_err << MessagePlainText(text) << " -> " << third << Qt::endl;
     return Choice::Third;
 }
 
@@ -42,6 +37,6 @@ std::optional<QList<bool>> CliInteraction::checkItems(const QString&, const QStr
 
 std::unique_ptr<Progress> CliInteraction::progress(const QString& text)
 {
-    m_err << PlainMessage(text) << Qt::endl;
+    m_err << MessagePlainText(text) << Qt::endl;
     return std::make_unique<SilentProgress>();
 }

@@ -29,6 +29,3 @@ public:
 private:
     QTextStream& m_err;
 };
-
-// A message text for a terminal: "&" becomes a line break.
-QString PlainMessage(const QString& text);

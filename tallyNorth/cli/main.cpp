@@ -2,11 +2,13 @@
 #include "AppCommands.h"
 #include "Cli.h"
 #include "CliInteraction.h"
+#include "DocumentCommands.h"
 #include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
 #include "app/ProgramInfo.h"
+#include "documents/MessageText.h"
 
 #include <QGuiApplication>
 
@@ -26,11 +28,15 @@ const CliCommand kCommands[] = {
     {"check", "check [--unpaid-methods \"A,B\"]", RunCheck},
     {"backup", "backup FILE", RunBackup},
     {"restore", "restore FILE", RunRestore},
+    {"qtf",
+     "qtf FILE [--header FILE] [--footer FILE] [--page WxH] [--shift-mm X,Y] --pdf OUT | --text",
+     RunQtfCommand},
+    {"template", "template check DIR | template install DIR", RunTemplateCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
 {
-    *context.err << PlainMessage(text) << Qt::endl;
+    *context.err << MessagePlainText(text) << Qt::endl;
 }
 
 bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,

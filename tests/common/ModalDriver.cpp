@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QtTest>
 
 ModalDriver::ModalDriver(QList<Step> steps) : m_steps(std::move(steps))
@@ -39,7 +40,10 @@ ModalDriver::Step Answer(QStringList* texts, QMessageBox::StandardButton button)
     return [texts, button](QWidget* w) {
         auto* box = qobject_cast<QMessageBox*>(w);
         QVERIFY2(box, w->metaObject()->className());
-        *texts << box->text().replace(QLatin1String("<br>"), QLatin1String("&"));
+        // The box shows the message as rich text: one paragraph per "&" of the message.
+        QTextDocument shown;
+        shown.setHtml(box->text());
+        *texts << shown.toPlainText().replace(u'\n', u'&');
         box->button(button)->click();
     };
 }

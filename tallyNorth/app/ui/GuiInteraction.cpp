@@ -3,6 +3,7 @@
 #include "CheckItemsDlg.h"
 #include "SqlErrorDlg.h"
 #include "app/ProgramInfo.h"
+#include "documents/MessageText.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -10,12 +11,6 @@
 #include <QPushButton>
 
 namespace {
-
-// The system's message texts use "&" as a line break.
-QString MessageHtml(const QString& text)
-{
-    return text.toHtmlEscaped().replace(QLatin1String("&amp;"), QLatin1String("<br>"));
-}
 
 class DialogProgress : public Progress
 {
@@ -47,27 +42,27 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
     const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
-        QMessageBox::information(m_parent, title, MessageHtml(text));
+        QMessageBox::information(m_parent, title, MessageRichText(text));
         break;
     case MessageKind::Exclamation:
-        QMessageBox::warning(m_parent, title, MessageHtml(text));
+        QMessageBox::warning(m_parent, title, MessageRichText(text));
         break;
     case MessageKind::Error:
-        QMessageBox::critical(m_parent, title, MessageHtml(text));
+        QMessageBox::critical(m_parent, title, MessageRichText(text));
         break;
     }
 }
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, ProgramName(), MessageHtml(text),
+    return QMessageBox::question(m_parent, ProgramName(), MessageRichText(text),
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, ProgramName(), MessageHtml(text), QMessageBox::NoButton,
+    QMessageBox box(QMessageBox::Question, ProgramName(), MessageRichText(text), QMessageBox::NoButton,
                     m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);

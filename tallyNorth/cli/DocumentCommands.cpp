@@ -1,0 +1,206 @@
+#include "DocumentCommands.h"
+
+#include "app/CompanyChoice.h"
+#include "app/MessageArgs.h"
+#include "app/Setup.h"
+#include "app/SqlTransaction.h"
+#include "documents/InvoiceTemplate.h"
+#include "documents/QtfReader.h"
+#include "documents/Report.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <optional>
+
+namespace {
+
+std::optional<QString> ReadQtfFile(CliContext& context, const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        PrintMessage(context, FillArgs(QCoreApplication::translate("DocumentCommands",
+                                                                   "Unable to read file %s."),
+                                       {QtfEscape(path)}));
+        return std::nullopt;
+    }
+    return QtfTopicBody(QString::fromUtf8(file.readAll()));
+}
+
+// Two numbers joined by separator, each within limit.
+std::optional<QPointF> ParsePair(const QString& text, QChar separator, double limit)
+{
+    const QStringList parts = text.split(separator);
+    bool okX = false;
+    bool okY = false;
+    const double x = parts.value(0).toDouble(&okX);
+    const double y = parts.value(1).toDouble(&okY);
+    if (parts.size() != 2 || !okX || !okY || std::abs(x) > limit || std::abs(y) > limit)
+        return std::nullopt;
+    return QPointF(x, y);
+}
+
+// "WxH" in dots.
+std::optional<QSize> ParseSize(const QString& text)
+{
+    const auto size = ParsePair(text, u'x', 100000);
+    if (!size || size->x() < 100 || size->y() < 100)
+        return std::nullopt;
+    return QSize(qRound(size->x()), qRound(size->y()));
+}
+
+struct QtfOptions
+{
+    QString file;
+    QString header;
+    QString footer;
+    QString pdf;
+    bool text = false;
+    QSize page = Report::kDefaultPage;
+    QPointF shift;
+};
+
+std::optional<QtfOptions> ParseQtfOptions(QStringList args)
+{
+    QtfOptions o;
+    while (!args.isEmpty()) {
+        const QString a = args.takeFirst();
+        if (a == QLatin1String("--text")) {
+            o.text = true;
+            continue;
+        }
+        if (!a.startsWith(QLatin1String("--"))) {
+            if (!o.file.isEmpty())
+                return std::nullopt;
+            o.file = a;
+            continue;
+        }
+        if (args.isEmpty())
+            return std::nullopt;
+        const QString value = args.takeFirst();
+        if (a == QLatin1String("--header"))
+            o.header = value;
+        else if (a == QLatin1String("--footer"))
+            o.footer = value;
+        else if (a == QLatin1String("--pdf"))
+            o.pdf = value;
+        else if (a == QLatin1String("--page") && ParseSize(value))
+            o.page = *ParseSize(value);
+        else if (a == QLatin1String("--shift-mm") && ParsePair(value, u',', 1000))
+            o.shift = *ParsePair(value, u',', 1000);
+        else
+            return std::nullopt;
+    }
+    if (o.file.isEmpty() || o.text == !o.pdf.isEmpty())
+        return std::nullopt;
+    return o;
+}
+
+std::optional<QString> ReadOptionalFile(CliContext& context, const QString& path)
+{
+    return path.isEmpty() ? std::optional<QString>(QString()) : ReadQtfFile(context, path);
+}
+
+int TemplateCheck(CliContext& context, const QString& dir)
+{
+    const InvoiceTemplate t = LoadTemplateDir(dir);
+    const auto line = [&](const char* text, const QString& value) {
+        *context.out << FillArgs(QCoreApplication::translate("DocumentCommands", text), {value})
+                     << Qt::endl;
+    };
+    line(QT_TRANSLATE_NOOP("DocumentCommands", "Computed digest: %s"), t.computeDigest());
+    line(QT_TRANSLATE_NOOP("DocumentCommands", "Digest in invoice.cfg: %s"), t.digest());
+    *context.out << (t.certified()
+                         ? QCoreApplication::translate("DocumentCommands", "Certified: yes")
+                         : QCoreApplication::translate("DocumentCommands", "Certified: no"))
+                 << Qt::endl;
+    return t.certified() ? ExitOk : ExitFailure;
+}
+
+int TemplateInstall(CliContext& context, const QString& dir)
+{
+    if (context.dbPath.isEmpty() || !QFileInfo::exists(context.dbPath)) {
+        PrintMessage(context,
+                     QCoreApplication::translate(
+                         "DocumentCommands", "Give an existing company database with --db FILE."));
+        return ExitUsage;
+    }
+    // Opened and prepared as at start-up (an older company gets its upgrades first); what goes
+    // wrong is shown through the interaction.
+    if (!OpenCompany(context.dbPath, *context.interaction))
+        return ExitFailure;
+    const InvoiceTemplate t = LoadTemplateDir(dir);
+    SqlTransaction transaction;
+    Result r = SaveTemplateToSetup(t);
+    if (r) {
+        r = Setup::write(
+            {{QStringLiteral("SETUP_INVOICE_CURR_TMPL_DIR"), QFileInfo(dir).absoluteFilePath()}});
+    }
+    if (!r || !transaction.commit()) {
+        PrintMessage(context,
+                     r ? QCoreApplication::translate("DocumentCommands", "Unable to save data.")
+                       : r.message());
+        return ExitFailure;
+    }
+    if (!t.certified())
+        PrintMessage(context, QCoreApplication::translate(
+                                  "DocumentCommands",
+                                  "The template is installed, but it is not certified: invoices "
+                                  "can't be printed with it."));
+    return ExitOk;
+}
+
+} // namespace
+
+int RunQtfCommand(CliContext& context, const QStringList& args)
+{
+    const std::optional<QtfOptions> o = ParseQtfOptions(args);
+    if (!o) {
+        *context.err << "usage: qtf FILE [--header FILE] [--footer FILE] [--page WxH] "
+                        "[--shift-mm X,Y] --pdf OUT | --text"
+                     << Qt::endl;
+        return ExitUsage;
+    }
+    const auto body = ReadQtfFile(context, o->file);
+    const auto header = ReadOptionalFile(context, o->header);
+    const auto footer = ReadOptionalFile(context, o->footer);
+    if (!body || !header || !footer)
+        return ExitFailure;
+    if (o->text) {
+        *context.out << QtfToPlainText(*body) << Qt::endl;
+        return ExitOk;
+    }
+    Report report;
+    report.setPageSize(o->page);
+    report.setShift(o->shift);
+    report.setHeader(*header);
+    report.setFooter(*footer);
+    report.setBody(*body);
+    const Result r = report.exportPdf(o->pdf, QFileInfo(o->file).completeBaseName());
+    if (!r) {
+        PrintMessage(context, r.message());
+        return ExitFailure;
+    }
+    return ExitOk;
+}
+
+int RunTemplateCommand(CliContext& context, const QStringList& args)
+{
+    if (args.size() != 2 ||
+        (args[0] != QLatin1String("check") && args[0] != QLatin1String("install"))) {
+        *context.err << "usage: template check DIR | template install DIR" << Qt::endl;
+        return ExitUsage;
+    }
+    if (!QFileInfo(args[1]).isDir()) {
+        PrintMessage(context,
+                     FillArgs(QCoreApplication::translate("DocumentCommands",
+                                                          "Template directory %s does not exist."),
+                              {QtfEscape(args[1])}));
+        return ExitFailure;
+    }
+    return args[0] == QLatin1String("check") ? TemplateCheck(context, args[1])
+                                             : TemplateInstall(context, args[1]);
+}

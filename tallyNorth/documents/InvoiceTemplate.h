@@ -1,0 +1,70 @@
+// An invoice template: fourteen QTF pieces filled from an order, kept in a template directory
+// (one file each and "invoice.cfg" with the digest) and, once chosen, in the settings record.
+#pragma once
+
+#include "TemplateText.h"
+
+#include "app/Result.h"
+
+#include <QString>
+
+#include <array>
+
+class Setup;
+
+class InvoiceTemplate
+{
+public:
+    enum class Piece {
+        Header,
+        ItemHeader,
+        ItemHeaderDiscount,
+        Footer,
+        Body,
+        Item1,
+        Item1Discount,
+        Item2,
+        VatDetail,
+        VatDetailHeader,
+        Signings,
+        ConsolidatedHeader,
+        ConsolidatedFooter,
+        Rate,
+    };
+    static constexpr int kPieces = 14;
+
+    static const char* fileName(Piece piece);
+    static const char* setupColumn(Piece piece);
+
+    const QString& text(Piece piece) const { return m_texts[int(piece)]; }
+    void setText(Piece piece, const QString& qtf);
+    const TemplateText& parsed(Piece piece) const { return m_parsed[int(piece)]; }
+
+    // The digest the set came with ("Digest" of invoice.cfg, SETUP_INVOICE_DIGEST).
+    const QString& digest() const { return m_digest; }
+    void setDigest(const QString& digest);
+    // MD5 of the pieces in their fixed order and the salt, 32 upper-case hex digits.
+    QString computeDigest() const;
+    // The stored digest matches the pieces: only such a template may print invoices.
+    bool certified() const { return m_certified; }
+
+private:
+    void update(Piece piece);
+
+    std::array<QString, kPieces> m_texts;
+    std::array<TemplateText, kPieces> m_parsed;
+    QString m_digest;
+    bool m_certified = false;
+};
+
+// Reads the fourteen files of a template directory (a missing file gives an empty piece) and
+// the digest of its "invoice.cfg".
+InvoiceTemplate LoadTemplateDir(const QString& directory);
+// Writes the pieces and the digest into SETUP in one statement.
+Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate);
+InvoiceTemplate LoadTemplateFromSetup(const Setup& setup);
+// From the settings of the open company.
+InvoiceTemplate LoadTemplateFromSetup();
+
+// The value of key in a "key=value" configuration file, empty when missing.
+QString ReadConfigValue(const QString& path, const QString& key);

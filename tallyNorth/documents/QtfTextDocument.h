@@ -1,0 +1,45 @@
+// QTF as Qt rich text: a QTextDocument for painting pages or showing on screen.
+#pragma once
+
+#include "QtfDocument.h"
+
+#include <QRectF>
+#include <QTextFormat>
+
+#include <memory>
+
+class QPainter;
+class QTextDocument;
+
+// Layout units of the built document. Dots lay a page out at 600 units per inch with font sizes
+// in pixels (a 100-dot font is 12 pt on paper); Screen uses the screen's pixels and points.
+enum class QtfUnits { Dots, Screen };
+
+struct QtfLayout
+{
+    QtfUnits units = QtfUnits::Screen;
+    int width = 3968;   // text width in dots; also places tab stops measured from the right edge
+    int pageNumber = 0; // values of the page-number fields; 0 leaves them empty
+    int pageCount = 0;
+};
+
+// Format properties the builder leaves for painting and paging.
+namespace QtfProperty {
+enum : int {
+    Ruler =
+        QTextFormat::UserProperty + 0x5100, // QVariantList: height, colour, style, before, width
+    Leaders,  // QVariantList of QPointF(stop position, fill character)
+    Filler,   // a block Qt needs around a table, without content or height
+    Keep,     // keep the paragraph or table on one page
+    KeepNext, // keep the paragraph on the page of the next one
+};
+}
+
+double QtfUnitsPerDot(QtfUnits units);
+
+std::unique_ptr<QTextDocument> MakeTextDocument(const Qtf::Document& qtf, const QtfLayout& layout);
+std::unique_ptr<QTextDocument> QtfToTextDocument(const QString& qtf, const QtfLayout& layout = {});
+
+// Draws what Qt's own layout leaves out: paragraph rulers and tab leaders. clip is in the
+// document's coordinates.
+void PaintQtfExtras(QPainter& painter, const QTextDocument& document, const QRectF& clip);
