@@ -488,6 +488,45 @@
         </message>
     </context>
     <context>
+        <name>DocumentCommands</name>
+        <message>
+            <source>Unable to read file %s.</source>
+            <translation>Nem sikerült a(z) %s fájlt beolvasni.</translation>
+        </message>
+        <message>
+            <source>Computed digest: %s</source>
+            <translation>Számított ellenőrzőkód: %s</translation>
+        </message>
+        <message>
+            <source>Digest in invoice.cfg: %s</source>
+            <translation>Ellenőrzőkód az invoice.cfg fájlban: %s</translation>
+        </message>
+        <message>
+            <source>Certified: yes</source>
+            <translation>Hitelesített: igen</translation>
+        </message>
+        <message>
+            <source>Certified: no</source>
+            <translation>Hitelesített: nem</translation>
+        </message>
+        <message>
+            <source>Give an existing company database with --db FILE.</source>
+            <translation>Adjon meg egy létező cégadatbázist a --db FÁJL kapcsolóval.</translation>
+        </message>
+        <message>
+            <source>Unable to save data.</source>
+            <translation>Nem sikerült az adatokat menteni.</translation>
+        </message>
+        <message>
+            <source>The template is installed, but it is not certified: invoices can't be printed with it.</source>
+            <translation>A sablon telepítése megtörtént, de nem hitelesített: számlát nem lehet vele nyomtatni.</translation>
+        </message>
+        <message>
+            <source>Template directory %s does not exist.</source>
+            <translation>A(z) %s sablonkönyvtár nem létezik.</translation>
+        </message>
+    </context>
+    <context>
         <name>FileCommands</name>
         <message>
             <source>Database backup files (*.dbk)</source>
@@ -1503,6 +1542,24 @@
         <message>
             <source>Help</source>
             <translation>Súgó</translation>
+        </message>
+    </context>
+    <context>
+        <name>Report</name>
+        <message>
+            <source>Unable to start printing.</source>
+            <translation>Nem sikerült elindítani a nyomtatást.</translation>
+        </message>
+        <message>
+            <source>Unable to write file %s.</source>
+            <translation>Nem sikerült a(z) %s fájlt írni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ReportPrinter</name>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
         </message>
     </context>
     <context>
