@@ -10,7 +10,11 @@
 #include "app/ProgramInfo.h"
 #include "documents/MessageText.h"
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
+
+#include <unistd.h>
 
 #include <cstring>
 #include <iterator>
@@ -74,6 +78,16 @@ int main(int argc, char* argv[])
     // Documents are rendered with QtGui; no window is ever shown.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a desktop session Qt warns on every run that it picks a runtime folder itself;
+    // pick it here, quietly, so standard error carries only the program's messages.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-"
+            + QByteArray::number(qulonglong(getuid()));
+        if (QDir().mkpath(QString::fromLocal8Bit(dir)))
+            QFile::setPermissions(QString::fromLocal8Bit(dir),
+                                  QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", dir);
+    }
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyNorth"));
     QCoreApplication::setApplicationVersion(ProgramVersion());
