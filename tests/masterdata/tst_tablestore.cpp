@@ -1,9 +1,11 @@
-// The master-data stores against a real company database.
+// The master-data stores and product prices against a real company database.
 #include "TestCompany.h"
 
 #include "Columns.h"
+#include "app/Setup.h"
 #include "app/SqlStatement.h"
 #include "masterdata/MasterTables.h"
+#include "masterdata/ProductPrices.h"
 
 #include <QtTest>
 
@@ -40,11 +42,7 @@ class TestTableStore : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_company = std::make_unique<TestCompany>();
-        QVERIFY(m_company->isValid());
-    }
+    void init() { QVERIFY(m_company.emplace().isValid()); }
     void cleanup() { m_company.reset(); }
 
     void uniqueCodeClashFails_data()
@@ -88,34 +86,6 @@ private Q_SLOTS:
         QVERIFY(store->save(row, other));
         row.insert(codeColumn, "QQ");
         QCOMPARE(store->save(row, other).message(), "Unable to save data.");
-    }
-
-    // The first empty required field is named, blanks count as empty, and nothing is written.
-    void requiredFieldNamesTheField_data()
-    {
-        QTest::addColumn<const TableStore*>("store");
-        QTest::addColumn<Record>("row");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("second of two")
-            << &VatStore() << Record{{VAT_NAME, "5%"}} << "VAT Percent field must have a value.";
-        QTest::newRow("blank text")
-            << &CurrencyStore()
-            << Record{{CURRENCY_NAME, "Frank"}, {CURRENCY_ABBREVIATION, "  "}, {CURRENCY_RATE, 1}}
-            << "Currency Abbreviation field must have a value.";
-        // The mail name is copied from the name only while the mail address is the same.
-        QTest::newRow("partner mail name")
-            << &PartnerStore() << Record{{PARTNER_NAME, "Kovács"}, {PARTNER_MAIL_IS_SAME, "0"}}
-            << "A partner levelezesi cimehez tartozo nevet meg kell adni.";
-    }
-
-    void requiredFieldNamesTheField()
-    {
-        QFETCH(const TableStore*, store);
-        QFETCH(Record, row);
-        QFETCH(QString, message);
-        const qint64 before = RowCount(*store);
-        QCOMPARE(Insert(*store, row).message(), message);
-        QCOMPARE(RowCount(*store), before);
     }
 
     void homeRowsAreNotDeleted()
@@ -169,8 +139,6 @@ private Q_SLOTS:
         QFETCH(QStringList, found);
         for (const char* name : {"Árvíztűrő Kft.", "50% Bt.", "5000 Kft.", "Zala Bt."})
             QVERIFY(Insert(PartnerStore(), Partner(QString::fromUtf8(name))));
-        QCOMPARE(Count("select count(*) from PARTNER where PARTNER_NAME_ASCII = 'ARVIZTURO KFT.'"),
-                 1);
         RecordPage page;
         QVERIFY(PartnerStore().list(page, {search, 0}));
         QStringList names;
@@ -217,70 +185,90 @@ private Q_SLOTS:
 
     void currencyRoundingCappedByPrinting()
     {
-        Record row{{CURRENCY_NAME, "Svájci frank"},
-                   {CURRENCY_ABBREVIATION, "CHF"},
-                   {CURRENCY_RATE, 400.5},
-                   {CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, 3},
-                   {CURRENCY_LINE_TOTAL_PRINTING_DECIMALS, 1},
-                   {CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS, 0},
-                   {CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS, 2}};
-        std::optional<qint64> id;
-        QVERIFY(CurrencyStore().save(row, id));
+        Record euro;
+        QVERIFY(CurrencyStore().read(1, euro));
+        euro.insert(CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, 3);
+        euro.insert(CURRENCY_LINE_TOTAL_PRINTING_DECIMALS, 1);
+        euro.insert(CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS, 0); // below its printing: kept
+        std::optional<qint64> id = 1;
+        QVERIFY(CurrencyStore().save(euro, id));
         QCOMPARE(SelectValue("select CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS || '/' || "
                              "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS from CURRENCYY "
-                             "where CURRENCY_ID = ?",
-                             {*id})
+                             "where CURRENCY_ID = 1")
                      .toString(),
                  "1/0");
     }
 
+    // Saving without child lists leaves the translations alone; with them, replaces them. A
+    // failing translation write takes its row back with it.
     void translationsWrittenAndDeletedWithTheirRow()
     {
         const TableStore& store = PaymentMethodStore();
-        const auto stored = [](qint64 id) {
-            return Count("select count(*) from PAYMENTMETHODTRANSLATION where "
-                         "PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID = ?",
-                         {id});
-        };
-        Record row{{PAYMENTMETHOD_NAME, "Utánvét"}, {PAYMENTMETHOD_CODE, "UV"}};
-        const QList<Record> translations{{{PAYMENTMETHODTRANSLATION_LANG_ID, 1},
-                                          {PAYMENTMETHODTRANSLATION_NAME, "Cash on delivery"}},
-                                         {{PAYMENTMETHODTRANSLATION_LANG_ID, 2},
-                                          {PAYMENTMETHODTRANSLATION_NAME, ""},
-                                          {PAYMENTMETHODTRANSLATION_COMMENT, " "}}};
+        const QString stored = "select count(*) from PAYMENTMETHODTRANSLATION where "
+                               "PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID = ?";
+        Record row{{PAYMENTMETHOD_NAME, "Utánvét"}};
+        const QList<Record> english{
+            {{PAYMENTMETHODTRANSLATION_LANG_ID, 1}, {PAYMENTMETHODTRANSLATION_NAME, "COD"}}};
         std::optional<qint64> id;
-        QVERIFY(store.save(row, id, {translations}));
-        QList<Record> read;
-        QVERIFY(store.readChildren(0, *id, read));
-        QCOMPARE(read.size(), 1); // the empty German row is not stored
-        QCOMPARE(read.at(0).value(PAYMENTMETHODTRANSLATION_NAME).toString(), "Cash on delivery");
-        // Saving without child lists leaves the translations alone; saving with them replaces them.
+        QVERIFY(store.save(row, id, {english}));
         QVERIFY(store.save(row, id));
-        QCOMPARE(stored(*id), 1);
+        QCOMPARE(Count(stored, {*id}), 1);
         QVERIFY(store.save(row, id, {{}}));
-        QCOMPARE(stored(*id), 0);
-        QVERIFY(store.save(row, id, {translations}));
+        QCOMPARE(Count(stored, {*id}), 0);
+        QVERIFY(store.save(row, id, {english}));
         QVERIFY(store.remove(*id));
-        QCOMPARE(stored(*id), 0);
+        QCOMPARE(Count(stored, {*id}), 0);
         // The basic data's translations of the other methods are untouched.
         QCOMPARE(Count("select count(*) from PAYMENTMETHODTRANSLATION"), 4);
+
+        QVERIFY(ExecSql("drop table PAYMENTMETHODTRANSLATION"));
+        const qint64 methods = RowCount(store);
+        std::optional<qint64> failed;
+        QCOMPARE(store.save(row, failed, {english}).message(), "Unable to save translation data.");
+        QVERIFY(!failed);
+        QCOMPARE(RowCount(store), methods);
     }
 
-    void failedTranslationWriteLeavesNoRow()
+    void calculatedPrice_data()
     {
-        QVERIFY(ExecSql("drop table NOVATREASONTRANSLATION"));
-        Record row{{NOVATREASON_NAME, "Export"}};
-        std::optional<qint64> id;
-        const QList<Record> texts{
-            {{NOVATREASONTRANSLATION_LANG_ID, 1}, {NOVATREASONTRANSLATION_TEXT, "Export"}}};
-        QCOMPARE(NoVatReasonStore().save(row, id, {texts}).message(),
-                 "Unable to save translation data.");
-        QVERIFY(!id);
-        QCOMPARE(Count("select count(*) from NOVATREASON where NOVATREASON_NAME = 'Export'"), 0);
+        QTest::addColumn<double>("net");
+        QTest::addColumn<double>("rate");
+        QTest::addColumn<int>("decimals");
+        QTest::addColumn<QVariant>("price");
+        QTest::newRow("1000 at 300, 2 decimals") << 1000.0 << 300.0 << 2 << QVariant(3.33);
+        QTest::newRow("half rounds away from zero") << 1005.0 << 10.0 << 0 << QVariant(101.0);
+        QTest::newRow("negative half") << -1005.0 << 10.0 << 0 << QVariant(-101.0);
+        QTest::newRow("zero rate gives none") << 1000.0 << 0.0 << 2 << QVariant();
+        QTest::newRow("negative rate gives none") << 1000.0 << -300.0 << 2 << QVariant();
+    }
+
+    // A product's price in a foreign currency when none is overridden (the overriding is checked
+    // through the product list and finder).
+    void calculatedPrice()
+    {
+        QFETCH(double, net);
+        QFETCH(double, rate);
+        QFETCH(int, decimals);
+        QFETCH(QVariant, price);
+        const std::optional<double> got = CalculatedPrice(net, {1, "Euro", "EUR", rate, decimals});
+        QCOMPARE(got.has_value(), price.isValid());
+        if (got)
+            QCOMPARE(*got, price.toDouble());
+    }
+
+    // The product list's second price column: the default currency of new orders when foreign.
+    void listCurrencyPrefersOrderDefault()
+    {
+        QVERIFY(Setup::current().load());
+        QCOMPARE(ListPriceCurrency(), std::optional<qint64>(1)); // the default is the forint
+        Setup::current().set(SETUP_INVOICE_CURRENCY_ID, 2);
+        QCOMPARE(ListPriceCurrency(), std::optional<qint64>(2));
+        QVERIFY(ExecSql("delete from CURRENCYY where CURRENCY_ID <> 0"));
+        QVERIFY(!ListPriceCurrency());
     }
 
 private:
-    std::unique_ptr<TestCompany> m_company;
+    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestTableStore)

@@ -70,11 +70,7 @@ class TestOrderCalcDatabase : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void cleanup() { m_company.reset(); }
-    void init()
-    {
-        m_company = std::make_unique<TestCompany>();
-        QVERIFY(m_company->isValid());
-    }
+    void init() { QVERIFY(m_company.emplace().isValid()); }
 
     void forintOrderCopiesWithoutRounding_data()
     {
@@ -221,7 +217,7 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<TestCompany> m_company;
+    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestOrderCalcDatabase)
