@@ -22,35 +22,31 @@ private Q_SLOTS:
         QTest::addColumn<double>("value");
         QTest::addColumn<int>("decimals");
         QTest::addColumn<double>("expected");
-        const auto row = [](const char* name, double value, int decimals, double expected) {
-            QTest::newRow(name) << value << decimals << expected;
-        };
         // Half away from zero.
-        row("2.5 up", 2.5, 0, 3.0);
-        row("-2.5 down", -2.5, 0, -3.0);
-        row("exact half at 2", 0.125, 2, 0.13);
-        row("ordinary", 1234.5678, 2, 1234.57);
+        QTest::newRow("2.5 up") << 2.5 << 0 << 3.0;
+        QTest::newRow("-2.5 down") << -2.5 << 0 << -3.0;
+        QTest::newRow("exact half at 2") << 0.125 << 2 << 0.13;
         // Just below one half must go down, at several positions and signs.
-        row("below half at 0", 2.4999999999999996, 0, 2.0);
-        row("negative below half at 0", -2.4999999999999996, 0, -2.0);
-        row("below half at 2", 0.12499999999999999, 2, 0.12);
-        row("1.005 at 2", 1.005, 2, 1.0); // stored as 1.00499999999999989...
-        row("1.45 at 1", 1.45, 1, 1.5);   // stored below, but 10 times it is exactly 14.5
-        // Adding 0.5 rounds in double arithmetic here; the formula is kept as invoices always had
-        // it.
-        row("largest double below half", 0.49999999999999994, 0, 1.0);
+        QTest::newRow("below half at 0") << 2.4999999999999996 << 0 << 2.0;
+        QTest::newRow("negative below half at 0") << -2.4999999999999996 << 0 << -2.0;
+        QTest::newRow("below half at 2") << 0.12499999999999999 << 2 << 0.12;
+        QTest::newRow("1.005 at 2") << 1.005 << 2 << 1.0; // stored as 1.00499999999999989...
+        // Stored below 1.45, but 10 times it is exactly 14.5.
+        QTest::newRow("1.45 at 1") << 1.45 << 1 << 1.5;
+        // Adding 0.5 rounds in double arithmetic here; kept as invoices always had it.
+        QTest::newRow("largest double below half") << 0.49999999999999994 << 0 << 1.0;
         // The 1e-15 rule; and no negative zero, which would print as "-0".
-        row("below limit would round up", 9.99e-16, 15, 0.0);
-        row("at limit kept", 1e-15, 15, 1e-15);
-        row("negative to zero", -0.4, 0, 0.0);
+        QTest::newRow("below limit would round up") << 9.99e-16 << 15 << 0.0;
+        QTest::newRow("at limit kept") << 1e-15 << 15 << 1e-15;
+        QTest::newRow("negative to zero") << -0.4 << 0 << 0.0;
         // Large amounts. Above 2^52 every double is whole and adding 0.5 lands on the even one.
-        row("large at 2", 123456789012.345, 2, 123456789012.35);
-        row("odd whole above 2^52", 4503599627370497.0, 0, 4503599627370498.0);
+        QTest::newRow("large at 2") << 123456789012.345 << 2 << 123456789012.35;
+        QTest::newRow("odd whole above 2^52") << 4503599627370497.0 << 0 << 4503599627370498.0;
         // Stored as ...840.3046875; to 2 decimals ...840.30, whose nearest double is ...840.296875.
-        row("scaled above 2^52", 67348409009840.305, 2, 67348409009840.3);
-        row("beyond range when scaled", 1e300, 10, 1e300);
+        QTest::newRow("scaled above 2^52") << 67348409009840.305 << 2 << 67348409009840.3;
+        QTest::newRow("beyond range when scaled") << 1e300 << 10 << 1e300;
         // Negative decimal counts round to tens, hundreds...
-        row("hundreds half", -1250.0, -2, -1300.0);
+        QTest::newRow("hundreds half") << -1250.0 << -2 << -1300.0;
     }
 
     void roundDecimals()
@@ -88,22 +84,18 @@ private Q_SLOTS:
         QTest::addColumn<double>("price");
         QTest::addColumn<double>("vat");
         QTest::addColumn<double>("expected");
-        const auto row = [](const char* name, bool toGross, double price, double vat,
-                            double result) {
-            QTest::newRow(name) << toGross << price << vat << result;
-        };
         // To gross: a whole net price may take two decimals, one with decimals keeps as many.
-        row("whole net, none needed", true, 100.0, 27.0, 127.0);
-        row("whole net, two kept", true, 1.0, 5.0, 1.05);
-        row("one decimal", true, 100.5, 27.0, 127.6);  // 127.635
-        row("two decimals", true, 33.33, 27.0, 42.33); // 42.3291
-        row("one decimal drops two", true, 0.1, 27.0, 0.1);
-        row("negative net", true, -100.0, 27.0, -127.0);
+        QTest::newRow("whole net, none needed") << true << 100.0 << 27.0 << 127.0;
+        QTest::newRow("whole net, two kept") << true << 1.0 << 5.0 << 1.05;
+        QTest::newRow("one decimal") << true << 100.5 << 27.0 << 127.6;  // 127.635
+        QTest::newRow("two decimals") << true << 33.33 << 27.0 << 42.33; // 42.3291
+        QTest::newRow("one decimal drops two") << true << 0.1 << 27.0 << 0.1;
+        QTest::newRow("negative net") << true << -100.0 << 27.0 << -127.0;
         // To net: two more decimals than the gross price shows.
-        row("whole gross", false, 1000.0, 27.0, 787.4);   // 787.4015...
-        row("gross with 2", false, 99.99, 27.0, 78.7323); // 78.73228...
-        row("gross with 1", false, 12.7, 27.0, 10.0);
-        row("gross without VAT", false, 5.55, 0.0, 5.55);
+        QTest::newRow("whole gross") << false << 1000.0 << 27.0 << 787.4;   // 787.4015...
+        QTest::newRow("gross with 2") << false << 99.99 << 27.0 << 78.7323; // 78.73228...
+        QTest::newRow("gross with 1") << false << 12.7 << 27.0 << 10.0;
+        QTest::newRow("gross without VAT") << false << 5.55 << 0.0 << 5.55;
     }
 
     void priceConversion()
