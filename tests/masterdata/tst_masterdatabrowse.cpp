@@ -35,11 +35,6 @@ QStringList ColumnTexts(const QAbstractItemModel* model, int column)
     return texts;
 }
 
-QString Text(const QString& sql, const QVariantList& binds)
-{
-    return SelectValue(sql, binds).toString();
-}
-
 } // namespace
 
 class TestMasterDataBrowse : public QObject
@@ -141,9 +136,10 @@ private Q_SLOTS:
         dlg.accept();
         QVERIFY2(dlg.id(), qPrintable(m_ui.lastMessage()));
         // No code typed: NULL, so that the unique index lets many partners lack one.
-        QCOMPARE(Text("select PARTNER_MAIL_NAME || '/' || PARTNER_LANG_ID || '/' || "
-                      "ifnull(PARTNER_CODE, 'NULL') from PARTNER where PARTNER_ID = ?",
-                      {*dlg.id()}),
+        QCOMPARE(SelectValue("select PARTNER_MAIL_NAME || '/' || PARTNER_LANG_ID || '/' || "
+                             "ifnull(PARTNER_CODE, 'NULL') from PARTNER where PARTNER_ID = ?",
+                             {*dlg.id()})
+                     .toString(),
                  "Árvíztűrő Kft./2/NULL");
     }
 
@@ -193,12 +189,14 @@ private Q_SLOTS:
             MasterBrowseInfo(MasterTable::PaymentMethod).edit(nullptr, std::nullopt, {});
         QVERIFY(id);
         QCOMPARE(languages, "Angol/Német");
-        QCOMPARE(Text("select group_concat(PAYMENTMETHODTRANSLATION_LANG_ID || ':' || "
-                      "PAYMENTMETHODTRANSLATION_NAME || ':' || PAYMENTMETHODTRANSLATION_COMMENT) "
-                      "from PAYMENTMETHODTRANSLATION "
-                      "where PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID = ?",
-                      {*id}),
-                 "1:Cash on delivery:Pay the courier");
+        QCOMPARE(
+            SelectValue(
+                "select group_concat(PAYMENTMETHODTRANSLATION_LANG_ID || ':' || "
+                "PAYMENTMETHODTRANSLATION_NAME || ':' || PAYMENTMETHODTRANSLATION_COMMENT) "
+                "from PAYMENTMETHODTRANSLATION where PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID = ?",
+                {*id})
+                .toString(),
+            "1:Cash on delivery:Pay the courier");
     }
 
     void netAndGrossPriceKeptInStep()

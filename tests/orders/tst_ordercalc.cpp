@@ -114,17 +114,14 @@ private Q_SLOTS:
         QTest::addColumn<int>("type");
         QTest::addColumn<int>("decimals");
         QTest::addColumn<std::optional<double>>("price");
-        const auto row = [](const char* name, double list, double percent, int type, int decimals,
-                            std::optional<double> price) {
-            QTest::newRow(name) << list << percent << type << decimals << price;
-        };
-        row("percent, whole", 999.0, 15.0, 1, 0, 849.0);       // 849.15
-        row("percent, two decimals", 10.99, 33.3, 1, 2, 7.33); // 7.33033
-        row("percent, negative list price", -999.0, 15.0, 1, 0, -849.0);
+        // 849.15 and 7.33033 rounded to the unit-price decimals.
+        QTest::newRow("percent, whole") << 999.0 << 15.0 << 1 << 0 << std::optional(849.0);
+        QTest::newRow("percent, two decimals") << 10.99 << 33.3 << 1 << 2 << std::optional(7.33);
+        QTest::newRow("negative list price") << -999.0 << 15.0 << 1 << 0 << std::optional(-849.0);
         // Type 0 keeps the price unrounded, percent included: 999 - 149.85 as doubles.
-        row("no discount type", 999.0, 15.0, 0, 0, 849.15);
+        QTest::newRow("no discount type") << 999.0 << 15.0 << 0 << 0 << std::optional(849.15);
         // The price the user typed stays, whatever the percent says.
-        row("entered price", 999.0, 15.0, 2, 0, std::nullopt);
+        QTest::newRow("entered price") << 999.0 << 15.0 << 2 << 0 << std::optional<double>();
     }
 
     void discountedPrice()
