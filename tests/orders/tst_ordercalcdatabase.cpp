@@ -2,17 +2,16 @@
 // at issue time and the VAT summary.
 #include "TestCompany.h"
 
+#include "Columns.h"
 #include "app/SqlStatement.h"
 #include "app/SqlTransaction.h"
 #include "orders/OrderCalc.h"
 
 #include <QtTest>
 
-#include <cmath>
-
 namespace {
 
-using Amounts = QList<double>; // net, VAT, gross; NaN for NULL
+using Amounts = QList<double>; // net, VAT, gross
 
 qint64 Insert(const QString& sql, const QVariantList& binds)
 {
@@ -41,35 +40,22 @@ qint64 InsertItem(qint64 orderId, const Amounts& t, const QVariant& vatId = {},
                   {orderId, vatId, vatName, vatPercent, vatName.left(2), t[0], t[1], t[2]});
 }
 
-// The local-currency totals of an ORDERHEAD or ORDERITEM row.
-Amounts Local(const QString& table, qint64 id)
+// The local-currency totals of an ORDERHEAD or ORDERITEM row; NULLs are left out.
+Amounts Local(const char* table, qint64 id)
 {
     SqlStatement st(
         QStringLiteral("select %1_TOTAL_LOCAL_CURRENCY_NET, %1_TOTAL_LOCAL_CURRENCY_VAT, "
                        "%1_TOTAL_LOCAL_CURRENCY_GROSS from %1 where %1_ID = ?")
-            .arg(table),
+            .arg(QLatin1String(table)),
         {id});
     Amounts out;
     if (st.exec() && st.next()) {
-        for (int i = 0; i < 3; ++i)
-            out << (st.value(i).isNull() ? std::nan("") : st.value(i).toDouble());
+        for (int i = 0; i < 3; ++i) {
+            if (!st.value(i).isNull())
+                out << st.value(i).toDouble();
+        }
     }
     return out;
-}
-
-Amounts OrderLocal(qint64 id)
-{
-    return Local(QStringLiteral("ORDERHEAD"), id);
-}
-
-Amounts ItemLocal(qint64 id)
-{
-    return Local(QStringLiteral("ORDERITEM"), id);
-}
-
-bool IsNull(const Amounts& a)
-{
-    return a.size() == 3 && std::isnan(a[0]) && std::isnan(a[1]) && std::isnan(a[2]);
 }
 
 } // namespace
@@ -78,167 +64,156 @@ class TestOrderCalcDatabase : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
+    void init() { QVERIFY(m_company.emplace().isValid()); }
     void cleanup() { m_company.reset(); }
-    void forintOrderCopiesWithoutRounding_data();
-    void forintOrderCopiesWithoutRounding();
-    void foreignOrderConvertsItemsAndOrderSeparately_data();
-    void foreignOrderConvertsItemsAndOrderSeparately();
-    void failuresWriteNothing();
-    void joinsTheCallersTransaction();
-    void vatDetailOfOneOrder();
+
+    void forintOrderCopiesWithoutRounding_data()
+    {
+        QTest::addColumn<QVariant>("currencyId");
+        QTest::newRow("currency 0") << QVariant(0);
+        QTest::newRow("no currency") << QVariant();
+    }
+
+    void forintOrderCopiesWithoutRounding()
+    {
+        QFETCH(QVariant, currencyId);
+        // The forint's own decimals (1 and 0) must not touch the copies; nor may a stray rate.
+        const qint64 order = InsertOrder(currencyId, 300.0, {1010.55, 272.85, 1283.4});
+        const qint64 first = InsertItem(order, {1000.55, 270.15, 1270.7});
+        const qint64 second = InsertItem(order, {10, 2.7, 12.7});
+        const qint64 otherOrder = InsertOrder(0, 1.0, {5, 0, 5});
+        const qint64 otherItem = InsertItem(otherOrder, {5, 0, 5});
+
+        QVERIFY(CalcLocalCurrencyTotals(order));
+        QCOMPARE(Local(Tbl::ORDERHEAD, order), (Amounts{1010.55, 272.85, 1283.4}));
+        QCOMPARE(Local(Tbl::ORDERITEM, first), (Amounts{1000.55, 270.15, 1270.7}));
+        QCOMPARE(Local(Tbl::ORDERITEM, second), (Amounts{10, 2.7, 12.7}));
+        QCOMPARE(Local(Tbl::ORDERHEAD, otherOrder), Amounts());         // NULL
+        QCOMPARE(Local(Tbl::ORDERITEM, otherItem), (Amounts{0, 0, 0})); // the columns' default
+    }
+
+    void foreignOrderConvertsItemsAndOrderSeparately_data()
+    {
+        QTest::addColumn<int>("lineDecimals");
+        QTest::addColumn<int>("invoiceDecimals");
+        QTest::addColumn<Amounts>("firstItem");
+        QTest::addColumn<Amounts>("secondItem");
+        QTest::addColumn<Amounts>("order");
+        // Items 10.25 / 2.77 / 13.02 and 3.33 / 0.90 / 4.23 EUR, order 13.58 / 3.67 / 17.25 EUR at
+        // 385.5 Ft. Products: 3951.375, 1067.835, 5019.21; 1283.71499..., 346.94999...,
+        // 1630.665...; 5235.09, 1414.785, 6649.875. Shipped forint settings: lines to 1 decimal,
+        // totals whole. 346.94999... times 10 is exactly 3469.5 in doubles, so it rounds up. The
+        // order's 6650 is not the items' 6649.9.
+        QTest::newRow("lines 1, totals 0")
+            << 1 << 0 << Amounts{3951.4, 1067.8, 5019.2} << Amounts{1283.7, 347, 1630.7}
+            << Amounts{5235, 1415, 6650};
+        // The other way round, to tell the two settings apart.
+        QTest::newRow("lines 0, totals 2")
+            << 0 << 2 << Amounts{3951, 1068, 5019} << Amounts{1284, 347, 1631}
+            << Amounts{5235.09, 1414.79, 6649.88};
+    }
+
+    void foreignOrderConvertsItemsAndOrderSeparately()
+    {
+        QFETCH(int, lineDecimals);
+        QFETCH(int, invoiceDecimals);
+        QFETCH(Amounts, firstItem);
+        QFETCH(Amounts, secondItem);
+        QFETCH(Amounts, order);
+        QVERIFY(ExecSql(
+            QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
+                           "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS = ? "
+                           "where CURRENCY_ID = 0"),
+            {lineDecimals, invoiceDecimals}));
+        const qint64 id = InsertOrder(1, 385.5, {13.58, 3.67, 17.25});
+        const qint64 first = InsertItem(id, {10.25, 2.77, 13.02});
+        const qint64 second = InsertItem(id, {3.33, 0.9, 4.23});
+
+        QVERIFY(CalcLocalCurrencyTotals(id));
+        QCOMPARE(Local(Tbl::ORDERITEM, first), firstItem);
+        QCOMPARE(Local(Tbl::ORDERITEM, second), secondItem);
+        QCOMPARE(Local(Tbl::ORDERHEAD, id), order);
+    }
+
+    void failuresWriteNothing()
+    {
+        QVERIFY(!CalcLocalCurrencyTotals(4711));
+
+        const qint64 id = InsertOrder(1, 385.5, {13.58, 3.67, 17.25});
+        const qint64 item = InsertItem(id, {10.25, 2.77, 13.02});
+        // The items are written before the order: a failing order update must take them back.
+        QVERIFY(ExecSql(QStringLiteral("create trigger BLOCK_ORDER before update on ORDERHEAD "
+                                       "begin select raise(abort, 'blocked'); end")));
+        const Result blocked = CalcLocalCurrencyTotals(id);
+        QVERIFY2(blocked.sqlError().contains(QLatin1String("blocked")),
+                 qPrintable(blocked.sqlError()));
+        QCOMPARE(Local(Tbl::ORDERITEM, item), (Amounts{0, 0, 0}));
+        QVERIFY(ExecSql(QStringLiteral("drop trigger BLOCK_ORDER")));
+
+        // Without the forint row a foreign order cannot be converted; a forint order needs none.
+        QVERIFY(ExecSql(QStringLiteral("delete from CURRENCYY where CURRENCY_ID = 0")));
+        const Result missing = CalcLocalCurrencyTotals(id);
+        QVERIFY(!missing);
+        QVERIFY(!missing.message().isEmpty());
+        QCOMPARE(Local(Tbl::ORDERHEAD, id), Amounts()); // NULL
+        const qint64 forint = InsertOrder(0, 1.0, {100, 27, 127});
+        QVERIFY(CalcLocalCurrencyTotals(forint));
+        QCOMPARE(Local(Tbl::ORDERHEAD, forint), (Amounts{100, 27, 127}));
+    }
+
+    void joinsTheCallersTransaction()
+    {
+        const qint64 id = InsertOrder(1, 400.0, {10, 2.7, 12.7});
+        {
+            // Issuing may hold a transaction around the whole issue; its rollback takes this back.
+            SqlTransaction issue;
+            QVERIFY(issue.active());
+            QVERIFY(CalcLocalCurrencyTotals(id));
+            QCOMPARE(Local(Tbl::ORDERHEAD, id), (Amounts{4000, 1080, 5080}));
+        }
+        QCOMPARE(Local(Tbl::ORDERHEAD, id), Amounts()); // NULL
+
+        // On its own it commits and leaves no transaction open behind it.
+        QVERIFY(CalcLocalCurrencyTotals(id));
+        SqlTransaction next;
+        QVERIFY(next.active());
+        next.rollback();
+        QCOMPARE(Local(Tbl::ORDERHEAD, id), (Amounts{4000, 1080, 5080}));
+    }
+
+    void vatDetailOfOneOrder()
+    {
+        const qint64 id = InsertOrder(0, 1.0, {0, 0, 0});
+        const qint64 other = InsertOrder(0, 1.0, {0, 0, 0});
+        InsertItem(id, {1000, 50, 1050}, 3, QStringLiteral("5%"), 5);
+        InsertItem(other, {999, 269.73, 1268.73}, 1, QStringLiteral("27%"), 27);
+        InsertItem(id, {100.1, 27.03, 127.13}, 1, QStringLiteral("27%"), 27);
+        InsertItem(id, {40, 0, 40}, QVariant(), QStringLiteral("AAM"));
+        InsertItem(id, {-200, -10, -210}, 3, QStringLiteral("5% new name"), 5);
+        InsertItem(id, {0.2, 0.05, 0.25}, 1, QStringLiteral("27%"), 27);
+
+        QList<VatDetail> groups;
+        QVERIFY(LoadVatDetail(id, groups));
+        // By VAT key in the order the items were entered, named by the first item of each; the
+        // other order's item stays out; sums as they come (10.1 + 0.2 is not 10.3 in doubles).
+        QCOMPARE(groups.size(), 3);
+        const auto sums = [](const VatDetail& g) {
+            return Amounts{g.totals.net, g.totals.vat, g.totals.gross};
+        };
+        QCOMPARE(groups[0].vatId, std::optional<qint64>(3));
+        QCOMPARE(groups[0].name, QStringLiteral("5%"));
+        QCOMPARE(groups[0].code, QStringLiteral("5%"));
+        QCOMPARE(groups[0].percent, 5.0);
+        QCOMPARE(sums(groups[0]), (Amounts{800, 40, 840}));
+        QCOMPARE(groups[1].vatId, std::optional<qint64>(1));
+        QCOMPARE(sums(groups[1]), (Amounts{100.1 + 0.2, 27.03 + 0.05, 127.13 + 0.25}));
+        QVERIFY(!groups[2].vatId.has_value());
+        QCOMPARE(sums(groups[2]), (Amounts{40, 0, 40}));
+    }
 
 private:
-    std::unique_ptr<TestCompany> m_company;
+    std::optional<TestCompany> m_company;
 };
-
-void TestOrderCalcDatabase::init()
-{
-    m_company = std::make_unique<TestCompany>();
-    QVERIFY(m_company->isValid());
-}
-
-void TestOrderCalcDatabase::forintOrderCopiesWithoutRounding_data()
-{
-    QTest::addColumn<QVariant>("currencyId");
-    QTest::newRow("currency 0") << QVariant(0);
-    QTest::newRow("no currency") << QVariant();
-}
-
-void TestOrderCalcDatabase::forintOrderCopiesWithoutRounding()
-{
-    QFETCH(QVariant, currencyId);
-    // The forint's own decimals (1 and 0) must not touch the copies; nor may a stray rate.
-    const qint64 order = InsertOrder(currencyId, 300.0, {1010.55, 272.85, 1283.4});
-    const qint64 first = InsertItem(order, {1000.55, 270.15, 1270.7});
-    const qint64 second = InsertItem(order, {10, 2.7, 12.7});
-    const qint64 otherOrder = InsertOrder(0, 1.0, {5, 0, 5});
-    const qint64 otherItem = InsertItem(otherOrder, {5, 0, 5});
-
-    QVERIFY(CalcLocalCurrencyTotals(order));
-    QCOMPARE(OrderLocal(order), (Amounts{1010.55, 272.85, 1283.4}));
-    QCOMPARE(ItemLocal(first), (Amounts{1000.55, 270.15, 1270.7}));
-    QCOMPARE(ItemLocal(second), (Amounts{10, 2.7, 12.7}));
-    QVERIFY(IsNull(OrderLocal(otherOrder)));
-    QCOMPARE(ItemLocal(otherItem), (Amounts{0, 0, 0})); // the columns' default
-}
-
-void TestOrderCalcDatabase::foreignOrderConvertsItemsAndOrderSeparately_data()
-{
-    QTest::addColumn<int>("lineDecimals");
-    QTest::addColumn<int>("invoiceDecimals");
-    QTest::addColumn<Amounts>("firstItem");
-    QTest::addColumn<Amounts>("secondItem");
-    QTest::addColumn<Amounts>("order");
-    // Items 10.25 / 2.77 / 13.02 and 3.33 / 0.90 / 4.23 EUR, order 13.58 / 3.67 / 17.25 EUR at
-    // 385.5 Ft. Products: 3951.375, 1067.835, 5019.21; 1283.71499..., 346.94999..., 1630.665...;
-    // 5235.09, 1414.785, 6649.875.
-    // Shipped forint settings: lines to 1 decimal, totals whole. 346.94999... times 10 is
-    // exactly 3469.5 in doubles, so it rounds up. The order's 6650 is not the items' 6649.9.
-    QTest::newRow("lines 1, totals 0") << 1 << 0 << Amounts{3951.4, 1067.8, 5019.2}
-                                       << Amounts{1283.7, 347, 1630.7} << Amounts{5235, 1415, 6650};
-    // The other way round, to tell the two settings apart.
-    QTest::newRow("lines 0, totals 2")
-        << 0 << 2 << Amounts{3951, 1068, 5019} << Amounts{1284, 347, 1631}
-        << Amounts{5235.09, 1414.79, 6649.88};
-}
-
-void TestOrderCalcDatabase::foreignOrderConvertsItemsAndOrderSeparately()
-{
-    QFETCH(int, lineDecimals);
-    QFETCH(int, invoiceDecimals);
-    QFETCH(Amounts, firstItem);
-    QFETCH(Amounts, secondItem);
-    QFETCH(Amounts, order);
-    QVERIFY(
-        ExecSql(QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
-                               "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS = ? "
-                               "where CURRENCY_ID = 0"),
-                {lineDecimals, invoiceDecimals}));
-    const qint64 id = InsertOrder(1, 385.5, {13.58, 3.67, 17.25});
-    const qint64 first = InsertItem(id, {10.25, 2.77, 13.02});
-    const qint64 second = InsertItem(id, {3.33, 0.9, 4.23});
-
-    QVERIFY(CalcLocalCurrencyTotals(id));
-    QCOMPARE(ItemLocal(first), firstItem);
-    QCOMPARE(ItemLocal(second), secondItem);
-    QCOMPARE(OrderLocal(id), order);
-}
-
-void TestOrderCalcDatabase::failuresWriteNothing()
-{
-    QVERIFY(!CalcLocalCurrencyTotals(4711));
-
-    const qint64 id = InsertOrder(1, 385.5, {13.58, 3.67, 17.25});
-    const qint64 item = InsertItem(id, {10.25, 2.77, 13.02});
-    // The items are written before the order: a failing order update must take them back.
-    QVERIFY(ExecSql(QStringLiteral("create trigger BLOCK_ORDER before update on ORDERHEAD "
-                                   "begin select raise(abort, 'blocked'); end")));
-    const Result blocked = CalcLocalCurrencyTotals(id);
-    QVERIFY2(blocked.sqlError().contains(QLatin1String("blocked")), qPrintable(blocked.sqlError()));
-    QCOMPARE(ItemLocal(item), (Amounts{0, 0, 0}));
-    QVERIFY(ExecSql(QStringLiteral("drop trigger BLOCK_ORDER")));
-
-    // Without the forint row a foreign order cannot be converted; a forint order needs none.
-    QVERIFY(ExecSql(QStringLiteral("delete from CURRENCYY where CURRENCY_ID = 0")));
-    const Result missing = CalcLocalCurrencyTotals(id);
-    QVERIFY(!missing);
-    QVERIFY(!missing.message().isEmpty());
-    QVERIFY(IsNull(OrderLocal(id)));
-    const qint64 forint = InsertOrder(0, 1.0, {100, 27, 127});
-    QVERIFY(CalcLocalCurrencyTotals(forint));
-    QCOMPARE(OrderLocal(forint), (Amounts{100, 27, 127}));
-}
-
-void TestOrderCalcDatabase::joinsTheCallersTransaction()
-{
-    const qint64 id = InsertOrder(1, 400.0, {10, 2.7, 12.7});
-    {
-        // Issuing may hold a transaction around the whole issue; its rollback takes this back.
-        SqlTransaction issue;
-        QVERIFY(issue.active());
-        QVERIFY(CalcLocalCurrencyTotals(id));
-        QCOMPARE(OrderLocal(id), (Amounts{4000, 1080, 5080}));
-    }
-    QVERIFY(IsNull(OrderLocal(id)));
-
-    // On its own it commits and leaves no transaction open behind it.
-    QVERIFY(CalcLocalCurrencyTotals(id));
-    SqlTransaction next;
-    QVERIFY(next.active());
-    next.rollback();
-    QCOMPARE(OrderLocal(id), (Amounts{4000, 1080, 5080}));
-}
-
-void TestOrderCalcDatabase::vatDetailOfOneOrder()
-{
-    const qint64 id = InsertOrder(0, 1.0, {0, 0, 0});
-    const qint64 other = InsertOrder(0, 1.0, {0, 0, 0});
-    InsertItem(id, {1000, 50, 1050}, 3, QStringLiteral("5%"), 5);
-    InsertItem(other, {999, 269.73, 1268.73}, 1, QStringLiteral("27%"), 27);
-    InsertItem(id, {100.1, 27.03, 127.13}, 1, QStringLiteral("27%"), 27);
-    InsertItem(id, {40, 0, 40}, QVariant(), QStringLiteral("AAM"));
-    InsertItem(id, {-200, -10, -210}, 3, QStringLiteral("5% new name"), 5);
-    InsertItem(id, {0.2, 0.05, 0.25}, 1, QStringLiteral("27%"), 27);
-
-    QList<VatDetail> groups;
-    QVERIFY(LoadVatDetail(id, groups));
-    // By VAT key in the order the items were entered, named by the first item of each; the
-    // other order's item stays out; sums as they come (10.1 + 0.2 is not 10.3 in doubles).
-    QCOMPARE(groups.size(), 3);
-    const auto sums = [](const VatDetail& g) {
-        return Amounts{g.totals.net, g.totals.vat, g.totals.gross};
-    };
-    QCOMPARE(groups[0].vatId, std::optional<qint64>(3));
-    QCOMPARE(groups[0].name, QStringLiteral("5%"));
-    QCOMPARE(groups[0].code, QStringLiteral("5%"));
-    QCOMPARE(groups[0].percent, 5.0);
-    QCOMPARE(sums(groups[0]), (Amounts{800, 40, 840}));
-    QCOMPARE(groups[1].vatId, std::optional<qint64>(1));
-    QCOMPARE(sums(groups[1]), (Amounts{100.1 + 0.2, 27.03 + 0.05, 127.13 + 0.25}));
-    QVERIFY(!groups[2].vatId.has_value());
-    QCOMPARE(sums(groups[2]), (Amounts{40, 0, 40}));
-}
 
 QTEST_GUILESS_MAIN(TestOrderCalcDatabase)
 #include "tst_ordercalcdatabase.moc"
