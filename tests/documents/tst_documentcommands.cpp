@@ -52,8 +52,7 @@ private Q_SLOTS:
     void qtfPdf();
     void usage_data();
     void usage();
-    void templateCheck();
-    void templateInstall();
+    void templateCheckAndInstall();
 
 private:
     QTemporaryDir m_dir;
@@ -113,7 +112,7 @@ void TestDocumentCommands::usage()
     QCOMPARE(Cli(args).exitCode, exitCode);
 }
 
-void TestDocumentCommands::templateCheck()
+void TestDocumentCommands::templateCheckAndInstall()
 {
     const Run shipped = Cli({u"template"_s, u"check"_s, QStringLiteral(TN_TEMPLATE_DIR)});
     QCOMPARE(shipped.exitCode, 0);
@@ -126,10 +125,8 @@ void TestDocumentCommands::templateCheck()
     const Run changed = Cli({u"template"_s, u"check"_s, dir.path()});
     QCOMPARE(changed.exitCode, 1);
     QVERIFY(changed.out.contains(u"Certified: no"_s));
-}
 
-void TestDocumentCommands::templateInstall()
-{
+    // Installing copies the certified set into the settings of the company given.
     TestCompany company;
     QVERIFY(company.isValid());
     Database::close();
