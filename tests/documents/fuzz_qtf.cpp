@@ -9,22 +9,19 @@
 #include <cstddef>
 #include <cstdint>
 
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    new QGuiApplication(*argc, *argv); // lives as long as the fuzzer, like its arguments
+    return 0;
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz_qtf";
-    static char* argv[] = {name, nullptr};
-    static QGuiApplication* app = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        return new QGuiApplication(argc, argv);
-    }();
-    Q_UNUSED(app);
     const QString qtf = QString::fromUtf8(reinterpret_cast<const char*>(data), qsizetype(size));
     const Qtf::Document d = ReadQtf(qtf);
     PlainText(d.blocks, true);
-    QtfLayout layout;
-    layout.units = QtfUnits::Dots;
-    auto doc = MakeTextDocument(d, layout);
+    auto doc = MakeTextDocument(d, {QtfUnits::Dots});
     doc->setPageSize(QSizeF(3968, 6074));
     doc->documentLayout()->documentSize();
     return 0;

@@ -21,22 +21,16 @@ void TestAmountInWords::words_data()
     // One group: the long forms "kettő" and "egyszáz", tens joined to units.
     QTest::newRow("zero") << qint64(0) << "nulla";
     QTest::newRow("two") << qint64(2) << "kettő";
-    QTest::newRow("eleven") << qint64(11) << "tizenegy";
-    QTest::newRow("twenty") << qint64(20) << "húsz";
     QTest::newRow("twenty-five") << qint64(25) << "huszonöt";
-    QTest::newRow("ninety-nine") << qint64(99) << "kilencvenkilenc";
     QTest::newRow("hundred") << qint64(100) << "egyszáz";
-    QTest::newRow("hundred and one") << qint64(101) << "egyszázegy";
     QTest::newRow("two hundred twelve") << qint64(212) << "kettőszáztizenkettő";
     QTest::newRow("999") << qint64(999) << "kilencszázkilencvenkilenc";
 
     // Groups: the group word directly after its group, one space between groups.
     QTest::newRow("thousand") << qint64(1000) << "egyezer";
-    QTest::newRow("1234") << qint64(1234) << "egyezer kettőszázharmincnégy";
     QTest::newRow("two thousand") << qint64(2000) << "kettőezer";
     QTest::newRow("twelve thousand") << qint64(12000) << "tizenkettőezer";
     QTest::newRow("million and one") << qint64(1000001) << "egymillió egy";
-    QTest::newRow("two million") << qint64(2000000) << "kettőmillió";
     QTest::newRow("twenty billion") << qint64(20000000000) << "húszmilliárd";
     QTest::newRow("all groups") << qint64(1002003004) << "egymilliárd kettőmillió háromezer négy";
     QTest::newRow("largest covered") << qint64(999999999999)
@@ -45,7 +39,6 @@ void TestAmountInWords::words_data()
                                         "kilencszázkilencvenkilencezer kilencszázkilencvenkilenc";
 
     // Negative amounts.
-    QTest::newRow("minus seven") << qint64(-7) << "mínusz hét";
     QTest::newRow("minus 1234") << qint64(-1234) << "mínusz egyezer kettőszázharmincnégy";
 
     // From 10^12 the higher digits are dropped.

@@ -2,11 +2,15 @@
 #include "TestCompany.h"
 
 #include "app/Database.h"
+#include "app/Setup.h"
 #include "app/SqlStatement.h"
+#include "documents/InvoiceTemplate.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,13 +25,21 @@ Run Cli(const QStringList& args)
 {
     QProcess p;
     p.start(QStringLiteral(TN_CLI), args);
-    Run r;
     if (!p.waitForFinished(120000))
-        return r;
-    r.exitCode = p.exitCode();
-    r.out = QString::fromUtf8(p.readAllStandardOutput());
-    r.err = QString::fromUtf8(p.readAllStandardError());
-    return r;
+        return {};
+    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()),
+            QString::fromUtf8(p.readAllStandardError())};
+}
+
+QString Data(const char* name)
+{
+    return QFINDTESTDATA(u"../data/report/"_s + QLatin1StringView(name));
+}
+
+QString WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() ? path : QString();
 }
 
 } // namespace
@@ -38,119 +50,96 @@ class TestDocumentCommands : public QObject
 private Q_SLOTS:
     void qtfText();
     void qtfPdf();
-    void qtfUsage_data();
-    void qtfUsage();
-    void templateCheck();
-    void templateInstall();
+    void usage_data();
+    void usage();
+    void templateCheckAndInstall();
+
+private:
+    QTemporaryDir m_dir;
 };
 
 void TestDocumentCommands::qtfText()
 {
-    QTemporaryDir dir;
-    QFile file(dir.filePath(QStringLiteral("t.qtf")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QStringLiteral("[*4 Árvíztűrő&]{{1:1 a:: b}}&x`&y").toUtf8());
-    file.close();
-    const Run r = Cli({QStringLiteral("qtf"), file.fileName(), QStringLiteral("--text")});
+    const QString qtf = WriteFile(m_dir.filePath(u"t.qtf"_s), "[*4 Árvíztűrő&]{{1:1 a:: b}}&x`&y");
+    const Run r = Cli({u"qtf"_s, qtf, u"--text"_s});
     QCOMPARE(r.exitCode, 0);
-    QCOMPARE(r.out, QStringLiteral("Árvíztűrő\na\nb\nx&y\n"));
+    QCOMPARE(r.out, u"Árvíztűrő\na\nb\nx&y\n"_s);
 }
 
 void TestDocumentCommands::qtfPdf()
 {
-    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
-        QSKIP("poppler-utils (pdftotext) is needed");
-    QTemporaryDir dir;
-    const QString pdf = dir.filePath(QStringLiteral("sample.pdf"));
-    const Run r = Cli({QStringLiteral("qtf"), QFINDTESTDATA("../data/report/long_table.qtf"),
-                       QStringLiteral("--header"), QFINDTESTDATA("../data/report/header.qtf"),
-                       QStringLiteral("--footer"), QFINDTESTDATA("../data/report/footer.qtf"),
-                       QStringLiteral("--pdf"), pdf});
+    const QString pdf = m_dir.filePath(u"sample.pdf"_s);
+    const Run r = Cli({u"qtf"_s, Data("long_table.qtf"), u"--header"_s, Data("header.qtf"),
+                       u"--footer"_s, Data("footer.qtf"), u"--pdf"_s, pdf});
     QVERIFY2(r.exitCode == 0, qPrintable(r.err));
     QProcess p;
-    p.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+    p.start(u"pdftotext"_s, {pdf, u"-"_s});
     p.waitForFinished(60000);
     const QStringList pages =
         QString::fromUtf8(p.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
     QVERIFY(pages.size() >= 4);
     for (int i = 0; i < pages.size(); ++i) {
-        QVERIFY(pages[i].contains(QStringLiteral("%1. oldal / page %1").arg(i + 1)));
-        QVERIFY(pages[i].contains(QStringLiteral("Árvíztűrő utca 1., Győr")));
+        QVERIFY(pages[i].contains(u"%1. oldal / page %1"_s.arg(i + 1)));
+        QVERIFY(pages[i].contains(u"Árvíztűrő utca 1., Győr"_s));
     }
-    // A cheque-sized page moved by the printer's shift.
-    const Run cheque =
-        Cli({QStringLiteral("qtf"), QFINDTESTDATA("../data/report/footer.qtf"),
-             QStringLiteral("--page"), QStringLiteral("4724x2125"), QStringLiteral("--shift-mm"),
-             QStringLiteral("5,-2.5"), QStringLiteral("--pdf"), pdf});
-    QCOMPARE(cheque.exitCode, 0);
 }
 
-void TestDocumentCommands::qtfUsage_data()
+void TestDocumentCommands::usage_data()
 {
     QTest::addColumn<QStringList>("args");
     QTest::addColumn<int>("exitCode");
-    QTest::newRow("no output") << QStringList{"qtf", "x.qtf"} << 2;
-    QTest::newRow("both outputs") << QStringList{"qtf", "x.qtf", "--text", "--pdf", "o.pdf"} << 2;
-    QTest::newRow("bad page") << QStringList{"qtf", "x.qtf", "--page", "10x", "--pdf", "o.pdf"}
-                              << 2;
-    QTest::newRow("bad shift") << QStringList{"qtf", "x.qtf", "--shift-mm", "a,b", "--text"} << 2;
-    QTest::newRow("missing file") << QStringList{"qtf", "/nonexistent/x.qtf", "--text"} << 1;
-    QTest::newRow("template verb") << QStringList{"template", "remove", "."} << 2;
-    QTest::newRow("template dir") << QStringList{"template", "check", "/nonexistent"} << 1;
+    const auto row = [](const char* name, const QStringList& args, int exitCode) {
+        QTest::newRow(name) << args << exitCode;
+    };
+    const QString pdf = m_dir.filePath(u"cheque.pdf"_s);
+    row("cheque page moved by the shift",
+        {"qtf", Data("footer.qtf"), "--page", "4724x2125", "--shift-mm", "5,-2.5", "--pdf", pdf},
+        0);
+    row("no output", {"qtf", "x.qtf"}, 2);
+    row("both outputs", {"qtf", "x.qtf", "--text", "--pdf", "o.pdf"}, 2);
+    row("bad page", {"qtf", "x.qtf", "--page", "10x", "--pdf", "o.pdf"}, 2);
+    row("bad shift", {"qtf", "x.qtf", "--shift-mm", "a,b", "--text"}, 2);
+    row("missing file", {"qtf", "/nonexistent/x.qtf", "--text"}, 1);
+    row("template verb", {"template", "remove", "."}, 2);
+    row("template dir", {"template", "check", "/nonexistent"}, 1);
+    row("install without a database", {"template", "install", TN_TEMPLATE_DIR}, 2);
 }
 
-void TestDocumentCommands::qtfUsage()
+void TestDocumentCommands::usage()
 {
     QFETCH(QStringList, args);
     QFETCH(int, exitCode);
     QCOMPARE(Cli(args).exitCode, exitCode);
 }
 
-void TestDocumentCommands::templateCheck()
+void TestDocumentCommands::templateCheckAndInstall()
 {
-    const Run shipped =
-        Cli({QStringLiteral("template"), QStringLiteral("check"), QStringLiteral(TN_TEMPLATE_DIR)});
+    const Run shipped = Cli({u"template"_s, u"check"_s, QStringLiteral(TN_TEMPLATE_DIR)});
     QCOMPARE(shipped.exitCode, 0);
-    QVERIFY(shipped.out.contains(QStringLiteral("Certified: yes")));
-    const QString digest = shipped.out.section(u'\n', 0, 0).section(QStringLiteral(": "), 1);
+    QVERIFY(shipped.out.contains(u"Certified: yes"_s));
+    const QString digest = shipped.out.section(u'\n', 0, 0).section(u": "_s, 1);
     QCOMPARE(digest.size(), 32);
-    QVERIFY(shipped.out.contains(QStringLiteral("Digest in invoice.cfg: ") + digest));
-
+    QVERIFY(shipped.out.contains(u"Digest in invoice.cfg: "_s + digest));
     QTemporaryDir dir;
-    QFile body(dir.filePath(QStringLiteral("invoice_body.qtf")));
-    QVERIFY(body.open(QIODevice::WriteOnly));
-    body.write("!P.ITEMS!");
-    body.close();
-    const Run changed = Cli({QStringLiteral("template"), QStringLiteral("check"), dir.path()});
+    QVERIFY(!WriteFile(dir.filePath(u"invoice_body.qtf"_s), "!P.ITEMS!").isEmpty());
+    const Run changed = Cli({u"template"_s, u"check"_s, dir.path()});
     QCOMPARE(changed.exitCode, 1);
-    QVERIFY(changed.out.contains(QStringLiteral("Certified: no")));
-}
+    QVERIFY(changed.out.contains(u"Certified: no"_s));
 
-void TestDocumentCommands::templateInstall()
-{
-    QString path;
-    {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        path = company.path();
-        Database::close();
-        const Run r = Cli({QStringLiteral("--db"), path, QStringLiteral("template"),
-                           QStringLiteral("install"), QStringLiteral(TN_TEMPLATE_DIR)});
-        QVERIFY2(r.exitCode == 0, qPrintable(r.err));
-        QVERIFY(Database::open(path));
-        QVERIFY(SelectValue(QStringLiteral("select SETUP_INVOICE_BODY_QTF from SETUP"))
-                    .toString()
-                    .contains(QStringLiteral("!P.ITEMS!")));
-        QCOMPARE(
-            SelectValue(QStringLiteral("select SETUP_INVOICE_DIGEST from SETUP")).toString().size(),
-            32);
-        QVERIFY(SelectValue(QStringLiteral("select SETUP_INVOICE_CURR_TMPL_DIR from SETUP"))
-                    .toString()
-                    .endsWith(QStringLiteral("templates/invoice")));
-    }
-    const Run noDb = Cli(
-        {QStringLiteral("template"), QStringLiteral("install"), QStringLiteral(TN_TEMPLATE_DIR)});
-    QCOMPARE(noDb.exitCode, 2);
+    // Installing copies the certified set into the settings of the company given.
+    TestCompany company;
+    QVERIFY(company.isValid());
+    Database::close();
+    const Run r = Cli(
+        {u"--db"_s, company.path(), u"template"_s, u"install"_s, QStringLiteral(TN_TEMPLATE_DIR)});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY(Database::open(company.path()) && Setup::current().load());
+    const InvoiceTemplate installed = LoadTemplateFromSetup();
+    QVERIFY(installed.certified());
+    QVERIFY(installed.text(InvoiceTemplate::Piece::Body).contains(u"!P.ITEMS!"_s));
+    QVERIFY(SelectValue(u"select SETUP_INVOICE_CURR_TMPL_DIR from SETUP"_s)
+                .toString()
+                .endsWith(u"templates/invoice"_s));
 }
 
 QTEST_MAIN(TestDocumentCommands)
