@@ -1,6 +1,7 @@
 // Company files of older schema versions, built the way those versions left them: today's schema
-// less what each later upgrade step adds, with the legacy columns and indexes of the time and a
-// small but realistic set of partners, payment methods, orders and invoices.
+// less what each later upgrade step added (tests/data/app/schema_history.txt), with the legacy
+// columns and indexes of the time and a small but realistic set of partners, payment methods,
+// orders and invoices.
 #pragma once
 
 #include <QString>
