@@ -14,65 +14,42 @@
 
 namespace {
 
-// An edit dialog with one field of each kind, in tab order, and a default OK button.
+// An edit dialog with one field of each kind in tab order, each named after its kind, and a
+// default OK button.
 class EditDialog : public QDialog
 {
 public:
     EditDialog()
     {
-        auto* form = new QFormLayout(this);
-        line = new QLineEdit;
-        spin = new QSpinBox;
-        editableCombo = new QComboBox;
+        auto* combo = new QComboBox;
+        combo->addItems({"a", "b"});
+        auto* editableCombo = new QComboBox;
         editableCombo->setEditable(true);
-        combo = new QComboBox;
-        combo->addItems({QStringLiteral("a"), QStringLiteral("b")});
-        date = new DateEdit;
-        notes = new QPlainTextEdit;
-        last = new QLineEdit;
-        ok = new QPushButton(QStringLiteral("OK"));
+        auto* ok = new QPushButton("OK");
         ok->setDefault(true);
         connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-        for (QWidget* w : {static_cast<QWidget*>(line), static_cast<QWidget*>(spin),
-                           static_cast<QWidget*>(editableCombo), static_cast<QWidget*>(combo),
-                           static_cast<QWidget*>(date), static_cast<QWidget*>(notes),
-                           static_cast<QWidget*>(last), static_cast<QWidget*>(ok)})
-            form->addRow(w);
+        auto* form = new QFormLayout(this);
+        const std::pair<const char*, QWidget*> fields[] = {{"line", new QLineEdit},
+                                                           {"spin", new QSpinBox},
+                                                           {"editable combo", editableCombo},
+                                                           {"combo", combo},
+                                                           {"date", new DateEdit},
+                                                           {"notes", new QPlainTextEdit},
+                                                           {"last", new QLineEdit},
+                                                           {"ok", ok}};
+        for (auto [name, widget] : fields) {
+            widget->setObjectName(name);
+            form->addRow(widget);
+        }
     }
-    QLineEdit* line;
-    QSpinBox* spin;
-    QComboBox* editableCombo;
-    QComboBox* combo;
-    DateEdit* date;
-    QPlainTextEdit* notes;
-    QLineEdit* last;
-    QPushButton* ok;
 };
-
-QWidget* FieldOf(EditDialog& d, const QString& name)
-{
-    if (name == QLatin1String("line"))
-        return d.line;
-    if (name == QLatin1String("spin"))
-        return d.spin;
-    if (name == QLatin1String("editable combo"))
-        return d.editableCombo;
-    if (name == QLatin1String("combo"))
-        return d.combo;
-    if (name == QLatin1String("date"))
-        return d.date;
-    if (name == QLatin1String("notes"))
-        return d.notes;
-    return d.last;
-}
 
 // The widget that owns the focus, counting a spin box's or combo box's inner line edit as it.
 QWidget* FocusedField()
 {
     QWidget* w = QApplication::focusWidget();
-    if (w && w->parentWidget() &&
-        (qobject_cast<QAbstractSpinBox*>(w->parentWidget()) ||
-         qobject_cast<QComboBox*>(w->parentWidget())))
+    if (w && (qobject_cast<QAbstractSpinBox*>(w->parentWidget()) ||
+              qobject_cast<QComboBox*>(w->parentWidget())))
         return w->parentWidget();
     return w;
 }
@@ -83,100 +60,88 @@ class TestShellWidgets : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup() { EnterLikeTab::setEnabled(false); }
-    void enterMovesToNextField_data();
-    void enterMovesToNextField();
-    void enterKeepsItsMeaningElsewhere();
-    void enterConfirmsWhenSwitchedOff();
+    void init();
+    void cleanup();
+    void enter_data();
+    void enter();
     void enterConfirmsStandardDialogs();
     void dateTyping_data();
     void dateTyping();
     void dateSetAndSignal();
+
+private:
+    template <class T = QWidget> T* field(const QString& name) const
+    {
+        return m_dialog->findChild<T*>(name);
+    }
+
+    std::unique_ptr<EditDialog> m_dialog;
 };
 
-void TestShellWidgets::enterMovesToNextField_data()
+void TestShellWidgets::init()
 {
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("to");
-    const int enter = Qt::Key_Return;
-    QTest::newRow("line edit") << QStringLiteral("line") << enter << QStringLiteral("spin");
-    QTest::newRow("keypad enter") << QStringLiteral("line") << int(Qt::Key_Enter)
-                                  << QStringLiteral("spin");
-    QTest::newRow("spin box") << QStringLiteral("spin") << enter
-                              << QStringLiteral("editable combo");
-    QTest::newRow("editable combo")
-        << QStringLiteral("editable combo") << enter << QStringLiteral("combo");
-    QTest::newRow("combo") << QStringLiteral("combo") << enter << QStringLiteral("date");
-    QTest::newRow("date field") << QStringLiteral("date") << enter << QStringLiteral("notes");
+    EnterLikeTab::setEnabled(true);
+    m_dialog = std::make_unique<EditDialog>();
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
 }
 
-void TestShellWidgets::enterMovesToNextField()
+void TestShellWidgets::cleanup()
 {
+    m_dialog.reset();
+    EnterLikeTab::setEnabled(false);
+}
+
+void TestShellWidgets::enter_data()
+{
+    QTest::addColumn<bool>("ruleOn");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("to"); // empty: the dialog was accepted
+    const int enter = Qt::Key_Return;
+    QTest::newRow("line edit") << true << "line" << enter << "spin";
+    QTest::newRow("keypad enter") << true << "line" << int(Qt::Key_Enter) << "spin";
+    QTest::newRow("spin box") << true << "spin" << enter << "editable combo";
+    QTest::newRow("editable combo") << true << "editable combo" << enter << "combo";
+    QTest::newRow("combo") << true << "combo" << enter << "date";
+    QTest::newRow("date field") << true << "date" << enter << "notes";
+    // A multi-line field takes Enter as a line break; on a button Enter presses it.
+    QTest::newRow("multi-line field") << true << "notes" << enter << "notes";
+    QTest::newRow("button") << true << "ok" << enter << "";
+    QTest::newRow("rule switched off") << false << "line" << enter << "";
+}
+
+void TestShellWidgets::enter()
+{
+    QFETCH(bool, ruleOn);
     QFETCH(QString, from);
     QFETCH(int, key);
     QFETCH(QString, to);
-    EnterLikeTab::setEnabled(true);
-    EditDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    FieldOf(dialog, from)->setFocus();
-    QCOMPARE(FocusedField(), FieldOf(dialog, from));
-    const Qt::KeyboardModifiers modifiers =
-        key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
+    EnterLikeTab::setEnabled(ruleOn);
+    field(from)->setFocus();
+    QCOMPARE(FocusedField(), field(from));
+    const auto modifiers = key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-    QCOMPARE(FocusedField(), FieldOf(dialog, to));
-    QVERIFY(dialog.isVisible());
-}
-
-void TestShellWidgets::enterKeepsItsMeaningElsewhere()
-{
-    EnterLikeTab::setEnabled(true);
-    EditDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-
-    // A multi-line field takes Enter as a line break.
-    dialog.notes->setFocus();
-    QTest::keyClicks(dialog.notes, QStringLiteral("a"));
-    QTest::keyClick(dialog.notes, Qt::Key_Return);
-    QTest::keyClicks(dialog.notes, QStringLiteral("b"));
-    QCOMPARE(dialog.notes->toPlainText(), QStringLiteral("a\nb"));
-    QCOMPARE(FocusedField(), dialog.notes);
-
-    // On a button Enter presses it.
-    dialog.ok->setFocus();
-    QTest::keyClick(dialog.ok, Qt::Key_Return);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-}
-
-void TestShellWidgets::enterConfirmsWhenSwitchedOff()
-{
-    EnterLikeTab::setEnabled(true);
-    EnterLikeTab::setEnabled(false);
-    EditDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    dialog.line->setFocus();
-    QTest::keyClick(dialog.line, Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(m_dialog->isVisible(), !to.isEmpty());
+    QCOMPARE(m_dialog->result(), to.isEmpty() ? int(QDialog::Accepted) : int(QDialog::Rejected));
+    if (!to.isEmpty())
+        QCOMPARE(FocusedField(), field(to));
+    QCOMPARE(field<QPlainTextEdit>("notes")->toPlainText(), from == "notes" ? "\n" : "");
 }
 
 void TestShellWidgets::enterConfirmsStandardDialogs()
 {
-    EnterLikeTab::setEnabled(true);
     QInputDialog dialog;
-    dialog.setLabelText(QStringLiteral("Name"));
+    dialog.setLabelText("Name");
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     auto* field = dialog.findChild<QLineEdit*>();
     QVERIFY(field);
     field->setFocus();
-    QTest::keyClicks(field, QStringLiteral("x"));
+    QTest::keyClicks(field, "x");
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(dialog.textValue(), QStringLiteral("x"));
+    QCOMPARE(dialog.textValue(), "x");
 }
 
 void TestShellWidgets::dateTyping_data()
@@ -185,21 +150,14 @@ void TestShellWidgets::dateTyping_data()
     QTest::addColumn<QDate>("date");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<bool>("valid");
-    QTest::newRow("display form") << QStringLiteral("2024.03.05.") << QDate(2024, 3, 5)
-                                  << QStringLiteral("2024.03.05.") << true;
-    QTest::newRow("short parts") << QStringLiteral("2024.3.5") << QDate(2024, 3, 5)
-                                 << QStringLiteral("2024.03.05.") << true;
-    QTest::newRow("iso form") << QStringLiteral("2024-12-31") << QDate(2024, 12, 31)
-                              << QStringLiteral("2024.12.31.") << true;
-    QTest::newRow("leap day") << QStringLiteral("2024.02.29.") << QDate(2024, 2, 29)
-                              << QStringLiteral("2024.02.29.") << true;
-    QTest::newRow("no such day") << QStringLiteral("2023.02.29.") << QDate()
-                                 << QStringLiteral("2023.02.29.") << false;
-    QTest::newRow("letters are refused")
-        << QStringLiteral("2024.marc") << QDate() << QStringLiteral("2024.") << false;
-    QTest::newRow("double dot refused")
-        << QStringLiteral("2024..5") << QDate() << QStringLiteral("2024.5") << false;
-    QTest::newRow("empty") << QString() << QDate() << QString() << true;
+    QTest::newRow("display form") << "2024.03.05." << QDate(2024, 3, 5) << "2024.03.05." << true;
+    QTest::newRow("short parts") << "2024.3.5" << QDate(2024, 3, 5) << "2024.03.05." << true;
+    QTest::newRow("iso form") << "2024-12-31" << QDate(2024, 12, 31) << "2024.12.31." << true;
+    QTest::newRow("leap day") << "2024.02.29." << QDate(2024, 2, 29) << "2024.02.29." << true;
+    QTest::newRow("no such day") << "2023.02.29." << QDate() << "2023.02.29." << false;
+    QTest::newRow("letters are refused") << "2024.marc" << QDate() << "2024." << false;
+    QTest::newRow("double dot refused") << "2024..5" << QDate() << "2024.5" << false;
+    QTest::newRow("empty") << "" << QDate() << "" << true;
 }
 
 void TestShellWidgets::dateTyping()
@@ -208,17 +166,10 @@ void TestShellWidgets::dateTyping()
     QFETCH(QDate, date);
     QFETCH(QString, shown);
     QFETCH(bool, valid);
-    QDialog dialog;
-    auto* edit = new DateEdit(&dialog);
-    auto* other = new QLineEdit(&dialog);
-    auto* layout = new QFormLayout(&dialog);
-    layout->addRow(edit);
-    layout->addRow(other);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* edit = field<DateEdit>("date");
     edit->setFocus();
     QTest::keyClicks(edit, typed);
-    other->setFocus();
+    field("last")->setFocus();
     QCOMPARE(edit->date(), date);
     QCOMPARE(edit->text(), shown);
     QCOMPARE(edit->isValidInput(), valid);
@@ -229,7 +180,7 @@ void TestShellWidgets::dateSetAndSignal()
     DateEdit edit;
     QSignalSpy changed(&edit, &DateEdit::dateChanged);
     edit.setDate(QDate(2024, 3, 5));
-    QCOMPARE(edit.text(), QStringLiteral("2024.03.05."));
+    QCOMPARE(edit.text(), "2024.03.05.");
     QCOMPARE(edit.property("date").toDate(), QDate(2024, 3, 5));
     edit.setDate(QDate(2024, 3, 5));
     QCOMPARE(changed.size(), 1);

@@ -25,12 +25,12 @@ void TestSqlHelpers::flags_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("set");
-    QTest::newRow("text 1") << QVariant(QStringLiteral("1")) << true;
+    QTest::newRow("text 1") << QVariant("1") << true;
     QTest::newRow("number 1") << QVariant(1) << true;
-    QTest::newRow("text 0") << QVariant(QStringLiteral("0")) << false;
+    QTest::newRow("text 0") << QVariant("0") << false;
     QTest::newRow("number 0") << QVariant(0) << false;
     QTest::newRow("null") << QVariant() << false;
-    QTest::newRow("text 10") << QVariant(QStringLiteral("10")) << false;
+    QTest::newRow("text 10") << QVariant("10") << false;
     QTest::newRow("empty") << QVariant(QString()) << false;
 }
 
@@ -45,11 +45,11 @@ void TestSqlHelpers::numbers_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<double>("number");
-    QTest::newRow("text") << QVariant(QStringLiteral("10")) << 10.0;
-    QTest::newRow("decimal comma") << QVariant(QStringLiteral("2,5")) << 2.5;
+    QTest::newRow("text") << QVariant("10") << 10.0;
+    QTest::newRow("decimal comma") << QVariant("2,5") << 2.5;
     QTest::newRow("real") << QVariant(12.25) << 12.25;
     QTest::newRow("null") << QVariant() << 0.0;
-    QTest::newRow("garbage") << QVariant(QStringLiteral("abc")) << 0.0;
+    QTest::newRow("garbage") << QVariant("abc") << 0.0;
 }
 
 void TestSqlHelpers::numbers()
@@ -64,37 +64,36 @@ void TestSqlHelpers::splitKeepsQuotedSemicolons()
     const QStringList parts = SplitSqlScript(QStringLiteral(
         "-- comment; with a semicolon\ninsert into T values ('a;b', \"c;\nd\");\n\nselect 1;"));
     QCOMPARE(parts.size(), 2);
-    QCOMPARE(parts.at(0), QStringLiteral("insert into T values ('a;b', \"c;\nd\")"));
-    QCOMPARE(parts.at(1), QStringLiteral("select 1"));
+    QCOMPARE(parts.at(0), "insert into T values ('a;b', \"c;\nd\")");
+    QCOMPARE(parts.at(1), "select 1");
 }
 
 void TestSqlHelpers::boundTextRoundTrips()
 {
     TestCompany company;
     QVERIFY(company.isValid());
-    const QString awkward = QStringLiteral("it's \"quoted\"; [* bold]\r\n'); drop table SETUP; --");
-    QVERIFY(ExecSql(QStringLiteral("insert into STATNO (STATNO_STAT_NO, STATNO_NAME) values (?, ?)"),
-                    {QStringLiteral("x"), awkward}));
-    QCOMPARE(SelectValue(QStringLiteral("select STATNO_NAME from STATNO where STATNO_STAT_NO = ?"),
-                         {QStringLiteral("x")})
-                 .toString(),
-             awkward);
+    const QString awkward = "it's \"quoted\"; [* bold]\r\n'); drop table SETUP; --";
+    QVERIFY(
+        ExecSql("insert into STATNO (STATNO_STAT_NO, STATNO_NAME) values (?, ?)", {"x", awkward}));
+    QCOMPARE(
+        SelectValue("select STATNO_NAME from STATNO where STATNO_STAT_NO = ?", {"x"}).toString(),
+        awkward);
 }
 
 void TestSqlHelpers::transactionRollsBackUnlessCommitted()
 {
     TestCompany company;
     QVERIFY(company.isValid());
-    const QString count = QStringLiteral("select count(*) from STATNO");
+    const QString count = "select count(*) from STATNO";
     {
         SqlTransaction t;
         QVERIFY(t.active());
-        QVERIFY(ExecSql(QStringLiteral("insert into STATNO (STATNO_NAME) values ('gone')")));
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('gone')"));
     }
     QCOMPARE(SelectValue(count).toInt(), 0);
     {
         SqlTransaction t;
-        QVERIFY(ExecSql(QStringLiteral("insert into STATNO (STATNO_NAME) values ('kept')")));
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('kept')"));
         QVERIFY(t.commit());
     }
     QCOMPARE(SelectValue(count).toInt(), 1);

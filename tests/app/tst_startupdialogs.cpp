@@ -1,5 +1,7 @@
 // The dialogs of start-up: the company chooser hands back the chosen file and can add a company,
 // the check list reports its ticks, the SQL error dialog answers Retry or Cancel.
+#include "ModalDriver.h"
+
 #include "app/CompanyCreate.h"
 #include "app/CompanyList.h"
 #include "app/ui/CheckItemsDlg.h"
@@ -14,33 +16,13 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTableWidget>
-#include <QTimer>
 #include <QtTest>
 
 namespace {
 
-CompanyEntry Entry(const QString& file, const QString& name, const QString& taxNo)
+CompanyEntry Entry(const QString& file, const QString& name, const QString& taxNo = {})
 {
-    CompanyEntry e;
-    e.path = QStringLiteral("/companies/") + file;
-    e.name = name;
-    e.taxNo = taxNo;
-    e.city = QStringLiteral("Budapest");
-    return e;
-}
-
-// Runs action on the next modal dialog of type T once it is shown.
-template <typename T> void OnNextDialog(std::function<void(T*)> action)
-{
-    QTimer::singleShot(0, [action] {
-        for (QWidget* w : QApplication::topLevelWidgets()) {
-            if (auto* dlg = qobject_cast<T*>(w); dlg && dlg->isVisible()) {
-                action(dlg);
-                return;
-            }
-        }
-        OnNextDialog<T>(action);
-    });
+    return {"/companies/" + file, name, {}, "Budapest", {}, taxNo};
 }
 
 } // namespace
@@ -53,40 +35,29 @@ private Q_SLOTS:
     void chooserReturnsSelectedFile();
     void newCompanyIsAddedAndSelected();
     void checkItemsReportsTicks();
+    void sqlErrorRetryOrCancel_data();
     void sqlErrorRetryOrCancel();
 };
 
 void TestStartupDialogs::companyModel()
 {
-    CompanyListModel model(
-        {Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1"))});
+    CompanyListModel model({Entry("a.db", "A Kft.")});
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QCOMPARE(model.columnCount(), 5);
-    const QStringList headers{QStringLiteral("Name"), QStringLiteral("ZIP"), QStringLiteral("City"),
-                              QStringLiteral("Address"), QStringLiteral("Tax No")};
-    for (int c = 0; c < 5; ++c)
-        QCOMPARE(model.headerData(c, Qt::Horizontal).toString(), headers.at(c));
-    model.append(Entry(QStringLiteral("b.db"), QStringLiteral("B Bt."), QStringLiteral("2")));
+    model.append(Entry("b.db", "B Bt.", "2"));
     QCOMPARE(model.rowCount(), 2);
-    QCOMPARE(model.index(1, CompanyListModel::TaxNo).data().toString(), QStringLiteral("2"));
-    QCOMPARE(model.index(1, 0).data(CompanyListModel::PathRole).toString(),
-             QStringLiteral("/companies/b.db"));
+    QCOMPARE(model.index(1, CompanyListModel::TaxNo).data(), "2");
+    QCOMPARE(model.index(1, 0).data(CompanyListModel::PathRole), "/companies/b.db");
 }
 
 void TestStartupDialogs::chooserReturnsSelectedFile()
 {
-    DatabaseSelectDlg dlg(
-        {Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1")),
-         Entry(QStringLiteral("b.db"), QStringLiteral("B Bt."), QStringLiteral("2"))},
-        QString());
-    QCOMPARE(dlg.windowTitle(), QStringLiteral("Select Database/Company"));
-    QCOMPARE(dlg.selectedPath(), QStringLiteral("/companies/a.db"));
-    auto* list = dlg.findChild<QTableView*>(QStringLiteral("m_list"));
-    QVERIFY(list);
-    list->selectRow(1);
-    QCOMPARE(dlg.selectedPath(), QStringLiteral("/companies/b.db"));
+    DatabaseSelectDlg dlg({Entry("a.db", "A Kft."), Entry("b.db", "B Bt.")}, QString());
+    QCOMPARE(dlg.selectedPath(), "/companies/a.db");
+    Child<QTableView>(&dlg, "m_list")->selectRow(1);
+    QCOMPARE(dlg.selectedPath(), "/companies/b.db");
     dlg.show();
-    dlg.findChild<QPushButton*>(QStringLiteral("m_ok"))->click();
+    Child<QPushButton>(&dlg, "m_ok")->click();
     QCOMPARE(dlg.result(), int(QDialog::Accepted));
 }
 
@@ -94,46 +65,47 @@ void TestStartupDialogs::newCompanyIsAddedAndSelected()
 {
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    DatabaseSelectDlg dlg(
-        {Entry(QStringLiteral("a.db"), QStringLiteral("A Kft."), QStringLiteral("1"))}, dir.path());
-    OnNextDialog<NewCompanyDlg>([](NewCompanyDlg* form) {
-        form->findChild<QLineEdit*>(QStringLiteral("m_name"))
-            ->setText(QStringLiteral("Új Cég Kft."));
-        form->findChild<QLineEdit*>(QStringLiteral("m_tax_no"))
-            ->setText(QStringLiteral("33333333-2-43"));
-        form->accept();
-    });
-    dlg.findChild<QPushButton*>(QStringLiteral("m_new"))->click();
-    QCOMPARE(dlg.selectedPath(), dir.filePath(QStringLiteral("uj_ceg_kft.db")));
-    QCOMPARE(ReadCompanyEntry(dlg.selectedPath()).taxNo, QStringLiteral("33333333-2-43"));
+    DatabaseSelectDlg dlg({Entry("a.db", "A Kft.")}, dir.path());
+    ModalDriver driver({[](QWidget* form) {
+        Child<QLineEdit>(form, "m_name")->setText("Új Cég Kft.");
+        Child<QLineEdit>(form, "m_tax_no")->setText("33333333-2-43");
+        static_cast<QDialog*>(form)->accept();
+    }});
+    Child<QPushButton>(&dlg, "m_new")->click();
+    QVERIFY(driver.done());
+    QCOMPARE(dlg.selectedPath(), dir.filePath("uj_ceg_kft.db"));
+    QCOMPARE(ReadCompanyEntry(dlg.selectedPath()).taxNo, "33333333-2-43");
 }
 
 void TestStartupDialogs::checkItemsReportsTicks()
 {
-    CheckItemsDlg dlg(
-        QStringLiteral("Select Payment Methods To Set Unpaid"), QStringLiteral("Payment Method"),
-        QStringLiteral("Set To Unpaid"),
-        {QStringLiteral("Csekk"), QStringLiteral("Készpénz"), QStringLiteral("Átutalás")});
-    QCOMPARE(dlg.windowTitle(), QStringLiteral("Select Payment Methods To Set Unpaid"));
-    auto* list = dlg.findChild<QTableWidget*>(QStringLiteral("m_list"));
-    QCOMPARE(list->horizontalHeaderItem(1)->text(), QStringLiteral("Set To Unpaid"));
+    CheckItemsDlg dlg("Select Payment Methods To Set Unpaid", "Payment Method", "Set To Unpaid",
+                      {"Csekk", "Készpénz", "Átutalás"});
+    auto* list = Child<QTableWidget>(&dlg, "m_list");
     QCOMPARE(dlg.checked(), QList<bool>({false, false, false}));
     list->item(2, 1)->setCheckState(Qt::Checked);
     QCOMPARE(dlg.checked(), QList<bool>({false, false, true}));
 }
 
+void TestStartupDialogs::sqlErrorRetryOrCancel_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("retry");
+    QTest::newRow("retry") << "m_retry" << true;
+    QTest::newRow("cancel") << "m_cancel" << false;
+}
+
 void TestStartupDialogs::sqlErrorRetryOrCancel()
 {
-    for (const char* button : {"m_retry", "m_cancel"}) {
-        OnNextDialog<SqlErrorDlg>([button](SqlErrorDlg* dlg) {
-            QCOMPARE(dlg->findChild<QPlainTextEdit*>(QStringLiteral("m_statement"))->toPlainText(),
-                     QStringLiteral("drop index X"));
-            dlg->findChild<QPushButton*>(QLatin1String(button))->click();
-        });
-        QCOMPARE(SqlErrorDlg::askRetry(QStringLiteral("no such index: X"),
-                                       QStringLiteral("drop index X"), nullptr),
-                 qstrcmp(button, "m_retry") == 0);
-    }
+    QFETCH(QString, button);
+    QFETCH(bool, retry);
+    QString statement;
+    ModalDriver driver({[&](QWidget* dlg) {
+        statement = Child<QPlainTextEdit>(dlg, "m_statement")->toPlainText();
+        Child<QPushButton>(dlg, qPrintable(button))->click();
+    }});
+    QCOMPARE(SqlErrorDlg::askRetry("no such index: X", "drop index X", nullptr), retry);
+    QCOMPARE(statement, "drop index X");
 }
 
 QTEST_MAIN(TestStartupDialogs)
