@@ -3,6 +3,7 @@
 #include "OldCompanyFile.h"
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "Columns.h"
 #include "app/Backup.h"
@@ -16,6 +17,8 @@
 
 namespace {
 
+const char kSaved[] = "Backup file saved successfully.";
+const char kBackupError[] = "Error backing up database file.";
 const char kRestored[] = "Backup file restored successfully.";
 const char kUnableToOpen[] = "Unable to open restored database file.";
 
@@ -54,13 +57,11 @@ private Q_SLOTS:
     void backupName();
     void belonging_data();
     void belonging();
-    void backupCopiesAndReopens();
-    void backupFailureStillReopens_data();
-    void backupFailureStillReopens();
-    void restoreRefusesAnotherCompanysBackup();
+    void backup_data();
+    void backup();
+    void restoreRefused_data();
+    void restoreRefused();
     void restoreReplacesTheFile();
-    void restoreFailureKeepsOwnFile_data();
-    void restoreFailureKeepsOwnFile();
     void restoreWithoutOpenDatabaseAsks();
     void restoreUpgradesOlderBackup_data();
     void restoreUpgradesOlderBackup();
@@ -98,10 +99,8 @@ void TestBackup::backupName_data()
 {
     QTest::addColumn<QString>("database");
     QTest::addColumn<QString>("backup");
-    QTest::newRow("plain") << "/base/DB/ceg.db"
-                           << "ceg.dbk";
-    QTest::newRow("dots in name") << "DB/minta.kft.db"
-                                  << "minta.kft.dbk";
+    AddRow("plain", "/base/DB/ceg.db", "ceg.dbk");
+    AddRow("dots in name", "DB/minta.kft.db", "minta.kft.dbk");
 }
 
 void TestBackup::backupName()
@@ -115,12 +114,12 @@ void TestBackup::belonging_data()
 {
     QTest::addColumn<QString>("backup");
     QTest::addColumn<bool>("belongs");
-    QTest::newRow("same name") << "/b/BiztonsagiMasolatok/ceg.dbk" << true;
-    QTest::newRow("any folder") << "/media/usb/ceg.dbk" << true;
-    QTest::newRow("other company") << "/b/BiztonsagiMasolatok/masik.dbk" << false;
-    QTest::newRow("longer name") << "ceg.2024.dbk" << false;
-    QTest::newRow("other case") << "CEG.dbk" << false;
-    QTest::newRow("aside copy") << "/b/DB/ceg.db.dbk" << false;
+    AddRow("same name", "/b/BiztonsagiMasolatok/ceg.dbk", true);
+    AddRow("any folder", "/media/usb/ceg.dbk", true);
+    AddRow("other company", "/b/BiztonsagiMasolatok/masik.dbk", false);
+    AddRow("longer name", "ceg.2024.dbk", false);
+    AddRow("other case", "CEG.dbk", false);
+    AddRow("aside copy", "/b/DB/ceg.db.dbk", false);
 }
 
 void TestBackup::belonging()
@@ -130,41 +129,58 @@ void TestBackup::belonging()
     QCOMPARE(BackupBelongsTo(backup, "/b/DB/ceg.db"), belongs);
 }
 
-void TestBackup::backupCopiesAndReopens()
-{
-    QVERIFY(WriteFile(m_backup, "an older backup"));
-    QVERIFY(DoBackup(path(), m_backup, m_ui));
-    QCOMPARE(m_ui.lastMessage(), "Backup file saved successfully.");
-    QCOMPARE(FileBytes(m_backup), FileBytes(path()));
-    checkOwnFileInUse(FileBytes(path()));
-    QVERIFY(!QFile::exists(m_backup + ".part"));
-}
-
-void TestBackup::backupFailureStillReopens_data()
+void TestBackup::backup_data()
 {
     QTest::addColumn<QString>("target");
-    QTest::newRow("missing folder") << "no/such/folder/company.dbk";
-    QTest::newRow("the database itself") << "company.db";
-    QTest::newRow("a folder") << "";
+    QTest::addColumn<QString>("message");
+    AddRow("over an older backup", "company.dbk", kSaved);
+    AddRow("missing folder", "no/such/folder/company.dbk", kBackupError);
+    AddRow("the database itself", "company.db", kBackupError);
+    AddRow("a folder", "", kBackupError);
 }
 
-void TestBackup::backupFailureStillReopens()
+// Whatever happens, the company's own file is open again afterwards.
+void TestBackup::backup()
 {
     QFETCH(QString, target);
+    QFETCH(QString, message);
+    const bool saved = message == kSaved;
+    const QString file = m_company->dir() + '/' + target;
+    QVERIFY(!saved || WriteFile(file, "an older backup"));
     const QByteArray before = FileBytes(path());
-    QVERIFY(!DoBackup(path(), m_company->dir() + '/' + target, m_ui));
-    QCOMPARE(m_ui.lastMessage(), "Error backing up database file.");
+    QCOMPARE(DoBackup(path(), file, m_ui), saved);
+    QCOMPARE(m_ui.lastMessage(), message);
     checkOwnFileInUse(before);
+    QVERIFY(!saved || FileBytes(file) == before);
+    QVERIFY(!QFile::exists(file + ".part"));
 }
 
-void TestBackup::restoreRefusesAnotherCompanysBackup()
+void TestBackup::restoreRefused_data()
 {
-    const QString other = m_folder->filePath("masik.dbk");
-    QVERIFY(QFile::copy(path(), other));
+    QTest::addColumn<QString>("backup");
+    QTest::addColumn<QByteArray>("content"); // "<copy>": the company's file, "<folder>": a folder
+    QTest::addColumn<QString>("message");
+    AddRow("another company's backup", "masik.dbk", QByteArray("<copy>"),
+           "The selected file is not a backup of currently active database/company.");
+    AddRow("backup cannot be read", "company.dbk", QByteArray("<folder>"),
+           "Error restoring backup database file.");
+    AddRow("backup is not a database", "company.dbk",
+           QByteArray("this is not an SQLite file, only text"), kUnableToOpen);
+    // SQLite would take an empty file for a new database and make an empty company of it.
+    AddRow("backup is empty", "company.dbk", QByteArray(), kUnableToOpen);
+}
+
+void TestBackup::restoreRefused()
+{
+    QFETCH(QString, backup);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, message);
+    const QString file = m_folder->filePath(backup);
     const QByteArray before = FileBytes(path());
-    QVERIFY(!RestoreBackup(path(), other, m_ui));
-    QCOMPARE(m_ui.lastMessage(),
-             "The selected file is not a backup of currently active database/company.");
+    QVERIFY(content == "<folder>" ? QDir().mkpath(file)
+                                  : WriteFile(file, content == "<copy>" ? before : content));
+    QVERIFY(!RestoreBackup(path(), file, m_ui));
+    QCOMPARE(m_ui.lastMessage(), message);
     QVERIFY(m_ui.questions.isEmpty());
     checkOwnFileInUse(before);
     QVERIFY(!QFile::exists(RestoreAsidePath(path())));
@@ -185,31 +201,6 @@ void TestBackup::restoreReplacesTheFile()
     // The replaced file stays aside, with the work done after the backup.
     QVERIFY(Database::open(RestoreAsidePath(path())));
     QCOMPARE(Markers(), QStringList({"own", "after backup"}));
-}
-
-void TestBackup::restoreFailureKeepsOwnFile_data()
-{
-    QTest::addColumn<QByteArray>("backupContent");
-    QTest::addColumn<bool>("backupIsFolder");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("backup cannot be read")
-        << QByteArray() << true << "Error restoring backup database file.";
-    QTest::newRow("backup is not a database")
-        << QByteArray("this is not an SQLite file, only text") << false << kUnableToOpen;
-    // SQLite would take an empty file for a new database and make an empty company of it.
-    QTest::newRow("backup is empty") << QByteArray() << false << kUnableToOpen;
-}
-
-void TestBackup::restoreFailureKeepsOwnFile()
-{
-    QFETCH(QByteArray, backupContent);
-    QFETCH(bool, backupIsFolder);
-    QFETCH(QString, message);
-    QVERIFY(backupIsFolder ? QDir().mkpath(m_backup) : WriteFile(m_backup, backupContent));
-    const QByteArray before = FileBytes(path());
-    QVERIFY(!RestoreBackup(path(), m_backup, m_ui));
-    QCOMPARE(m_ui.lastMessage(), message);
-    checkOwnFileInUse(before);
 }
 
 // After a failed opening no database is open; the restore then asks before opening the file.
@@ -234,8 +225,8 @@ void TestBackup::restoreWithoutOpenDatabaseAsks()
 void TestBackup::restoreUpgradesOlderBackup_data()
 {
     QTest::addColumn<int>("version");
-    QTest::newRow("without version table") << -1;
-    QTest::newRow("301") << 301;
+    AddRow("without version table", -1);
+    AddRow("301", 301);
 }
 
 // A backup made by an older version of the program comes back upgraded, with its own data and

@@ -1,6 +1,7 @@
 // Company databases of the database folder: which files count, which are offered, when the
 // program chooses without asking, creating a company, and changing to another one.
 #include "ScriptedInteraction.h"
+#include "TestData.h"
 
 #include "app/CompanyChoice.h"
 #include "app/CompanyCreate.h"
@@ -41,10 +42,9 @@ private Q_SLOTS:
     void startupChoice_data();
     void startupChoice();
     void commandLinePath();
-    void entriesReadWithoutDisturbingSession();
+    void createAndListWhileAnotherIsOpen();
     void fileNames_data();
     void fileNames();
-    void createCompany();
     void createRefusals_data();
     void createRefusals();
     void changeCompany_data();
@@ -56,7 +56,7 @@ private Q_SLOTS:
 private:
     QString file(const QString& name) const { return QDir(m_dir->path()).filePath(name); }
     // A company file made by the program itself; "demo" is the demonstration company.
-    QString company(const QString& name, const QString& taxNo = {});
+    QString company(const QString& name, QString taxNo = {});
     // The companies named, in turn; the path of the first that is not the demonstration one.
     QString companies(const QStringList& names);
     // Records what the selector was offered ("file:name") and picks the file named pick.
@@ -82,20 +82,15 @@ void TestCompanies::cleanup()
     m_dir.reset();
 }
 
-QString TestCompanies::company(const QString& name, const QString& taxNo)
+QString TestCompanies::company(const QString& name, QString taxNo)
 {
+    if (taxNo.isEmpty())
+        taxNo = QStringLiteral("1000000%1-2-41").arg(++m_taxNo);
     QString path;
     ScriptedInteraction quiet;
     const Result r =
-        name == "demo"
-            ? CreateDemoCompany(m_dir->path(), quiet, &path)
-            : CreateCompany({name,
-                             taxNo.isEmpty()
-                                 ? QStringLiteral("1000%1-2-41").arg(++m_taxNo, 4, 10, QChar('0'))
-                                 : taxNo,
-                             {},
-                             "Budapest"},
-                            m_dir->path(), quiet, &path);
+        name == "demo" ? CreateDemoCompany(m_dir->path(), quiet, &path)
+                       : CreateCompany({name, taxNo, {}, "Budapest"}, m_dir->path(), quiet, &path);
     if (!r)
         qWarning("%s %s", qPrintable(r.message()), qPrintable(r.sqlError()));
     return path;
@@ -131,15 +126,14 @@ void TestCompanies::discovery_data()
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QStringList>("companies");
     QTest::addColumn<QStringList>("offered");
-    QTest::newRow("empty") << QStringList{} << QStringList{} << QStringList{};
-    QTest::newRow("hidden, too short and other files are ignored")
-        << QStringList{".db", ".rejtett.db", "a.db", "ceg.db.bak", "jegyzet.txt"}
-        << QStringList{"a.db"} << QStringList{"a.db"};
-    QTest::newRow("only the demonstration company")
-        << QStringList{"demo.db"} << QStringList{"demo.db"} << QStringList{"demo.db"};
-    QTest::newRow("demo hidden beside companies")
-        << QStringList{"szabo.db", "demo.db", "kovacs.db"}
-        << QStringList{"demo.db", "kovacs.db", "szabo.db"} << QStringList{"kovacs.db", "szabo.db"};
+    AddRow("empty", QStringList{}, QStringList{}, QStringList{});
+    AddRow("hidden, too short and other files are ignored",
+           QStringList{".db", ".rejtett.db", "a.db", "ceg.db.bak", "jegyzet.txt"},
+           QStringList{"a.db"}, QStringList{"a.db"});
+    AddRow("only the demonstration company", QStringList{"demo.db"}, QStringList{"demo.db"},
+           QStringList{"demo.db"});
+    AddRow("demo hidden beside companies", QStringList{"szabo.db", "demo.db", "kovacs.db"},
+           QStringList{"demo.db", "kovacs.db", "szabo.db"}, QStringList{"kovacs.db", "szabo.db"});
 }
 
 void TestCompanies::discovery()
@@ -165,19 +159,16 @@ void TestCompanies::startupChoice_data()
     QTest::addColumn<QStringList>("offered");
     QTest::addColumn<QString>("message");
     const QStringList two = {"kovacs_bt.db:Kovács Bt.", "szabo_kft.db:Szabó Kft."};
-    QTest::newRow("no files") << QStringList{} << ""
-                              << "" << QStringList{}
-                              << "Missing database files. Maybe you have to reinstall the "
-                                 "application.";
-    QTest::newRow("only demo, no dialog") << QStringList{"demo"} << ""
-                                          << "demo.db" << QStringList{} << "";
-    QTest::newRow("demo and one company, no dialog") << QStringList{"demo", "Kovács Bt."} << ""
-                                                     << "kovacs_bt.db" << QStringList{} << "";
-    QTest::newRow("demo and two companies: dialog without demo")
-        << QStringList{"demo", "Kovács Bt.", "Szabó Kft."} << "szabo_kft.db"
-        << "szabo_kft.db" << two << "";
-    QTest::newRow("dialog cancelled") << QStringList{"Kovács Bt.", "Szabó Kft."} << ""
-                                      << "" << two << "";
+    AddRow("no files", QStringList{}, "", "", QStringList{},
+           "Missing database files. Maybe you have to reinstall the "
+           "application.");
+    AddRow("only demo, no dialog", QStringList{"demo"}, "", "demo.db", QStringList{}, "");
+    AddRow("demo and one company, no dialog", QStringList{"demo", "Kovács Bt."}, "", "kovacs_bt.db",
+           QStringList{}, "");
+    AddRow("demo and two companies: dialog without demo",
+           QStringList{"demo", "Kovács Bt.", "Szabó Kft."}, "szabo_kft.db", "szabo_kft.db", two,
+           "");
+    AddRow("dialog cancelled", QStringList{"Kovács Bt.", "Szabó Kft."}, "", "", two, "");
 }
 
 void TestCompanies::startupChoice()
@@ -208,21 +199,23 @@ void TestCompanies::commandLinePath()
     QVERIFY(!QFile::exists(missing));
 }
 
-void TestCompanies::entriesReadWithoutDisturbingSession()
+// A company is made and listed while another is worked on, which stays the current session.
+void TestCompanies::createAndListWhileAnotherIsOpen()
 {
     const QString kovacs = company("Kovács Bt.");
-    const NewCompany szabo{"Szabó Kft.", "22222222-2-42", "4025", "Debrecen", "Piac u. 20."};
-    QString szaboPath;
-    QVERIFY(CreateCompany(szabo, m_dir->path(), m_ui, &szaboPath));
-    const QByteArray before = FileBytes(szaboPath);
-
     QVERIFY(Database::open(kovacs));
-    const CompanyEntry entry = ReadCompanyEntry(szaboPath);
+    const NewCompany szabo{"Szabó és Társa Kft.", "22222222-2-42", "4025", "Debrecen",
+                           "Piac u. 20."};
+    QString path;
+    QVERIFY(CreateCompany(szabo, m_dir->path(), m_ui, &path));
+    QCOMPARE(QFileInfo(path).fileName(), "szabo_es_tarsa_kft.db");
+    const QByteArray before = FileBytes(path);
+    const CompanyEntry entry = ReadCompanyEntry(path);
     QCOMPARE(QStringList({entry.name, entry.zip, entry.city, entry.address, entry.taxNo}),
              QStringList({szabo.name, szabo.zip, szabo.city, szabo.address, szabo.taxNo}));
+    QCOMPARE(FileBytes(path), before);
     QCOMPARE(Database::path(), kovacs);
     QCOMPARE(SelectValue("select SETUP_NAME from SETUP"), QVariant("Kovács Bt."));
-    QCOMPARE(FileBytes(szaboPath), before);
 
     // A file that is not a company database lists with empty data.
     QFile empty(file("ures.db"));
@@ -234,16 +227,11 @@ void TestCompanies::fileNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("file");
-    QTest::newRow("plain") << "Minta Kft."
-                           << "minta_kft.db";
-    QTest::newRow("accents folded") << "Árvíztűrő Tükörfúrógép Zrt."
-                                    << "arvizturo_tukorfurogep_zrt.db";
-    QTest::newRow("taken name gets a number") << "Kovács Bt."
-                                              << "kovacs_bt_2.db";
-    QTest::newRow("demonstration name kept free") << "Demo"
-                                                  << "demo_2.db";
-    QTest::newRow("nothing usable") << "???"
-                                    << "company.db";
+    AddRow("plain", "Minta Kft.", "minta_kft.db");
+    AddRow("accents folded", "Árvíztűrő Tükörfúrógép Zrt.", "arvizturo_tukorfurogep_zrt.db");
+    AddRow("taken name gets a number", "Kovács Bt.", "kovacs_bt_2.db");
+    AddRow("demonstration name kept free", "Demo", "demo_2.db");
+    AddRow("nothing usable", "???", "company.db");
 }
 
 void TestCompanies::fileNames()
@@ -255,25 +243,6 @@ void TestCompanies::fileNames()
     QCOMPARE(CompanyFileName(name, m_dir->path()), file);
 }
 
-void TestCompanies::createCompany()
-{
-    const QString current = company("Kovács Bt.");
-    QVERIFY(Database::open(current));
-    const QString path = company("Szabó és Társa Kft.", "22222222-2-42");
-    QCOMPARE(QFileInfo(path).fileName(), "szabo_es_tarsa_kft.db");
-    // The open company stays the current session.
-    QCOMPARE(Database::path(), current);
-    QCOMPARE(SelectValue("select SETUP_NAME from SETUP"), QVariant("Kovács Bt."));
-
-    QVERIFY(OpenCompany(path, m_ui));
-    QVERIFY(m_ui.messages.isEmpty());
-    QCOMPARE(ReadDbVersion(), 302);
-    QCOMPARE(
-        QStringList({Setup::current().text("SETUP_NAME"), Setup::current().text("SETUP_TAX_NO"),
-                     Setup::current().text("SETUP_CITY")}),
-        QStringList({"Szabó és Társa Kft.", "22222222-2-42", "Budapest"}));
-}
-
 void TestCompanies::createRefusals_data()
 {
     QTest::addColumn<QString>("name");
@@ -281,33 +250,15 @@ void TestCompanies::createRefusals_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("message");
     const char* taxNoTaken = "It is not possible to create a new database with an existing tax no.";
-    QTest::newRow("same tax number") << "Másik Kft."
-                                     << "11111111-2-41"
-                                     << "" << taxNoTaken;
-    QTest::newRow("same tax number written differently") << "Másik Kft."
-                                                         << " 11111111 2 41"
-                                                         << "" << taxNoTaken;
-    QTest::newRow("tax number of the demonstration company") << "Másik Kft."
-                                                             << "12345676-2-41"
-                                                             << "" << taxNoTaken;
-    QTest::newRow("no name") << "  "
-                             << "33333333-2-43"
-                             << ""
-                             << "Name field must have a value.";
-    QTest::newRow("no tax number") << "Másik Kft."
-                                   << ""
-                                   << ""
-                                   << "Tax No field must have a value.";
-    QTest::newRow("file exists") << "Másik Kft."
-                                 << "33333333-2-43"
-                                 << "kovacs_bt.db"
-                                 << "kovacs_bt.db already exists.";
-    QTest::newRow("file would be hidden")
-        << "Másik Kft."
-        << "33333333-2-43"
-        << ".masik.db"
-        << "The file name must end with \".db\", be longer than three characters and must not "
-           "begin with \".\".";
+    AddRow("same tax number", "Másik Kft.", "11111111-2-41", "", taxNoTaken);
+    AddRow("same tax number written differently", "Másik Kft.", " 11111111 2 41", "", taxNoTaken);
+    AddRow("no name", "  ", "33333333-2-43", "", "Name field must have a value.");
+    AddRow("no tax number", "Másik Kft.", "", "", "Tax No field must have a value.");
+    AddRow("file exists", "Másik Kft.", "33333333-2-43", "kovacs_bt.db",
+           "kovacs_bt.db already exists.");
+    AddRow("file would be hidden", "Másik Kft.", "33333333-2-43", ".masik.db",
+           "The file name must end with \".db\", be longer than three characters and must not "
+           "begin with \".\".");
 }
 
 void TestCompanies::createRefusals()
@@ -317,12 +268,11 @@ void TestCompanies::createRefusals()
     QFETCH(QString, file);
     QFETCH(QString, message);
     QVERIFY(!company("Kovács Bt.", "11111111-2-41").isEmpty());
-    QVERIFY(!company("demo").isEmpty());
     QString path;
     const Result r = CreateCompany({name, taxNo, {}, {}, {}, file}, m_dir->path(), m_ui, &path);
     QCOMPARE(r.message(), message);
     QVERIFY(path.isEmpty());
-    QCOMPARE(FileNames(CompanyFiles(m_dir->path())), QStringList({"demo.db", "kovacs_bt.db"}));
+    QCOMPARE(FileNames(CompanyFiles(m_dir->path())), QStringList{"kovacs_bt.db"});
 }
 
 void TestCompanies::changeCompany_data()
@@ -330,14 +280,12 @@ void TestCompanies::changeCompany_data()
     QTest::addColumn<QStringList>("companies");
     QTest::addColumn<QString>("pick");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no databases") << QStringList{} << ""
-                                  << "Error: there are no databases.";
-    QTest::newRow("only one beside the demo") << QStringList{"demo", "Kovács Bt."} << ""
-                                              << "There is only one database.";
-    QTest::newRow("dialog cancelled") << QStringList{"Kovács Bt.", "Szabó Kft."} << ""
-                                      << "";
-    QTest::newRow("changed") << QStringList{"Kovács Bt.", "Szabó Kft."} << "szabo_kft.db"
-                             << "Database/company changed successfully to:&Szabó Kft.";
+    AddRow("no databases", QStringList{}, "", "Error: there are no databases.");
+    AddRow("only one beside the demo", QStringList{"demo", "Kovács Bt."}, "",
+           "There is only one database.");
+    AddRow("dialog cancelled", QStringList{"Kovács Bt.", "Szabó Kft."}, "", "");
+    AddRow("changed", QStringList{"Kovács Bt.", "Szabó Kft."}, "szabo_kft.db",
+           "Database/company changed successfully to:&Szabó Kft.");
 }
 
 void TestCompanies::changeCompany()

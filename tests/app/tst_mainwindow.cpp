@@ -1,11 +1,10 @@
 // The main window's rules: title, menus, commands without handlers, when lists are read, and
 // the backup and company commands as the user drives them.
 #include "ModalDriver.h"
-#include "ScriptedInteraction.h"
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "Columns.h"
-#include "app/Backup.h"
 #include "app/BaseFolder.h"
 #include "app/Database.h"
 #include "app/Setup.h"
@@ -63,17 +62,12 @@ class TestMainWindow : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void title_data();
-    void title();
     void titleWithNullRow();
     void menus();
-    void tabs();
     void commandsWithoutHandlersAreDisabled();
     void listLoading_data();
     void listLoading();
-    void changeOfCompanyRereadsLists();
-    void backupCommandProposesName();
-    void restoreCommand();
+    void backupAndRestoreCommands();
     void masterDataPagesFollowLoadingRules_data();
     void masterDataPagesFollowLoadingRules();
     void changeCompanyCommand();
@@ -118,30 +112,6 @@ MainWindow& TestMainWindow::open(std::initializer_list<MainTab> counted)
     return *m_window;
 }
 
-void TestMainWindow::title_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("taxNo");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("company") << "Minta Kft"
-                             << "12345678-2-41"
-                             << "Vantrell Invoicer - Minta Kft (adószám:12345678-2-41)";
-    QTest::newRow("empty") << ""
-                           << ""
-                           << "Vantrell Invoicer -  (adószám:)";
-    QTest::newRow("no tax number") << "Árvíztűrő Bt."
-                                   << ""
-                                   << "Vantrell Invoicer - Árvíztűrő Bt. (adószám:)";
-}
-
-void TestMainWindow::title()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, taxNo);
-    QFETCH(QString, title);
-    QCOMPARE(MainWindowTitle(name, taxNo), title);
-}
-
 void TestMainWindow::titleWithNullRow()
 {
     QVERIFY(ExecSql("delete from SETUP"));
@@ -151,28 +121,11 @@ void TestMainWindow::titleWithNullRow()
 
 void TestMainWindow::menus()
 {
-    QFile file(QFINDTESTDATA("../data/app/menus.txt"));
-    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    QStringList expected = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-    expected.removeIf([](const QString& line) { return line.startsWith('#'); });
     MainWindow window;
     QStringList lines;
     for (const QAction* top : window.menuBar()->actions())
         MenuTree(top->menu(), top->text(), lines);
-    QCOMPARE(lines, expected);
-}
-
-void TestMainWindow::tabs()
-{
-    MainWindow window;
-    auto* page = new CountingTab;
-    window.setTabPage(MainTab::Partners, page);
-    QCOMPARE(window.tabPage(MainTab::Partners), page);
-    auto* tabs = Child<QTabWidget>(&window, "m_tabs");
-    QStringList captions;
-    for (int i = 0; i < tabs->count(); ++i)
-        captions << tabs->tabText(i);
-    QCOMPARE(captions, QStringList({"Orders/Invoices", "Products", "Partners", "Csekkek"}));
+    QCOMPARE(lines, TestDataLines("app/menus.txt"));
 }
 
 void TestMainWindow::commandsWithoutHandlersAreDisabled()
@@ -191,15 +144,6 @@ void TestMainWindow::commandsWithoutHandlersAreDisabled()
     QCOMPARE(runs, 11);
     window.setCommand(MainCommand::Setup, {});
     QVERIFY(!setup->isEnabled());
-
-    // What works now is reachable.
-    RegisterCommands(window);
-    for (MainCommand c :
-         {MainCommand::DoBackup, MainCommand::RestoreBackup, MainCommand::ChangeCompany,
-          MainCommand::NewCompany, MainCommand::Exit, MainCommand::VatKeys,
-          MainCommand::NoVatReasons, MainCommand::PaymentMethods, MainCommand::StatNumbers,
-          MainCommand::Languages, MainCommand::Countries, MainCommand::Currencies})
-        QVERIFY2(window.action(c)->isEnabled(), qPrintable(window.action(c)->text()));
 }
 
 void TestMainWindow::listLoading_data()
@@ -210,11 +154,10 @@ void TestMainWindow::listLoading_data()
     // products again.
     QTest::addColumn<QList<int>>("orders");
     QTest::addColumn<QList<int>>("products");
-    QTest::newRow("both off") << false << false << QList<int>{0, 0, 0, 0} << QList<int>{0, 0, 0, 0};
-    QTest::newRow("on start") << true << false << QList<int>{1, 1, 1, 1} << QList<int>{0, 1, 1, 1};
-    QTest::newRow("on tab change")
-        << false << true << QList<int>{0, 0, 1, 1} << QList<int>{0, 1, 1, 2};
-    QTest::newRow("both on") << true << true << QList<int>{1, 1, 2, 2} << QList<int>{0, 1, 1, 2};
+    AddRow("both off", false, false, QList<int>{0, 0, 0, 0}, QList<int>{0, 0, 0, 0});
+    AddRow("on start", true, false, QList<int>{1, 1, 1, 1}, QList<int>{0, 1, 1, 1});
+    AddRow("on tab change", false, true, QList<int>{0, 0, 1, 1}, QList<int>{0, 1, 1, 2});
+    AddRow("both on", true, true, QList<int>{1, 1, 2, 2}, QList<int>{0, 1, 1, 2});
 }
 
 void TestMainWindow::listLoading()
@@ -237,32 +180,14 @@ void TestMainWindow::listLoading()
     QCOMPARE(seenProducts, products);
 }
 
-// The lists must never go on showing the rows of the company that was left.
-void TestMainWindow::changeOfCompanyRereadsLists()
+// The backup is proposed in the backup folder under the company's name; restored after later
+// work, it brings the saved company back into the window.
+void TestMainWindow::backupAndRestoreCommands()
 {
-    const QString second = m_company->dir() + "/masik.db";
-    QVERIFY(QFile::copy(m_company->path(), second));
-    MainWindow& window = open({MainTab::Orders, MainTab::Partners, MainTab::Cheques});
-    window.showTab(MainTab::Partners);
-    QCOMPARE(reloads(MainTab::Partners), 0);
-
-    QVERIFY(Database::open(second));
-    SetCompany("Második Kft", "22222222-2-22");
-    window.companyChanged();
-    QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Második Kft (adószám:22222222-2-22)");
-    QCOMPARE(window.companyFile(), QFileInfo(second).absoluteFilePath());
-    QCOMPARE(reloads(MainTab::Partners), 1);
-    QCOMPARE(reloads(MainTab::Orders), 0);
-    window.showTab(MainTab::Orders);
-    QCOMPARE(reloads(MainTab::Orders), 1);
-    window.showTab(MainTab::Cheques);
-    QCOMPARE(reloads(MainTab::Cheques), 0);
-}
-
-void TestMainWindow::backupCommandProposesName()
-{
+    SetCompany("Mentett Kft", "1");
+    MainWindow& window = open();
     QString folder, proposed;
-    ModalDriver driver({[&](QWidget* w) {
+    ModalDriver saving({[&](QWidget* w) {
                             auto* dialog = qobject_cast<QFileDialog*>(w);
                             QVERIFY2(dialog, w->metaObject()->className());
                             folder = dialog->directory().absolutePath();
@@ -270,46 +195,25 @@ void TestMainWindow::backupCommandProposesName()
                             static_cast<QDialog*>(dialog)->accept();
                         },
                         Answer(&m_messages)});
-    open().action(MainCommand::DoBackup)->trigger();
-    QVERIFY(driver.done());
+    window.action(MainCommand::DoBackup)->trigger();
+    QVERIFY(saving.done());
     QCOMPARE(folder, BaseFolder::backupFolder());
     QCOMPARE(proposed, "company.dbk");
-    QCOMPARE(m_messages, QStringList{"Backup file saved successfully."});
-    QVERIFY(QFile::exists(BaseFolder::backupFolder() + "/company.dbk"));
     QVERIFY(Database::isOpen());
-}
 
-// Another company's backup is refused and the company kept; its own backup replaces the file and
-// the window shows the restored company.
-void TestMainWindow::restoreCommand()
-{
-    SetCompany("Mentett Kft", "1");
-    const QString own = BaseFolder::backupFolder() + "/company.dbk";
-    const QString other = BaseFolder::backupFolder() + "/masik.dbk";
-    ScriptedInteraction quiet;
-    QVERIFY(DoBackup(m_company->path(), own, quiet));
-    QVERIFY(QFile::copy(own, other));
     SetCompany("Későbbi Kft", "2");
-    MainWindow& window = open();
-
-    ModalDriver refusing(
-        {Answer(&m_messages, QMessageBox::Yes), ChooseFile(other), Answer(&m_messages)});
-    window.action(MainCommand::RestoreBackup)->trigger();
-    QVERIFY(refusing.done());
-    QCOMPARE(m_messages, QStringList({"The content of current database will be overwritten&by "
-                                      "the backup file you select to restore.&Do you want to "
-                                      "continue?",
-                                      "The selected file is not a backup of currently active "
-                                      "database/company."}));
-    QVERIFY(Database::isOpen());
-    QCOMPARE(SelectValue("select SETUP_NAME from SETUP"), QVariant("Későbbi Kft"));
-
+    window.companyChanged();
     const int reloadsBefore = reloads(MainTab::Orders);
-    ModalDriver restoring(
-        {Answer(&m_messages, QMessageBox::Yes), ChooseFile(own), Answer(&m_messages)});
+    ModalDriver restoring({Answer(&m_messages, QMessageBox::Yes),
+                           ChooseFile(BaseFolder::backupFolder() + "/company.dbk"),
+                           Answer(&m_messages)});
     window.action(MainCommand::RestoreBackup)->trigger();
     QVERIFY(restoring.done());
-    QCOMPARE(m_messages.value(3), "Backup file restored successfully.");
+    QCOMPARE(m_messages, QStringList({"Backup file saved successfully.",
+                                      "The content of current database will be overwritten&by "
+                                      "the backup file you select to restore.&Do you want to "
+                                      "continue?",
+                                      "Backup file restored successfully."}));
     QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Mentett Kft (adószám:1)");
     QCOMPARE(reloads(MainTab::Orders), reloadsBefore + 1);
 }
@@ -318,8 +222,8 @@ void TestMainWindow::masterDataPagesFollowLoadingRules_data()
 {
     QTest::addColumn<bool>("onStart");
     QTest::addColumn<int>("rowsOnOpening");
-    QTest::newRow("load on start") << true << 1;
-    QTest::newRow("both off") << false << 0;
+    AddRow("load on start", true, 1);
+    AddRow("both off", false, 0);
 }
 
 // The real Products and Partners pages are read by the window's rules, not when they are made.
@@ -340,6 +244,7 @@ void TestMainWindow::masterDataPagesFollowLoadingRules()
     QCOMPARE(partners->model()->rowCount(), 1);
 }
 
+// The lists must never go on showing the rows of the company that was left.
 void TestMainWindow::changeCompanyCommand()
 {
     const QString first = BaseFolder::dbFolder() + "/elso.db";
@@ -349,7 +254,9 @@ void TestMainWindow::changeCompanyCommand()
     QVERIFY(Database::open(second));
     SetCompany("Második Kft", "22222222-2-22");
     QVERIFY(Database::open(first));
-    MainWindow& window = open();
+    MainWindow& window = open({MainTab::Orders, MainTab::Partners, MainTab::Cheques});
+    window.showTab(MainTab::Partners);
+    QCOMPARE(reloads(MainTab::Partners), 0);
 
     QStringList offered;
     ModalDriver driver({[&offered](QWidget* w) {
@@ -366,7 +273,13 @@ void TestMainWindow::changeCompanyCommand()
     QCOMPARE(m_messages, QStringList{"Database/company changed successfully to:&Második Kft"});
     QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Második Kft (adószám:22222222-2-22)");
     QCOMPARE(window.companyFile(), second);
+    // The shown list is read at once, one seen before when shown again, one never seen not at all.
+    QCOMPARE(reloads(MainTab::Partners), 1);
+    QCOMPARE(reloads(MainTab::Orders), 0);
+    window.showTab(MainTab::Orders);
     QCOMPARE(reloads(MainTab::Orders), 1);
+    window.showTab(MainTab::Cheques);
+    QCOMPARE(reloads(MainTab::Cheques), 0);
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -3,6 +3,7 @@
 // bank account is added, a country chooses its currency, and the user's own company is made.
 #include "ModalDriver.h"
 #include "ScriptedInteraction.h"
+#include "TestData.h"
 
 #include "app/BaseFolder.h"
 #include "app/CompanyCreate.h"
@@ -127,11 +128,11 @@ void TestNewUser::basicDataWindowsOpen_data()
 {
     QTest::addColumn<MainCommand>("command");
     QTest::addColumn<QString>("button");
-    QTest::newRow("VAT keys") << MainCommand::VatKeys << "m_edit";
-    QTest::newRow("no VAT reasons") << MainCommand::NoVatReasons << "m_edit";
-    QTest::newRow("payment methods") << MainCommand::PaymentMethods << "m_edit";
-    QTest::newRow("stat numbers") << MainCommand::StatNumbers << "m_new";
-    QTest::newRow("languages") << MainCommand::Languages << "m_edit";
+    AddRow("VAT keys", MainCommand::VatKeys, "m_edit");
+    AddRow("no VAT reasons", MainCommand::NoVatReasons, "m_edit");
+    AddRow("payment methods", MainCommand::PaymentMethods, "m_edit");
+    AddRow("stat numbers", MainCommand::StatNumbers, "m_new");
+    AddRow("languages", MainCommand::Languages, "m_edit");
 }
 
 void TestNewUser::basicDataWindowsOpen()

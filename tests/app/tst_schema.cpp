@@ -2,6 +2,7 @@
 // exact names, the defaults and uniqueness rules other parts rely on, and the basic data.
 #include "OldCompanyFile.h"
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "app/SqlStatement.h"
 
@@ -10,37 +11,19 @@
 
 namespace {
 
-// Tables in creation order with their columns in declaration order.
-QList<QPair<QString, QStringList>> DeclaredTables()
+// "NAME [unique ]TABLE(COLUMN)" for every index of the open company, sorted.
+QStringList Indexes()
 {
-    QList<QPair<QString, QStringList>> tables;
-    QFile file(QFINDTESTDATA("../data/app/schema_columns.txt"));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return tables;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        if (line.front().isSpace())
-            tables.last().second << line.split(u' ', Qt::SkipEmptyParts);
-        else
-            tables.append({line.trimmed(), {}});
-    }
-    return tables;
-}
-
-// name -> "unique TABLE(COLUMN)" for every index the create script made.
-QMap<QString, QString> Indexes()
-{
-    QMap<QString, QString> indexes;
+    QStringList indexes;
     QSqlQuery q("select name, tbl_name, sql from sqlite_master where type = 'index'",
                 Database::session());
     while (q.next()) {
         const QString sql = q.value(2).toString();
-        const QString unique =
-            sql.startsWith("create unique", Qt::CaseInsensitive) ? "unique " : "";
-        indexes.insert(q.value(0).toString(),
-                       unique + q.value(1).toString() + sql.mid(sql.indexOf(u'(')));
+        const bool unique = sql.startsWith("create unique", Qt::CaseInsensitive);
+        indexes << q.value(0).toString() + (unique ? " unique " : " ") + q.value(1).toString() +
+                       sql.mid(sql.indexOf(u'('));
     }
+    indexes.sort();
     return indexes;
 }
 
@@ -58,8 +41,6 @@ private Q_SLOTS:
     void cleanup() { m_company.reset(); }
     void tablesAndColumns();
     void indexes();
-    void uniqueCodes_data();
-    void uniqueCodes();
     void defaults();
     void basicData();
 
@@ -67,13 +48,19 @@ private:
     std::optional<TestCompany> m_company;
 };
 
+// Tables in creation order, each followed by its columns (indented) in declaration order.
 void TestSchema::tablesAndColumns()
 {
     QStringList expected;
-    for (const auto& [table, columns] : DeclaredTables()) {
-        QCOMPARE(TableColumns(table), columns);
-        expected << table;
+    QHash<QString, QStringList> columns;
+    for (const QString& line : TestDataLines("app/schema_columns.txt")) {
+        if (line.front().isSpace())
+            columns[expected.last()] << line.split(u' ', Qt::SkipEmptyParts);
+        else
+            expected << line;
     }
+    for (const QString& table : expected)
+        QCOMPARE(TableColumns(table), columns.value(table));
     expected.sort();
     QStringList tables = Database::session().tables();
     tables.removeAll("sqlite_sequence");
@@ -81,53 +68,12 @@ void TestSchema::tablesAndColumns()
     QCOMPARE(tables, expected);
 }
 
+// The names are truncated on purpose: upgrades drop and create them by these names.
 void TestSchema::indexes()
 {
-    const QMap<QString, QString> indexes = Indexes();
-    QCOMPARE(indexes.size(), 37);
-    QVERIFY(!indexes.contains("IDX_PRODUCT$PRODUCT_NAME"));
-    // The names are truncated on purpose: upgrades drop and create them by these names.
-    QCOMPARE(indexes.value("IDX_RTNER$PARTNER_NAME_ASCII"), "PARTNER(PARTNER_NAME_ASCII)");
-    QCOMPARE(indexes.value("IDX_SLATION_PAYMENTMETHOD_ID"),
-             "PAYMENTMETHODTRANSLATION(PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID)");
-    QCOMPARE(indexes.value("IDX_$PRODUCTPRICE_PRODUCT_ID"),
-             "PRODUCTPRICE(PRODUCTPRICE_PRODUCT_ID)");
-    QCOMPARE(indexes.value("IDX_M$ORDERITEM_DATE_SHIPPED"), "ORDERITEM(ORDERITEM_DATE_SHIPPED)");
-    QCOMPARE(indexes.value("IDX_$BANKITEM_INVOICE_NO_STR"), "BANKITEM(BANKITEM_INVOICE_NO_STR)");
-    QStringList unique;
-    for (auto it = indexes.cbegin(); it != indexes.cend(); ++it) {
-        if (it.value().startsWith("unique "))
-            unique << it.key();
-    }
-    QCOMPARE(unique, QStringList({"IDX_CHEQUE$CHEQUE_CODE", "IDX_EQUE$CHEQUE_ORDERHEAD_ID",
-                                  "IDX_ETHOD$PAYMENTMETHOD_CODE", "IDX_ICE$INVOICE_ORDERHEAD_ID",
-                                  "IDX_LANG$LANG_CODE", "IDX_ORDERHEAD$ORDERHEAD_CODE",
-                                  "IDX_ORDERITEM$ORDERITEM_CODE", "IDX_PARTNER$PARTNER_CODE",
-                                  "IDX_PRODUCT$PRODUCT_CODE", "IDX_TREASON$NOVATREASON_CODE",
-                                  "IDX_UNTRY_INTERNATIONAL_CODE", "IDX_VAT$VAT_CODE"}));
-}
-
-void TestSchema::uniqueCodes_data()
-{
-    QTest::addColumn<QString>("insert");
-    QTest::addColumn<QVariant>("code");
-    QTest::addColumn<bool>("secondSucceeds");
-    const char* partner = "insert into PARTNER (PARTNER_CODE) values (?)";
-    QTest::newRow("partner code twice") << partner << QVariant("P1") << false;
-    QTest::newRow("partner without code twice") << partner << QVariant() << true;
-    QTest::newRow("two cheques of one order")
-        << "insert into CHEQUE (CHEQUE_ORDERHEAD_ID) values (?)" << QVariant(7) << false;
-    QTest::newRow("two invoice rows of one order")
-        << "insert into INVOICE (INVOICE_ORDERHEAD_ID) values (?)" << QVariant(7) << false;
-}
-
-void TestSchema::uniqueCodes()
-{
-    QFETCH(QString, insert);
-    QFETCH(QVariant, code);
-    QFETCH(bool, secondSucceeds);
-    QVERIFY(ExecSql(insert, {code}));
-    QCOMPARE(ExecSql(insert, {code}).ok(), secondSucceeds);
+    QStringList expected = TestDataLines("app/schema_indexes.txt");
+    expected.sort();
+    QCOMPARE(Indexes(), expected);
 }
 
 void TestSchema::defaults()

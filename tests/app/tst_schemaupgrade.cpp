@@ -3,6 +3,7 @@
 #include "OldCompanyFile.h"
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "app/Database.h"
 #include "app/DatabasePrepare.h"
@@ -104,12 +105,12 @@ void TestSchemaUpgrade::wholeChain_data()
 {
     QTest::addColumn<int>("version");
     QTest::addColumn<int>("roundDigits");
-    QTest::newRow("no version") << -1 << 0;
-    QTest::newRow("1") << 1 << 2;
-    QTest::newRow("2") << 2 << 1;
-    QTest::newRow("3") << 3 << 1;
-    QTest::newRow("300") << 300 << 1;
-    QTest::newRow("301") << 301 << 1;
+    AddRow("no version", -1, 0);
+    AddRow("1", 1, 2);
+    AddRow("2", 2, 1);
+    AddRow("3", 3, 1);
+    AddRow("300", 300, 1);
+    AddRow("301", 301, 1);
 }
 
 void TestSchemaUpgrade::wholeChain()
@@ -227,32 +228,25 @@ void TestSchemaUpgrade::failureKeepsOriginal_data()
     const QString unable = "Unable to upgrade database.";
     const QString failed = kErrorUpgrading;
     const QString aborted = "Upgrading database aborted.";
-    QTest::newRow("first step fails") << -1 << 0 << "" << 1 << -1 << QStringList{unable, failed};
+    AddRow("first step fails", -1, 0, "", 1, -1, QStringList{unable, failed});
     // The file must come back without a version table, not at version 3.
-    QTest::newRow("U4 fails after U1-U3")
-        << -1 << 0 << "" << 4 << -1 << QStringList{unable, failed};
-    QTest::newRow("last step of the whole chain fails")
-        << -1 << 0 << "" << 6 << -1 << QStringList{unable, failed};
-    QTest::newRow("U6 from 301 fails") << 301 << 0 << "" << 6 << -1 << QStringList{unable, failed};
-    QTest::newRow("index to drop is missing")
-        << 3 << 0 << "partner index" << 0 << -1 << QStringList{unable, failed};
-    QTest::newRow("old rounding setting is missing")
-        << 1 << 0 << "round digits" << 0 << -1
-        << QStringList{"Unable to load rounding setup.", failed};
+    AddRow("U4 fails after U1-U3", -1, 0, "", 4, -1, QStringList{unable, failed});
+    AddRow("last step of the whole chain fails", -1, 0, "", 6, -1, QStringList{unable, failed});
+    AddRow("U6 from 301 fails", 301, 0, "", 6, -1, QStringList{unable, failed});
+    AddRow("index to drop is missing", 3, 0, "partner index", 0, -1, QStringList{unable, failed});
+    AddRow("old rounding setting is missing", 1, 0, "round digits", 0, -1,
+           QStringList{"Unable to load rounding setup.", failed});
     // No step starts from a version the chain does not know, so the file never reaches 302.
-    QTest::newRow("unknown version") << 3 << 150 << "" << 0 << -1 << QStringList{unable, failed};
-    QTest::newRow("newer version")
-        << 301 << 303 << "" << 0 << -1
-        << QStringList{"The database version is newer, than the version of the billing "
-                       "software.&Upgrade the software to a newer version."};
-    QTest::newRow("safety copy cannot be made")
-        << 3 << 0 << "safety copy" << 0 << -1
-        << QStringList{"Error backing up database file before upgrade."};
-    QTest::newRow("cancelled before the first step")
-        << -1 << 0 << "" << 0 << 0 << QStringList{aborted};
-    QTest::newRow("cancelled before U4") << -1 << 0 << "" << 0 << 3 << QStringList{aborted};
-    QTest::newRow("payment method choice cancelled")
-        << -1 << 0 << "no answer" << 0 << -1 << QStringList{"Operation aborted.", aborted};
+    AddRow("unknown version", 3, 150, "", 0, -1, QStringList{unable, failed});
+    AddRow("newer version", 301, 303, "", 0, -1,
+           QStringList{"The database version is newer, than the version of the billing "
+                       "software.&Upgrade the software to a newer version."});
+    AddRow("safety copy cannot be made", 3, 0, "safety copy", 0, -1,
+           QStringList{"Error backing up database file before upgrade."});
+    AddRow("cancelled before the first step", -1, 0, "", 0, 0, QStringList{aborted});
+    AddRow("cancelled before U4", -1, 0, "", 0, 3, QStringList{aborted});
+    AddRow("payment method choice cancelled", -1, 0, "no answer", 0, -1,
+           QStringList{"Operation aborted.", aborted});
 }
 
 void TestSchemaUpgrade::failureKeepsOriginal()

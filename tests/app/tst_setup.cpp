@@ -1,5 +1,6 @@
 // The settings record: awkward template texts, an all-NULL row, and the one-row rule.
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "Columns.h"
 #include "app/Setup.h"
@@ -33,8 +34,8 @@ private Q_SLOTS:
     void cleanup() { m_company.reset(); }
     void templateTextsRoundTrip_data();
     void templateTextsRoundTrip();
-    void allNullRowReadsAsUnset();
-    void missingRowIsCreatedOnce();
+    void unsetRow_data();
+    void unsetRow();
     void failedWriteLeavesRowUnchanged_data();
     void failedWriteLeavesRowUnchanged();
 
@@ -45,11 +46,11 @@ private:
 void TestSetup::templateTextsRoundTrip_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("quotes") << "it's the company's 'own' [* \"Számla\"]";
-    QTest::newRow("line breaks of every kind") << "a\nb\r\nc\rd\n\n";
-    QTest::newRow("sql looking text") << "'); drop table SETUP; -- ? ?1 :name";
-    QTest::newRow("accents and symbols") << "ÁÉÍÓÖŐÚÜŰ áéíóöőúüű € ¤ \t end ";
-    QTest::newRow("empty") << QString(QLatin1String(""));
+    AddRow("quotes", "it's the company's 'own' [* \"Számla\"]");
+    AddRow("line breaks of every kind", "a\nb\r\nc\rd\n\n");
+    AddRow("sql looking text", "'); drop table SETUP; -- ? ?1 :name");
+    AddRow("accents and symbols", "ÁÉÍÓÖŐÚÜŰ áéíóöőúüű € ¤ \t end ");
+    AddRow("empty", QString(QLatin1String("")));
 }
 
 // Templates are written by the installer through write() and by the setup window through
@@ -76,10 +77,20 @@ void TestSetup::templateTextsRoundTrip()
     QCOMPARE(SetupRows(), 1);
 }
 
-void TestSetup::allNullRowReadsAsUnset()
+void TestSetup::unsetRow_data()
 {
+    QTest::addColumn<bool>("rowExists");
+    AddRow("all values NULL", true);
+    AddRow("no row at all", false);
+}
+
+// A company whose settings were never written reads every value as unset, and writing them
+// makes exactly one row.
+void TestSetup::unsetRow()
+{
+    QFETCH(bool, rowExists);
     QVERIFY(ExecSql("delete from SETUP"));
-    QVERIFY(ExecSql("insert into SETUP (SETUP_NAME) values (NULL)"));
+    QVERIFY(!rowExists || ExecSql("insert into SETUP (SETUP_NAME) values (NULL)"));
 
     Setup setup;
     QVERIFY(setup.load());
@@ -91,32 +102,22 @@ void TestSetup::allNullRowReadsAsUnset()
 
     // A flag written back from an unset one is stored as the text "0".
     setup.setFlag(Col::SETUP_ENTER_LIKE_TAB, setup.flag(Col::SETUP_ENTER_LIKE_TAB));
-    QVERIFY(setup.save());
-    QCOMPARE(Stored(Col::SETUP_ENTER_LIKE_TAB), QVariant("0"));
-}
-
-void TestSetup::missingRowIsCreatedOnce()
-{
-    QVERIFY(ExecSql("delete from SETUP"));
-
-    Setup setup;
-    QVERIFY(setup.load());
-    QVERIFY(!setup.flag(Col::SETUP_REFRESH_MAIN_WINDOW_DATA_ON_TAB_CHANGE));
     setup.set(Col::SETUP_TAX_NO, "12345678-2-41");
     QVERIFY(setup.save());
     QVERIFY(Setup::write({{Col::SETUP_ZIP, "1111"}}));
     QCOMPARE(SetupRows(), 1);
-    QCOMPARE(Stored(Col::SETUP_TAX_NO).toString(), "12345678-2-41");
-    QCOMPARE(Stored(Col::SETUP_ZIP).toString(), "1111");
+    QCOMPARE(Stored(Col::SETUP_ENTER_LIKE_TAB), QVariant("0"));
+    QCOMPARE(Stored(Col::SETUP_TAX_NO), QVariant("12345678-2-41"));
+    QCOMPARE(Stored(Col::SETUP_ZIP), QVariant("1111"));
 }
 
 void TestSetup::failedWriteLeavesRowUnchanged_data()
 {
     QTest::addColumn<QString>("badColumn");
     // Names are pasted into the statement: anything but a plain column name must not get there.
-    QTest::newRow("pasted assignment") << "SETUP_NAME = 'x', SETUP_ZIP";
+    AddRow("pasted assignment", "SETUP_NAME = 'x', SETUP_ZIP");
     // One statement: a column that does not exist fails the whole write.
-    QTest::newRow("unknown column") << "SETUP_NO_SUCH_COLUMN";
+    AddRow("unknown column", "SETUP_NO_SUCH_COLUMN");
 }
 
 void TestSetup::failedWriteLeavesRowUnchanged()

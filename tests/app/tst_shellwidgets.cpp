@@ -1,4 +1,6 @@
 // The program-wide input helpers: Enter as Tab in edit dialogs, and the date field.
+#include "TestData.h"
+
 #include "app/ui/DateEdit.h"
 #include "app/ui/EnterLikeTab.h"
 
@@ -99,16 +101,16 @@ void TestShellWidgets::enter_data()
     QTest::addColumn<int>("key");
     QTest::addColumn<QString>("to"); // empty: the dialog was accepted
     const int enter = Qt::Key_Return;
-    QTest::newRow("line edit") << true << "line" << enter << "spin";
-    QTest::newRow("keypad enter") << true << "line" << int(Qt::Key_Enter) << "spin";
-    QTest::newRow("spin box") << true << "spin" << enter << "editable combo";
-    QTest::newRow("editable combo") << true << "editable combo" << enter << "combo";
-    QTest::newRow("combo") << true << "combo" << enter << "date";
-    QTest::newRow("date field") << true << "date" << enter << "notes";
+    AddRow("line edit", true, "line", enter, "spin");
+    AddRow("keypad enter", true, "line", int(Qt::Key_Enter), "spin");
+    AddRow("spin box", true, "spin", enter, "editable combo");
+    AddRow("editable combo", true, "editable combo", enter, "combo");
+    AddRow("combo", true, "combo", enter, "date");
+    AddRow("date field", true, "date", enter, "notes");
     // A multi-line field takes Enter as a line break; on a button Enter presses it.
-    QTest::newRow("multi-line field") << true << "notes" << enter << "notes";
-    QTest::newRow("button") << true << "ok" << enter << "";
-    QTest::newRow("rule switched off") << false << "line" << enter << "";
+    AddRow("multi-line field", true, "notes", enter, "notes");
+    AddRow("button", true, "ok", enter, "");
+    AddRow("rule switched off", false, "line", enter, "");
 }
 
 void TestShellWidgets::enter()
@@ -150,14 +152,14 @@ void TestShellWidgets::dateTyping_data()
     QTest::addColumn<QDate>("date");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<bool>("valid");
-    QTest::newRow("display form") << "2024.03.05." << QDate(2024, 3, 5) << "2024.03.05." << true;
-    QTest::newRow("short parts") << "2024.3.5" << QDate(2024, 3, 5) << "2024.03.05." << true;
-    QTest::newRow("iso form") << "2024-12-31" << QDate(2024, 12, 31) << "2024.12.31." << true;
-    QTest::newRow("leap day") << "2024.02.29." << QDate(2024, 2, 29) << "2024.02.29." << true;
-    QTest::newRow("no such day") << "2023.02.29." << QDate() << "2023.02.29." << false;
-    QTest::newRow("letters are refused") << "2024.marc" << QDate() << "2024." << false;
-    QTest::newRow("double dot refused") << "2024..5" << QDate() << "2024.5" << false;
-    QTest::newRow("empty") << "" << QDate() << "" << true;
+    AddRow("display form", "2024.03.05.", QDate(2024, 3, 5), "2024.03.05.", true);
+    AddRow("short parts", "2024.3.5", QDate(2024, 3, 5), "2024.03.05.", true);
+    AddRow("iso form", "2024-12-31", QDate(2024, 12, 31), "2024.12.31.", true);
+    AddRow("leap day", "2024.02.29.", QDate(2024, 2, 29), "2024.02.29.", true);
+    AddRow("no such day", "2023.02.29.", QDate(), "2023.02.29.", false);
+    AddRow("letters are refused", "2024.marc", QDate(), "2024.", false);
+    AddRow("double dot refused", "2024..5", QDate(), "2024.5", false);
+    AddRow("empty", "", QDate(), "", true);
 }
 
 void TestShellWidgets::dateTyping()

@@ -1,5 +1,6 @@
 // The statement helpers every store relies on: bound values, flags, scripts, transactions.
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "app/SqlScript.h"
 #include "app/SqlStatement.h"
@@ -25,13 +26,13 @@ void TestSqlHelpers::flags_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("set");
-    QTest::newRow("text 1") << QVariant("1") << true;
-    QTest::newRow("number 1") << QVariant(1) << true;
-    QTest::newRow("text 0") << QVariant("0") << false;
-    QTest::newRow("number 0") << QVariant(0) << false;
-    QTest::newRow("null") << QVariant() << false;
-    QTest::newRow("text 10") << QVariant("10") << false;
-    QTest::newRow("empty") << QVariant(QString()) << false;
+    AddRow("text 1", QVariant("1"), true);
+    AddRow("number 1", QVariant(1), true);
+    AddRow("text 0", QVariant("0"), false);
+    AddRow("number 0", QVariant(0), false);
+    AddRow("null", QVariant(), false);
+    AddRow("text 10", QVariant("10"), false);
+    AddRow("empty", QVariant(QString()), false);
 }
 
 void TestSqlHelpers::flags()
@@ -45,11 +46,11 @@ void TestSqlHelpers::numbers_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<double>("number");
-    QTest::newRow("text") << QVariant("10") << 10.0;
-    QTest::newRow("decimal comma") << QVariant("2,5") << 2.5;
-    QTest::newRow("real") << QVariant(12.25) << 12.25;
-    QTest::newRow("null") << QVariant() << 0.0;
-    QTest::newRow("garbage") << QVariant("abc") << 0.0;
+    AddRow("text", QVariant("10"), 10.0);
+    AddRow("decimal comma", QVariant("2,5"), 2.5);
+    AddRow("real", QVariant(12.25), 12.25);
+    AddRow("null", QVariant(), 0.0);
+    AddRow("garbage", QVariant("abc"), 0.0);
 }
 
 void TestSqlHelpers::numbers()

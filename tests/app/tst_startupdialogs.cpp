@@ -1,6 +1,7 @@
 // The dialogs of start-up: the company chooser hands back the chosen file and can add a company,
 // the check list reports its ticks, the SQL error dialog answers Retry or Cancel.
 #include "ModalDriver.h"
+#include "TestData.h"
 
 #include "app/CompanyCreate.h"
 #include "app/CompanyList.h"
@@ -91,8 +92,8 @@ void TestStartupDialogs::sqlErrorRetryOrCancel_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<bool>("retry");
-    QTest::newRow("retry") << "m_retry" << true;
-    QTest::newRow("cancel") << "m_cancel" << false;
+    AddRow("retry", "m_retry", true);
+    AddRow("cancel", "m_cancel", false);
 }
 
 void TestStartupDialogs::sqlErrorRetryOrCancel()

@@ -1,6 +1,7 @@
 // tallynorth-cli backup FILE and restore FILE: the company chosen as at start-up when --db is not
 // given, the messages and exit statuses a script sees, and an older backup upgraded on restore.
 #include "OldCompanyFile.h"
+#include "TestData.h"
 
 #include "app/Database.h"
 #include "app/SqlStatement.h"
@@ -98,8 +99,8 @@ void TestCliBackup::backupAndRestoreTheOnlyCompany()
 void TestCliBackup::severalCompaniesNeedDb_data()
 {
     QTest::addColumn<QString>("verb");
-    QTest::newRow("backup") << "backup";
-    QTest::newRow("restore") << "restore";
+    AddRow("backup", "backup");
+    AddRow("restore", "restore");
 }
 
 // A script cannot answer the selection dialog: it is told the companies and left to choose.
