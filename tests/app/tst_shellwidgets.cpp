@@ -1,9 +1,18 @@
-// The program-wide input helpers: Enter as Tab in edit dialogs, and the date field.
+// The shell's widgets: Enter as Tab in edit dialogs, the date field, and the dialogs of start-up
+// (the company chooser can add a company, the check list reports its ticks, the SQL error dialog
+// answers Retry or Cancel).
+#include "ModalDriver.h"
 #include "TestData.h"
 
+#include "app/CompanyList.h"
+#include "app/ui/CheckItemsDlg.h"
+#include "app/ui/CompanyListModel.h"
+#include "app/ui/DatabaseSelectDlg.h"
 #include "app/ui/DateEdit.h"
 #include "app/ui/EnterLikeTab.h"
+#include "app/ui/SqlErrorDlg.h"
 
+#include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QDialog>
 #include <QFormLayout>
@@ -12,6 +21,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTableView>
+#include <QTableWidget>
 #include <QtTest>
 
 namespace {
@@ -46,6 +57,11 @@ public:
     }
 };
 
+CompanyEntry Entry(const QString& file, const QString& name, const QString& taxNo = {})
+{
+    return {"/companies/" + file, name, {}, "Budapest", {}, taxNo};
+}
+
 // The widget that owns the focus, counting a spin box's or combo box's inner line edit as it.
 QWidget* FocusedField()
 {
@@ -70,6 +86,11 @@ private Q_SLOTS:
     void dateTyping_data();
     void dateTyping();
     void dateSetAndSignal();
+    void companyModel();
+    void chooserAddsCompany();
+    void checkItemsReportsTicks();
+    void sqlErrorRetryOrCancel_data();
+    void sqlErrorRetryOrCancel();
 
 private:
     template <class T = QWidget> T* field(const QString& name) const
@@ -190,6 +211,64 @@ void TestShellWidgets::dateSetAndSignal()
     QVERIFY(edit.text().isEmpty());
     QCOMPARE(changed.size(), 2);
     QCOMPARE(changed.last().first().toDate(), QDate());
+}
+
+void TestShellWidgets::companyModel()
+{
+    CompanyListModel model({Entry("a.db", "A Kft.")});
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QCOMPARE(model.columnCount(), 5);
+    model.append(Entry("b.db", "B Bt.", "2"));
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(model.index(1, CompanyListModel::TaxNo).data(), "2");
+    QCOMPARE(model.index(1, 0).data(CompanyListModel::PathRole), "/companies/b.db");
+}
+
+void TestShellWidgets::chooserAddsCompany()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    DatabaseSelectDlg dlg({Entry("a.db", "A Kft.")}, dir.path());
+    ModalDriver driver({[](QWidget* form) {
+        Child<QLineEdit>(form, "m_name")->setText("Új Cég Kft.");
+        Child<QLineEdit>(form, "m_tax_no")->setText("33333333-2-43");
+        static_cast<QDialog*>(form)->accept();
+    }});
+    Child<QPushButton>(&dlg, "m_new")->click();
+    QVERIFY(driver.done());
+    QCOMPARE(dlg.selectedPath(), dir.filePath("uj_ceg_kft.db"));
+    QCOMPARE(ReadCompanyEntry(dlg.selectedPath()).taxNo, "33333333-2-43");
+}
+
+void TestShellWidgets::checkItemsReportsTicks()
+{
+    CheckItemsDlg dlg("Select Payment Methods To Set Unpaid", "Payment Method", "Set To Unpaid",
+                      {"Csekk", "Készpénz", "Átutalás"});
+    auto* list = Child<QTableWidget>(&dlg, "m_list");
+    QCOMPARE(dlg.checked(), QList<bool>({false, false, false}));
+    list->item(2, 1)->setCheckState(Qt::Checked);
+    QCOMPARE(dlg.checked(), QList<bool>({false, false, true}));
+}
+
+void TestShellWidgets::sqlErrorRetryOrCancel_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("retry");
+    AddRow("retry", "m_retry", true);
+    AddRow("cancel", "m_cancel", false);
+}
+
+void TestShellWidgets::sqlErrorRetryOrCancel()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, retry);
+    QString statement;
+    ModalDriver driver({[&](QWidget* dlg) {
+        statement = Child<QPlainTextEdit>(dlg, "m_statement")->toPlainText();
+        Child<QPushButton>(dlg, qPrintable(button))->click();
+    }});
+    QCOMPARE(SqlErrorDlg::askRetry("no such index: X", "drop index X", nullptr), retry);
+    QCOMPARE(statement, "drop index X");
 }
 
 QTEST_MAIN(TestShellWidgets)
