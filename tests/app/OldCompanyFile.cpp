@@ -7,7 +7,6 @@
 
 #include <QRegularExpression>
 #include <QSqlQuery>
-#include <QtTest>
 
 namespace {
 
@@ -172,12 +171,6 @@ QStringList TableColumns(const QString& table)
     while (q.next())
         names << q.value(1).toString();
     return names;
-}
-
-QByteArray FileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 bool OldCompanyFile::build(const QString& path) const

@@ -24,6 +24,3 @@ struct OldCompanyFile
 
 // Column names of table on the current session, in declaration order.
 QStringList TableColumns(const QString& table);
-
-// The file's bytes, for byte-for-byte comparisons.
-QByteArray FileBytes(const QString& path);

@@ -6,7 +6,6 @@
 #include "app/CompanyChoice.h"
 #include "app/CompanyCreate.h"
 #include "app/Database.h"
-#include "app/DatabasePrepare.h"
 #include "app/Setup.h"
 #include "app/SqlStatement.h"
 #include "documents/LabelTranslations.h"
@@ -21,12 +20,6 @@ QStringList FileNames(const QStringList& paths)
     for (const QString& path : paths)
         names << QFileInfo(path).fileName();
     return names;
-}
-
-QByteArray FileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 } // namespace
@@ -130,8 +123,6 @@ void TestCompanies::discovery_data()
     AddRow("hidden, too short and other files are ignored",
            QStringList{".db", ".rejtett.db", "a.db", "ceg.db.bak", "jegyzet.txt"},
            QStringList{"a.db"}, QStringList{"a.db"});
-    AddRow("only the demonstration company", QStringList{"demo.db"}, QStringList{"demo.db"},
-           QStringList{"demo.db"});
     AddRow("demo hidden beside companies", QStringList{"szabo.db", "demo.db", "kovacs.db"},
            QStringList{"demo.db", "kovacs.db", "szabo.db"}, QStringList{"kovacs.db", "szabo.db"});
 }
@@ -227,7 +218,6 @@ void TestCompanies::fileNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("file");
-    AddRow("plain", "Minta Kft.", "minta_kft.db");
     AddRow("accents folded", "Árvíztűrő Tükörfúrógép Zrt.", "arvizturo_tukorfurogep_zrt.db");
     AddRow("taken name gets a number", "Kovács Bt.", "kovacs_bt_2.db");
     AddRow("demonstration name kept free", "Demo", "demo_2.db");
@@ -323,11 +313,6 @@ void TestCompanies::changeFromDemoToTheOnlyCompany()
     QVERIFY(ChangeCompanyDatabase(m_dir->path(), m_ui, selector("kovacs_bt.db")));
     QCOMPARE(m_offered, QList<QStringList>{{"kovacs_bt.db:Kovács Bt."}});
     QCOMPARE(Database::path(), kovacs);
-
-    // Now it is the one open: nothing to change to.
-    QVERIFY(!ChangeCompanyDatabase(m_dir->path(), m_ui, selector("kovacs_bt.db")));
-    QCOMPARE(m_ui.lastMessage(), "There is only one database.");
-    QCOMPARE(m_offered.size(), 1);
 }
 
 // Invoices must be printed with the labels of the company they are issued in; a company whose

@@ -16,7 +16,6 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QTableView>
 #include <QtTest>
 

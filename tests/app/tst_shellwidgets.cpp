@@ -21,7 +21,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTableView>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -42,17 +41,13 @@ public:
         ok->setDefault(true);
         connect(ok, &QPushButton::clicked, this, &QDialog::accept);
         auto* form = new QFormLayout(this);
-        const std::pair<const char*, QWidget*> fields[] = {{"line", new QLineEdit},
-                                                           {"spin", new QSpinBox},
-                                                           {"editable combo", editableCombo},
-                                                           {"combo", combo},
-                                                           {"date", new DateEdit},
-                                                           {"notes", new QPlainTextEdit},
-                                                           {"last", new QLineEdit},
-                                                           {"ok", ok}};
-        for (auto [name, widget] : fields) {
-            widget->setObjectName(name);
-            form->addRow(widget);
+        const char* names[] = {"line", "spin",  "editable combo", "combo",
+                               "date", "notes", "last",           "ok"};
+        QWidget* fields[] = {new QLineEdit, new QSpinBox,       editableCombo, combo,
+                             new DateEdit,  new QPlainTextEdit, new QLineEdit, ok};
+        for (int i = 0; i < 8; ++i) {
+            fields[i]->setObjectName(names[i]);
+            form->addRow(fields[i]);
         }
     }
 };
@@ -173,7 +168,6 @@ void TestShellWidgets::dateTyping_data()
     QTest::addColumn<QDate>("date");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<bool>("valid");
-    AddRow("display form", "2024.03.05.", QDate(2024, 3, 5), "2024.03.05.", true);
     AddRow("short parts", "2024.3.5", QDate(2024, 3, 5), "2024.03.05.", true);
     AddRow("iso form", "2024-12-31", QDate(2024, 12, 31), "2024.12.31.", true);
     AddRow("leap day", "2024.02.29.", QDate(2024, 2, 29), "2024.02.29.", true);
@@ -217,7 +211,6 @@ void TestShellWidgets::companyModel()
 {
     CompanyListModel model({Entry("a.db", "A Kft.")});
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QCOMPARE(model.columnCount(), 5);
     model.append(Entry("b.db", "B Bt.", "2"));
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.index(1, CompanyListModel::TaxNo).data(), "2");

@@ -29,7 +29,6 @@ private:
     QString db(const QString& name) const { return m_base->path() + "/DB/" + name; }
     QString backup(const QString& name) const
     {
-        QDir().mkpath(m_base->path() + "/BiztonsagiMasolatok");
         return m_base->path() + "/BiztonsagiMasolatok/" + name;
     }
 
@@ -54,8 +53,8 @@ QString Markers(const QString& path, const QString& name = {})
 
 void TestCliBackup::init()
 {
-    m_base.emplace();
-    QVERIFY(m_base->isValid());
+    QVERIFY(m_base.emplace().isValid());
+    QVERIFY(QDir(m_base->path()).mkpath("BiztonsagiMasolatok"));
 }
 
 TestCliBackup::Run TestCliBackup::cli(const QStringList& args) const

@@ -1,4 +1,4 @@
-// Expected data: text files under tests/data, data-table rows, and query results as text.
+// Expected data: text files under tests/data, data-table rows, files and query results.
 #pragma once
 
 #include "app/SqlStatement.h"
@@ -13,10 +13,16 @@ inline QStringList TestDataLines(const QString& name)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
-    lines.removeIf([](const QString& line) {
-        return line.trimmed().isEmpty() || line.startsWith(u'#');
-    });
+    lines.removeIf(
+        [](const QString& line) { return line.trimmed().isEmpty() || line.startsWith(u'#'); });
     return lines;
+}
+
+// The file's bytes, for byte-for-byte comparisons.
+inline QByteArray FileBytes(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 // QTest::newRow(tag) << values..., written as one call so that a row stays on one line.
