@@ -1,6 +1,7 @@
 // Company files of older schema versions, built the way those versions left them: today's schema
-// less what each later upgrade step adds, with the legacy columns and indexes of the time and a
-// small but realistic set of partners, payment methods, orders and invoices.
+// less what each later upgrade step added (tests/data/app/schema_history.txt), with the legacy
+// columns and indexes of the time and a small but realistic set of partners, payment methods,
+// orders and invoices.
 #pragma once
 
 #include <QString>
@@ -23,6 +24,3 @@ struct OldCompanyFile
 
 // Column names of table on the current session, in declaration order.
 QStringList TableColumns(const QString& table);
-
-// The file's bytes, for byte-for-byte comparisons.
-QByteArray FileBytes(const QString& path);

@@ -1,7 +1,18 @@
-// The program-wide input helpers: Enter as Tab in edit dialogs, and the date field.
+// The shell's widgets: Enter as Tab in edit dialogs, the date field, and the dialogs of start-up
+// (the company chooser can add a company, the check list reports its ticks, the SQL error dialog
+// answers Retry or Cancel).
+#include "ModalDriver.h"
+#include "TestData.h"
+
+#include "app/CompanyList.h"
+#include "app/ui/CheckItemsDlg.h"
+#include "app/ui/CompanyListModel.h"
+#include "app/ui/DatabaseSelectDlg.h"
 #include "app/ui/DateEdit.h"
 #include "app/ui/EnterLikeTab.h"
+#include "app/ui/SqlErrorDlg.h"
 
+#include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QDialog>
 #include <QFormLayout>
@@ -10,69 +21,48 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QtTest>
 
 namespace {
 
-// An edit dialog with one field of each kind, in tab order, and a default OK button.
+// An edit dialog with one field of each kind in tab order, each named after its kind, and a
+// default OK button.
 class EditDialog : public QDialog
 {
 public:
     EditDialog()
     {
-        auto* form = new QFormLayout(this);
-        line = new QLineEdit;
-        spin = new QSpinBox;
-        editableCombo = new QComboBox;
+        auto* combo = new QComboBox;
+        combo->addItems({"a", "b"});
+        auto* editableCombo = new QComboBox;
         editableCombo->setEditable(true);
-        combo = new QComboBox;
-        combo->addItems({QStringLiteral("a"), QStringLiteral("b")});
-        date = new DateEdit;
-        notes = new QPlainTextEdit;
-        last = new QLineEdit;
-        ok = new QPushButton(QStringLiteral("OK"));
+        auto* ok = new QPushButton("OK");
         ok->setDefault(true);
         connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-        for (QWidget* w : {static_cast<QWidget*>(line), static_cast<QWidget*>(spin),
-                           static_cast<QWidget*>(editableCombo), static_cast<QWidget*>(combo),
-                           static_cast<QWidget*>(date), static_cast<QWidget*>(notes),
-                           static_cast<QWidget*>(last), static_cast<QWidget*>(ok)})
-            form->addRow(w);
+        auto* form = new QFormLayout(this);
+        const char* names[] = {"line", "spin",  "editable combo", "combo",
+                               "date", "notes", "last",           "ok"};
+        QWidget* fields[] = {new QLineEdit, new QSpinBox,       editableCombo, combo,
+                             new DateEdit,  new QPlainTextEdit, new QLineEdit, ok};
+        for (int i = 0; i < 8; ++i) {
+            fields[i]->setObjectName(names[i]);
+            form->addRow(fields[i]);
+        }
     }
-    QLineEdit* line;
-    QSpinBox* spin;
-    QComboBox* editableCombo;
-    QComboBox* combo;
-    DateEdit* date;
-    QPlainTextEdit* notes;
-    QLineEdit* last;
-    QPushButton* ok;
 };
 
-QWidget* FieldOf(EditDialog& d, const QString& name)
+CompanyEntry Entry(const QString& file, const QString& name, const QString& taxNo = {})
 {
-    if (name == QLatin1String("line"))
-        return d.line;
-    if (name == QLatin1String("spin"))
-        return d.spin;
-    if (name == QLatin1String("editable combo"))
-        return d.editableCombo;
-    if (name == QLatin1String("combo"))
-        return d.combo;
-    if (name == QLatin1String("date"))
-        return d.date;
-    if (name == QLatin1String("notes"))
-        return d.notes;
-    return d.last;
+    return {"/companies/" + file, name, {}, "Budapest", {}, taxNo};
 }
 
 // The widget that owns the focus, counting a spin box's or combo box's inner line edit as it.
 QWidget* FocusedField()
 {
     QWidget* w = QApplication::focusWidget();
-    if (w && w->parentWidget() &&
-        (qobject_cast<QAbstractSpinBox*>(w->parentWidget()) ||
-         qobject_cast<QComboBox*>(w->parentWidget())))
+    if (w && (qobject_cast<QAbstractSpinBox*>(w->parentWidget()) ||
+              qobject_cast<QComboBox*>(w->parentWidget())))
         return w->parentWidget();
     return w;
 }
@@ -83,100 +73,93 @@ class TestShellWidgets : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup() { EnterLikeTab::setEnabled(false); }
-    void enterMovesToNextField_data();
-    void enterMovesToNextField();
-    void enterKeepsItsMeaningElsewhere();
-    void enterConfirmsWhenSwitchedOff();
+    void init();
+    void cleanup();
+    void enter_data();
+    void enter();
     void enterConfirmsStandardDialogs();
     void dateTyping_data();
     void dateTyping();
     void dateSetAndSignal();
+    void companyModel();
+    void chooserAddsCompany();
+    void checkItemsReportsTicks();
+    void sqlErrorRetryOrCancel_data();
+    void sqlErrorRetryOrCancel();
+
+private:
+    template <class T = QWidget> T* field(const QString& name) const
+    {
+        return m_dialog->findChild<T*>(name);
+    }
+
+    std::unique_ptr<EditDialog> m_dialog;
 };
 
-void TestShellWidgets::enterMovesToNextField_data()
+void TestShellWidgets::init()
 {
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("to");
-    const int enter = Qt::Key_Return;
-    QTest::newRow("line edit") << QStringLiteral("line") << enter << QStringLiteral("spin");
-    QTest::newRow("keypad enter") << QStringLiteral("line") << int(Qt::Key_Enter)
-                                  << QStringLiteral("spin");
-    QTest::newRow("spin box") << QStringLiteral("spin") << enter
-                              << QStringLiteral("editable combo");
-    QTest::newRow("editable combo")
-        << QStringLiteral("editable combo") << enter << QStringLiteral("combo");
-    QTest::newRow("combo") << QStringLiteral("combo") << enter << QStringLiteral("date");
-    QTest::newRow("date field") << QStringLiteral("date") << enter << QStringLiteral("notes");
+    EnterLikeTab::setEnabled(true);
+    m_dialog = std::make_unique<EditDialog>();
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
 }
 
-void TestShellWidgets::enterMovesToNextField()
+void TestShellWidgets::cleanup()
 {
+    m_dialog.reset();
+    EnterLikeTab::setEnabled(false);
+}
+
+void TestShellWidgets::enter_data()
+{
+    QTest::addColumn<bool>("ruleOn");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("to"); // empty: the dialog was accepted
+    const int enter = Qt::Key_Return;
+    AddRow("line edit", true, "line", enter, "spin");
+    AddRow("keypad enter", true, "line", int(Qt::Key_Enter), "spin");
+    AddRow("spin box", true, "spin", enter, "editable combo");
+    AddRow("editable combo", true, "editable combo", enter, "combo");
+    AddRow("combo", true, "combo", enter, "date");
+    AddRow("date field", true, "date", enter, "notes");
+    // A multi-line field takes Enter as a line break; on a button Enter presses it.
+    AddRow("multi-line field", true, "notes", enter, "notes");
+    AddRow("button", true, "ok", enter, "");
+    AddRow("rule switched off", false, "line", enter, "");
+}
+
+void TestShellWidgets::enter()
+{
+    QFETCH(bool, ruleOn);
     QFETCH(QString, from);
     QFETCH(int, key);
     QFETCH(QString, to);
-    EnterLikeTab::setEnabled(true);
-    EditDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    FieldOf(dialog, from)->setFocus();
-    QCOMPARE(FocusedField(), FieldOf(dialog, from));
-    const Qt::KeyboardModifiers modifiers =
-        key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
+    EnterLikeTab::setEnabled(ruleOn);
+    field(from)->setFocus();
+    QCOMPARE(FocusedField(), field(from));
+    const auto modifiers = key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-    QCOMPARE(FocusedField(), FieldOf(dialog, to));
-    QVERIFY(dialog.isVisible());
-}
-
-void TestShellWidgets::enterKeepsItsMeaningElsewhere()
-{
-    EnterLikeTab::setEnabled(true);
-    EditDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-
-    // A multi-line field takes Enter as a line break.
-    dialog.notes->setFocus();
-    QTest::keyClicks(dialog.notes, QStringLiteral("a"));
-    QTest::keyClick(dialog.notes, Qt::Key_Return);
-    QTest::keyClicks(dialog.notes, QStringLiteral("b"));
-    QCOMPARE(dialog.notes->toPlainText(), QStringLiteral("a\nb"));
-    QCOMPARE(FocusedField(), dialog.notes);
-
-    // On a button Enter presses it.
-    dialog.ok->setFocus();
-    QTest::keyClick(dialog.ok, Qt::Key_Return);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-}
-
-void TestShellWidgets::enterConfirmsWhenSwitchedOff()
-{
-    EnterLikeTab::setEnabled(true);
-    EnterLikeTab::setEnabled(false);
-    EditDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    dialog.line->setFocus();
-    QTest::keyClick(dialog.line, Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(m_dialog->isVisible(), !to.isEmpty());
+    QCOMPARE(m_dialog->result(), to.isEmpty() ? int(QDialog::Accepted) : int(QDialog::Rejected));
+    if (!to.isEmpty())
+        QCOMPARE(FocusedField(), field(to));
+    QCOMPARE(field<QPlainTextEdit>("notes")->toPlainText(), from == "notes" ? "\n" : "");
 }
 
 void TestShellWidgets::enterConfirmsStandardDialogs()
 {
-    EnterLikeTab::setEnabled(true);
     QInputDialog dialog;
-    dialog.setLabelText(QStringLiteral("Name"));
+    dialog.setLabelText("Name");
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     auto* field = dialog.findChild<QLineEdit*>();
     QVERIFY(field);
     field->setFocus();
-    QTest::keyClicks(field, QStringLiteral("x"));
+    QTest::keyClicks(field, "x");
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(dialog.textValue(), QStringLiteral("x"));
+    QCOMPARE(dialog.textValue(), "x");
 }
 
 void TestShellWidgets::dateTyping_data()
@@ -185,21 +168,13 @@ void TestShellWidgets::dateTyping_data()
     QTest::addColumn<QDate>("date");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<bool>("valid");
-    QTest::newRow("display form") << QStringLiteral("2024.03.05.") << QDate(2024, 3, 5)
-                                  << QStringLiteral("2024.03.05.") << true;
-    QTest::newRow("short parts") << QStringLiteral("2024.3.5") << QDate(2024, 3, 5)
-                                 << QStringLiteral("2024.03.05.") << true;
-    QTest::newRow("iso form") << QStringLiteral("2024-12-31") << QDate(2024, 12, 31)
-                              << QStringLiteral("2024.12.31.") << true;
-    QTest::newRow("leap day") << QStringLiteral("2024.02.29.") << QDate(2024, 2, 29)
-                              << QStringLiteral("2024.02.29.") << true;
-    QTest::newRow("no such day") << QStringLiteral("2023.02.29.") << QDate()
-                                 << QStringLiteral("2023.02.29.") << false;
-    QTest::newRow("letters are refused")
-        << QStringLiteral("2024.marc") << QDate() << QStringLiteral("2024.") << false;
-    QTest::newRow("double dot refused")
-        << QStringLiteral("2024..5") << QDate() << QStringLiteral("2024.5") << false;
-    QTest::newRow("empty") << QString() << QDate() << QString() << true;
+    AddRow("short parts", "2024.3.5", QDate(2024, 3, 5), "2024.03.05.", true);
+    AddRow("iso form", "2024-12-31", QDate(2024, 12, 31), "2024.12.31.", true);
+    AddRow("leap day", "2024.02.29.", QDate(2024, 2, 29), "2024.02.29.", true);
+    AddRow("no such day", "2023.02.29.", QDate(), "2023.02.29.", false);
+    AddRow("letters are refused", "2024.marc", QDate(), "2024.", false);
+    AddRow("double dot refused", "2024..5", QDate(), "2024.5", false);
+    AddRow("empty", "", QDate(), "", true);
 }
 
 void TestShellWidgets::dateTyping()
@@ -208,17 +183,10 @@ void TestShellWidgets::dateTyping()
     QFETCH(QDate, date);
     QFETCH(QString, shown);
     QFETCH(bool, valid);
-    QDialog dialog;
-    auto* edit = new DateEdit(&dialog);
-    auto* other = new QLineEdit(&dialog);
-    auto* layout = new QFormLayout(&dialog);
-    layout->addRow(edit);
-    layout->addRow(other);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* edit = field<DateEdit>("date");
     edit->setFocus();
     QTest::keyClicks(edit, typed);
-    other->setFocus();
+    field("last")->setFocus();
     QCOMPARE(edit->date(), date);
     QCOMPARE(edit->text(), shown);
     QCOMPARE(edit->isValidInput(), valid);
@@ -229,7 +197,7 @@ void TestShellWidgets::dateSetAndSignal()
     DateEdit edit;
     QSignalSpy changed(&edit, &DateEdit::dateChanged);
     edit.setDate(QDate(2024, 3, 5));
-    QCOMPARE(edit.text(), QStringLiteral("2024.03.05."));
+    QCOMPARE(edit.text(), "2024.03.05.");
     QCOMPARE(edit.property("date").toDate(), QDate(2024, 3, 5));
     edit.setDate(QDate(2024, 3, 5));
     QCOMPARE(changed.size(), 1);
@@ -237,6 +205,63 @@ void TestShellWidgets::dateSetAndSignal()
     QVERIFY(edit.text().isEmpty());
     QCOMPARE(changed.size(), 2);
     QCOMPARE(changed.last().first().toDate(), QDate());
+}
+
+void TestShellWidgets::companyModel()
+{
+    CompanyListModel model({Entry("a.db", "A Kft.")});
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.append(Entry("b.db", "B Bt.", "2"));
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(model.index(1, CompanyListModel::TaxNo).data(), "2");
+    QCOMPARE(model.index(1, 0).data(CompanyListModel::PathRole), "/companies/b.db");
+}
+
+void TestShellWidgets::chooserAddsCompany()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    DatabaseSelectDlg dlg({Entry("a.db", "A Kft.")}, dir.path());
+    ModalDriver driver({[](QWidget* form) {
+        Child<QLineEdit>(form, "m_name")->setText("Új Cég Kft.");
+        Child<QLineEdit>(form, "m_tax_no")->setText("33333333-2-43");
+        static_cast<QDialog*>(form)->accept();
+    }});
+    Child<QPushButton>(&dlg, "m_new")->click();
+    QVERIFY(driver.done());
+    QCOMPARE(dlg.selectedPath(), dir.filePath("uj_ceg_kft.db"));
+    QCOMPARE(ReadCompanyEntry(dlg.selectedPath()).taxNo, "33333333-2-43");
+}
+
+void TestShellWidgets::checkItemsReportsTicks()
+{
+    CheckItemsDlg dlg("Select Payment Methods To Set Unpaid", "Payment Method", "Set To Unpaid",
+                      {"Csekk", "Készpénz", "Átutalás"});
+    auto* list = Child<QTableWidget>(&dlg, "m_list");
+    QCOMPARE(dlg.checked(), QList<bool>({false, false, false}));
+    list->item(2, 1)->setCheckState(Qt::Checked);
+    QCOMPARE(dlg.checked(), QList<bool>({false, false, true}));
+}
+
+void TestShellWidgets::sqlErrorRetryOrCancel_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("retry");
+    AddRow("retry", "m_retry", true);
+    AddRow("cancel", "m_cancel", false);
+}
+
+void TestShellWidgets::sqlErrorRetryOrCancel()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, retry);
+    QString statement;
+    ModalDriver driver({[&](QWidget* dlg) {
+        statement = Child<QPlainTextEdit>(dlg, "m_statement")->toPlainText();
+        Child<QPushButton>(dlg, qPrintable(button))->click();
+    }});
+    QCOMPARE(SqlErrorDlg::askRetry("no such index: X", "drop index X", nullptr), retry);
+    QCOMPARE(statement, "drop index X");
 }
 
 QTEST_MAIN(TestShellWidgets)

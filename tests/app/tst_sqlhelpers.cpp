@@ -1,6 +1,10 @@
-// The statement helpers every store relies on: bound values, flags, scripts, transactions.
+// The statement helpers every store relies on (flags, numbers, scripts, transactions) and the
+// settings record: awkward template texts, an unset row, and the one-row rule.
 #include "TestCompany.h"
+#include "TestData.h"
 
+#include "Columns.h"
+#include "app/Setup.h"
 #include "app/SqlScript.h"
 #include "app/SqlStatement.h"
 #include "app/SqlTransaction.h"
@@ -8,30 +12,53 @@
 
 #include <QtTest>
 
+namespace {
+
+QVariant Stored(const char* column)
+{
+    return SelectValue(QStringLiteral("select %1 from SETUP").arg(QLatin1String(column)));
+}
+
+} // namespace
+
 class TestSqlHelpers : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void init()
+    {
+        m_company.emplace();
+        QVERIFY(m_company->isValid());
+    }
+    void cleanup() { m_company.reset(); }
     void flags_data();
     void flags();
     void numbers_data();
     void numbers();
     void splitKeepsQuotedSemicolons();
-    void boundTextRoundTrips();
     void transactionRollsBackUnlessCommitted();
+    void templateTextsRoundTrip_data();
+    void templateTextsRoundTrip();
+    void unsetRow_data();
+    void unsetRow();
+    void failedWriteLeavesRowUnchanged_data();
+    void failedWriteLeavesRowUnchanged();
+
+private:
+    std::optional<TestCompany> m_company;
 };
 
 void TestSqlHelpers::flags_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("set");
-    QTest::newRow("text 1") << QVariant(QStringLiteral("1")) << true;
-    QTest::newRow("number 1") << QVariant(1) << true;
-    QTest::newRow("text 0") << QVariant(QStringLiteral("0")) << false;
-    QTest::newRow("number 0") << QVariant(0) << false;
-    QTest::newRow("null") << QVariant() << false;
-    QTest::newRow("text 10") << QVariant(QStringLiteral("10")) << false;
-    QTest::newRow("empty") << QVariant(QString()) << false;
+    AddRow("text 1", QVariant("1"), true);
+    AddRow("number 1", QVariant(1), true);
+    AddRow("text 0", QVariant("0"), false);
+    AddRow("number 0", QVariant(0), false);
+    AddRow("null", QVariant(), false);
+    AddRow("text 10", QVariant("10"), false);
+    AddRow("empty", QVariant(QString()), false);
 }
 
 void TestSqlHelpers::flags()
@@ -45,11 +72,11 @@ void TestSqlHelpers::numbers_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<double>("number");
-    QTest::newRow("text") << QVariant(QStringLiteral("10")) << 10.0;
-    QTest::newRow("decimal comma") << QVariant(QStringLiteral("2,5")) << 2.5;
-    QTest::newRow("real") << QVariant(12.25) << 12.25;
-    QTest::newRow("null") << QVariant() << 0.0;
-    QTest::newRow("garbage") << QVariant(QStringLiteral("abc")) << 0.0;
+    AddRow("text", QVariant("10"), 10.0);
+    AddRow("decimal comma", QVariant("2,5"), 2.5);
+    AddRow("real", QVariant(12.25), 12.25);
+    AddRow("null", QVariant(), 0.0);
+    AddRow("garbage", QVariant("abc"), 0.0);
 }
 
 void TestSqlHelpers::numbers()
@@ -64,40 +91,113 @@ void TestSqlHelpers::splitKeepsQuotedSemicolons()
     const QStringList parts = SplitSqlScript(QStringLiteral(
         "-- comment; with a semicolon\ninsert into T values ('a;b', \"c;\nd\");\n\nselect 1;"));
     QCOMPARE(parts.size(), 2);
-    QCOMPARE(parts.at(0), QStringLiteral("insert into T values ('a;b', \"c;\nd\")"));
-    QCOMPARE(parts.at(1), QStringLiteral("select 1"));
-}
-
-void TestSqlHelpers::boundTextRoundTrips()
-{
-    TestCompany company;
-    QVERIFY(company.isValid());
-    const QString awkward = QStringLiteral("it's \"quoted\"; [* bold]\r\n'); drop table SETUP; --");
-    QVERIFY(ExecSql(QStringLiteral("insert into STATNO (STATNO_STAT_NO, STATNO_NAME) values (?, ?)"),
-                    {QStringLiteral("x"), awkward}));
-    QCOMPARE(SelectValue(QStringLiteral("select STATNO_NAME from STATNO where STATNO_STAT_NO = ?"),
-                         {QStringLiteral("x")})
-                 .toString(),
-             awkward);
+    QCOMPARE(parts.at(0), "insert into T values ('a;b', \"c;\nd\")");
+    QCOMPARE(parts.at(1), "select 1");
 }
 
 void TestSqlHelpers::transactionRollsBackUnlessCommitted()
 {
-    TestCompany company;
-    QVERIFY(company.isValid());
-    const QString count = QStringLiteral("select count(*) from STATNO");
     {
         SqlTransaction t;
         QVERIFY(t.active());
-        QVERIFY(ExecSql(QStringLiteral("insert into STATNO (STATNO_NAME) values ('gone')")));
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('gone')"));
     }
-    QCOMPARE(SelectValue(count).toInt(), 0);
     {
         SqlTransaction t;
-        QVERIFY(ExecSql(QStringLiteral("insert into STATNO (STATNO_NAME) values ('kept')")));
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('kept')"));
         QVERIFY(t.commit());
     }
-    QCOMPARE(SelectValue(count).toInt(), 1);
+    QCOMPARE(QueryText("select STATNO_NAME from STATNO"), "kept");
+}
+
+void TestSqlHelpers::templateTextsRoundTrip_data()
+{
+    QTest::addColumn<QString>("text");
+    AddRow("quotes", "it's the company's 'own' [* \"Számla\"]");
+    AddRow("line breaks of every kind", "a\nb\r\nc\rd\n\n");
+    AddRow("sql looking text", "'); drop table SETUP; -- ? ?1 :name");
+    AddRow("accents and symbols", "ÁÉÍÓÖŐÚÜŰ áéíóöőúüű € ¤ \t end ");
+    AddRow("empty", QString(QLatin1String("")));
+}
+
+// Templates are written by the installer through write() and by the setup window through
+// set()/save(); both must keep every byte, and a fresh load() must see the same text.
+void TestSqlHelpers::templateTextsRoundTrip()
+{
+    QFETCH(QString, text);
+    const QString other = text + "\n[footer]";
+    QVERIFY(Setup::write({{Col::SETUP_INVOICE_BODY_QTF, text}, {Col::SETUP_CHEQUE_QTF, other}}));
+    QCOMPARE(Stored(Col::SETUP_INVOICE_BODY_QTF).toString(), text);
+    QCOMPARE(Stored(Col::SETUP_CHEQUE_QTF).toString(), other);
+    QCOMPARE(Setup::current().text(Col::SETUP_INVOICE_BODY_QTF), text);
+
+    Setup setup;
+    QVERIFY(setup.load());
+    QCOMPARE(setup.text(Col::SETUP_CHEQUE_QTF), other);
+    setup.set(Col::SETUP_INVOICE_FOOTER_QTF, text);
+    QVERIFY(setup.save());
+
+    Setup reread;
+    QVERIFY(reread.load());
+    QCOMPARE(reread.text(Col::SETUP_INVOICE_FOOTER_QTF).toUtf8(), text.toUtf8());
+    QCOMPARE(reread.text(Col::SETUP_INVOICE_BODY_QTF).toUtf8(), text.toUtf8());
+    QCOMPARE(QueryText("select count(*) from SETUP"), "1");
+}
+
+void TestSqlHelpers::unsetRow_data()
+{
+    QTest::addColumn<bool>("rowExists");
+    AddRow("all values NULL", true);
+    AddRow("no row at all", false);
+}
+
+// A company whose settings were never written reads every value as unset, and writing them
+// makes exactly one row.
+void TestSqlHelpers::unsetRow()
+{
+    QFETCH(bool, rowExists);
+    QVERIFY(ExecSql("delete from SETUP"));
+    QVERIFY(!rowExists || ExecSql("insert into SETUP (SETUP_NAME) values (NULL)"));
+
+    Setup setup;
+    QVERIFY(setup.load());
+    QVERIFY(!setup.flag(Col::SETUP_LOAD_MAIN_WINDOW_DATA_ON_START));
+    QVERIFY(!setup.flag(Col::SETUP_ENTER_LIKE_TAB));
+    QVERIFY(setup.text(Col::SETUP_NAME).isEmpty());
+    QCOMPARE(setup.integer(Col::SETUP_RECORD_LIMIT, 500), 500);
+    QCOMPARE(setup.number(Col::SETUP_INVOICE_LOGO_SIZE_PERCENT), 0.0);
+
+    // A flag written back from an unset one is stored as the text "0".
+    setup.setFlag(Col::SETUP_ENTER_LIKE_TAB, setup.flag(Col::SETUP_ENTER_LIKE_TAB));
+    setup.set(Col::SETUP_TAX_NO, "12345678-2-41");
+    QVERIFY(setup.save());
+    QVERIFY(Setup::write({{Col::SETUP_ZIP, "1111"}}));
+    QCOMPARE(QueryText("select count(*) from SETUP"), "1");
+    QCOMPARE(Stored(Col::SETUP_ENTER_LIKE_TAB), QVariant("0"));
+    QCOMPARE(Stored(Col::SETUP_TAX_NO), QVariant("12345678-2-41"));
+    QCOMPARE(Stored(Col::SETUP_ZIP), QVariant("1111"));
+}
+
+void TestSqlHelpers::failedWriteLeavesRowUnchanged_data()
+{
+    QTest::addColumn<QString>("badColumn");
+    // Names are pasted into the statement: anything but a plain column name must not get there.
+    AddRow("pasted assignment", "SETUP_NAME = 'x', SETUP_ZIP");
+    // One statement: a column that does not exist fails the whole write.
+    AddRow("unknown column", "SETUP_NO_SUCH_COLUMN");
+}
+
+void TestSqlHelpers::failedWriteLeavesRowUnchanged()
+{
+    QFETCH(QString, badColumn);
+    QVERIFY(Setup::current().load());
+    const QString before = Stored(Col::SETUP_NAME).toString();
+    const Result r = Setup::write({{Col::SETUP_NAME, "Changed"}, {badColumn, 1}});
+    QVERIFY(!r);
+    QCOMPARE(r.message(), "Unable to update SETUP record.");
+    QCOMPARE(Stored(Col::SETUP_NAME).toString(), before);
+    QCOMPARE(Setup::current().text(Col::SETUP_NAME), before);
+    QCOMPARE(QueryText("select count(*) from SETUP"), "1");
 }
 
 QTEST_GUILESS_MAIN(TestSqlHelpers)
