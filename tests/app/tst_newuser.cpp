@@ -51,14 +51,6 @@ void Type(QWidget* parent, const char* field, const QString& text)
         edit->insert(text);
 }
 
-QStringList ColumnTexts(const QAbstractItemModel* model, int column)
-{
-    QStringList texts;
-    for (int r = 0; r < model->rowCount(); ++r)
-        texts << model->index(r, column).data().toString();
-    return texts;
-}
-
 } // namespace
 
 class TestNewUser : public QObject

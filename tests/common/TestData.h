@@ -3,6 +3,7 @@
 
 #include "app/SqlStatement.h"
 
+#include <QAbstractItemModel>
 #include <QSqlRecord>
 #include <QtTest>
 
@@ -45,4 +46,13 @@ inline QString QueryText(const QString& sql, const QVariantList& binds = {})
         rows << values.join(u'|');
     }
     return rows.join("; ");
+}
+
+// The display texts of one column of a list, top to bottom.
+inline QStringList ColumnTexts(const QAbstractItemModel* model, int column)
+{
+    QStringList texts;
+    for (int r = 0; r < model->rowCount(); ++r)
+        texts << model->index(r, column).data().toString();
+    return texts;
 }

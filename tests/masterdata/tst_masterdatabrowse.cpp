@@ -18,24 +18,14 @@
 #include "masterdata/ui/RecordFinder.h"
 #include "masterdata/ui/RecordListModel.h"
 
+#include "TestData.h"
+
 #include <QtTest>
 #include <QtWidgets>
 
 using namespace Col;
 
-namespace {
-
 using Tester = QAbstractItemModelTester;
-
-QStringList ColumnTexts(const QAbstractItemModel* model, int column)
-{
-    QStringList texts;
-    for (int r = 0; r < model->rowCount(); ++r)
-        texts << model->index(r, column).data().toString();
-    return texts;
-}
-
-} // namespace
 
 class TestMasterDataBrowse : public QObject
 {
