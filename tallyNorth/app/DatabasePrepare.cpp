@@ -1,5 +1,6 @@
 #include "DatabasePrepare.h"
 
+#include "FileReplace.h"
 #include "Interaction.h"
 #include "MessageArgs.h"
 #include "Schema.h"
@@ -86,7 +87,7 @@ Result DatabasePrepare::upgrade()
     std::unique_ptr<Progress> progress = m_interaction.progress(tr("Upgrading database."));
     // The copy is taken of the closed file so that it is complete, byte for byte.
     Database::close();
-    if ((QFile::exists(copy) && !QFile::remove(copy)) || !QFile::copy(path, copy)) {
+    if (!CopyReplacing(path, copy)) {
         progress.reset();
         return fail(tr("Error backing up database file before upgrade."));
     }
@@ -149,7 +150,7 @@ Result DatabasePrepare::restore(const QString& path, const QString& copy)
     QFile::remove(path + QLatin1String("-journal"));
     QFile::remove(path + QLatin1String("-wal"));
     QFile::remove(path + QLatin1String("-shm"));
-    if (!QFile::remove(path) || !QFile::rename(copy, path)) {
+    if (!MoveReplacing(copy, path)) {
         m_interaction.error(FillArgs(tr("Error restoring database file after failed upgrade.&The "
                                         "saved original database file is here:&&%s"),
                                      {copy}));
