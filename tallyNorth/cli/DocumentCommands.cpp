@@ -66,35 +66,32 @@ struct QtfOptions
 std::optional<QtfOptions> ParseQtfOptions(QStringList args)
 {
     QtfOptions o;
-    while (!args.isEmpty()) {
-        const QString a = args.takeFirst();
-        if (a == QLatin1String("--text")) {
-            o.text = true;
-            continue;
-        }
-        if (!a.startsWith(QLatin1String("--"))) {
-            if (!o.file.isEmpty())
-                return std::nullopt;
-            o.file = a;
-            continue;
-        }
-        if (args.isEmpty())
+    o.text = args.removeAll(QStringLiteral("--text")) > 0;
+    QStringList positional;
+    QHash<QString, QString> options;
+    if (!ParseVerbArgs(args,
+                       {QStringLiteral("header"), QStringLiteral("footer"), QStringLiteral("pdf"),
+                        QStringLiteral("page"), QStringLiteral("shift-mm")},
+                       &positional, &options) ||
+        positional.size() != 1)
+        return std::nullopt;
+    o.file = positional.first();
+    o.header = options.value(QStringLiteral("header"));
+    o.footer = options.value(QStringLiteral("footer"));
+    o.pdf = options.value(QStringLiteral("pdf"));
+    if (options.contains(QStringLiteral("page"))) {
+        const auto page = ParseSize(options.value(QStringLiteral("page")));
+        if (!page)
             return std::nullopt;
-        const QString value = args.takeFirst();
-        if (a == QLatin1String("--header"))
-            o.header = value;
-        else if (a == QLatin1String("--footer"))
-            o.footer = value;
-        else if (a == QLatin1String("--pdf"))
-            o.pdf = value;
-        else if (a == QLatin1String("--page") && ParseSize(value))
-            o.page = *ParseSize(value);
-        else if (a == QLatin1String("--shift-mm") && ParsePair(value, u',', 1000))
-            o.shift = *ParsePair(value, u',', 1000);
-        else
-            return std::nullopt;
+        o.page = *page;
     }
-    if (o.file.isEmpty() || o.text == !o.pdf.isEmpty())
+    if (options.contains(QStringLiteral("shift-mm"))) {
+        const auto shift = ParsePair(options.value(QStringLiteral("shift-mm")), u',', 1000);
+        if (!shift)
+            return std::nullopt;
+        o.shift = *shift;
+    }
+    if (o.text == !o.pdf.isEmpty())
         return std::nullopt;
     return o;
 }
