@@ -1,10 +1,10 @@
 #include "Backup.h"
 
 #include "CompanyChoice.h"
-#include "Database.h"
+#include "base/Database.h"
 #include "FileReplace.h"
-#include "Interaction.h"
-#include "MessageArgs.h"
+#include "base/Interaction.h"
+#include "base/MessageArgs.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -2,7 +2,7 @@
 // kept in the backup folder, and their restore in place of the company's file.
 #pragma once
 
-#include "Result.h"
+#include "base/Result.h"
 
 #include <QString>
 

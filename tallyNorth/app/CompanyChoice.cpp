@@ -1,10 +1,10 @@
 #include "CompanyChoice.h"
 
-#include "Database.h"
+#include "base/Database.h"
 #include "DatabasePrepare.h"
-#include "Interaction.h"
-#include "MessageArgs.h"
-#include "Setup.h"
+#include "base/Interaction.h"
+#include "base/MessageArgs.h"
+#include "base/Setup.h"
 
 #include "documents/LabelTranslations.h"
 

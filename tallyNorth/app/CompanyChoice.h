@@ -4,7 +4,7 @@
 #pragma once
 
 #include "CompanyList.h"
-#include "Result.h"
+#include "base/Result.h"
 
 #include <functional>
 #include <optional>

@@ -1,11 +1,11 @@
 #include "CompanyCreate.h"
 
 #include "CompanyList.h"
-#include "MessageArgs.h"
+#include "base/MessageArgs.h"
 #include "Schema.h"
 #include "ScopedConnection.h"
-#include "SqlStatement.h"
-#include "masterdata/FoldName.h"
+#include "base/SqlStatement.h"
+#include "base/FoldName.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -2,7 +2,7 @@
 // never a second file for a tax number that a company database already has.
 #pragma once
 
-#include "Result.h"
+#include "base/Result.h"
 
 #include <QString>
 

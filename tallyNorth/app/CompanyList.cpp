@@ -1,7 +1,7 @@
 #include "CompanyList.h"
 
 #include "ScopedConnection.h"
-#include "SqlStatement.h"
+#include "base/SqlStatement.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,14 +1,14 @@
 #include "DatabasePrepare.h"
 
 #include "FileReplace.h"
-#include "Interaction.h"
-#include "MessageArgs.h"
+#include "base/Interaction.h"
+#include "base/MessageArgs.h"
 #include "Schema.h"
-#include "Setup.h"
+#include "base/Setup.h"
 #include "SqlScript.h"
-#include "SqlStatement.h"
-#include "SqlTransaction.h"
-#include "SqlValue.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
+#include "base/SqlValue.h"
 
 #include <QFile>
 #include <QSqlError>

@@ -3,8 +3,8 @@
 // that is put back when anything goes wrong.
 #pragma once
 
-#include "Database.h"
-#include "Result.h"
+#include "base/Database.h"
+#include "base/Result.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,9 @@
 #include "Schema.h"
 
-#include "Interaction.h"
+#include "base/Interaction.h"
 #include "SqlScript.h"
-#include "SqlStatement.h"
-#include "SqlTransaction.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
 
 #include <QCoreApplication>
 #include <QSqlError>

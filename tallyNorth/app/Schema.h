@@ -1,8 +1,8 @@
 // The schema of a company database and its basic data, as kept in the sql/ resources.
 #pragma once
 
-#include "Database.h"
-#include "Result.h"
+#include "base/Database.h"
+#include "base/Result.h"
 
 class Interaction;
 class Progress;

@@ -1,7 +1,7 @@
 #include "SqlScript.h"
 
-#include "Interaction.h"
-#include "SqlStatement.h"
+#include "base/Interaction.h"
+#include "base/SqlStatement.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
 // SQL scripts kept as resources (schema, basic data, upgrade steps), run statement by statement.
 #pragma once
 
-#include "Database.h"
-#include "Result.h"
+#include "base/Database.h"
+#include "base/Result.h"
 
 #include <QString>
 #include <QStringList>

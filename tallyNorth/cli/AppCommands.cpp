@@ -6,7 +6,7 @@
 #include "app/CompanyChoice.h"
 #include "app/CompanyCreate.h"
 #include "app/DatabasePrepare.h"
-#include "app/MessageArgs.h"
+#include "base/MessageArgs.h"
 
 #include <QCoreApplication>
 

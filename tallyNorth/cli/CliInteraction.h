@@ -2,7 +2,7 @@
 // questions take their default answers, lists are left unchecked unless preset.
 #pragma once
 
-#include "app/Interaction.h"
+#include "base/Interaction.h"
 
 #include <QTextStream>
 

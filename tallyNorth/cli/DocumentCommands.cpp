@@ -1,9 +1,9 @@
 #include "DocumentCommands.h"
 
 #include "app/CompanyChoice.h"
-#include "app/MessageArgs.h"
-#include "app/Setup.h"
-#include "app/SqlTransaction.h"
+#include "base/MessageArgs.h"
+#include "base/Setup.h"
+#include "base/SqlTransaction.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/QtfReader.h"
 #include "documents/Report.h"

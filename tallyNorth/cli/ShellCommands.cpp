@@ -4,7 +4,7 @@
 #include "Cli.h"
 
 #include "app/Backup.h"
-#include "app/Database.h"
+#include "base/Database.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "InvoiceTemplate.h"
 
-#include "app/Setup.h"
+#include "base/Setup.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -4,7 +4,7 @@
 
 #include "TemplateText.h"
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QString>
 

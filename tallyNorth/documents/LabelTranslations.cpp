@@ -1,8 +1,8 @@
 #include "LabelTranslations.h"
 
 #include "Columns.h"
-#include "app/SqlStatement.h"
-#include "app/SqlValue.h"
+#include "base/SqlStatement.h"
+#include "base/SqlValue.h"
 
 #include <QCoreApplication>
 

@@ -3,7 +3,7 @@
 // when it is another one, is printed beside it. There is no fallback between languages.
 #pragma once
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QList>
 #include <QMap>

@@ -1,6 +1,6 @@
 #include "PlaceholderMap.h"
 
-#include "app/DateText.h"
+#include "base/DateText.h"
 
 #include <QDate>
 #include <QDateTime>

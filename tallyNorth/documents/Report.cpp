@@ -3,8 +3,8 @@
 #include "QtfReader.h"
 #include "QtfTextDocument.h"
 
-#include "app/DateText.h"
-#include "app/MessageArgs.h"
+#include "base/DateText.h"
+#include "base/MessageArgs.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>

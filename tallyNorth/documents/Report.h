@@ -3,7 +3,7 @@
 // library). Lengths are dots, 1/600 inch.
 #pragma once
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QDate>
 #include <QPointF>

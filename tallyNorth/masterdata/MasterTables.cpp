@@ -1,7 +1,7 @@
 #include "MasterTables.h"
 
 #include "Columns.h"
-#include "app/SqlValue.h"
+#include "base/SqlValue.h"
 
 #include <QtGlobal>
 

@@ -2,9 +2,9 @@
 
 #include "Columns.h"
 #include "TableStore.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
-#include "app/SqlValue.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
+#include "base/SqlValue.h"
 #include "orders/OrderCalc.h"
 
 #include <QCoreApplication>

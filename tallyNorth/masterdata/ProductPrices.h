@@ -2,7 +2,7 @@
 // rounded to its unit-price decimals, unless the product has an overridden price for it.
 #pragma once
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QHash>
 #include <QList>

@@ -1,9 +1,9 @@
 #include "TableStore.h"
 
-#include "FoldName.h"
-#include "app/SqlStatement.h"
-#include "app/SqlTransaction.h"
-#include "app/SqlValue.h"
+#include "base/FoldName.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
+#include "base/SqlValue.h"
 
 #include <QCoreApplication>
 #include <QSqlRecord>

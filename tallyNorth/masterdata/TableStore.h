@@ -2,7 +2,7 @@
 // table's rules. Each table is one TableStore configured by a TableInfo (MasterTables.h).
 #pragma once
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QHash>
 #include <QList>

@@ -1,6 +1,6 @@
 #include "ConvertOrderType.h"
 
-#include "app/SqlValue.h"
+#include "base/SqlValue.h"
 
 #include <QCoreApplication>
 

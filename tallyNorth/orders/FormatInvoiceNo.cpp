@@ -1,7 +1,7 @@
 #include "FormatInvoiceNo.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 
 #include <algorithm>
 

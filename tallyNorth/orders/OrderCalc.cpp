@@ -1,10 +1,10 @@
 #include "OrderCalc.h"
 
 #include "Columns.h"
-#include "app/Database.h"
-#include "app/SqlStatement.h"
-#include "app/SqlTransaction.h"
-#include "app/SqlValue.h"
+#include "base/Database.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
+#include "base/SqlValue.h"
 
 #include <QCoreApplication>
 #include <QSqlError>

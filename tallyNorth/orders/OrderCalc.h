@@ -2,7 +2,7 @@
 // amount that is shown, stored or printed comes from these functions; nothing else rounds.
 #pragma once
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QList>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "OldCompanyFile.h"
 #include "TestData.h"
 
-#include "app/Database.h"
+#include "base/Database.h"
 #include "app/SqlScript.h"
-#include "app/SqlStatement.h"
+#include "base/SqlStatement.h"
 
 #include <QRegularExpression>
 #include <QSqlQuery>

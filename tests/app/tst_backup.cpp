@@ -7,10 +7,10 @@
 
 #include "Columns.h"
 #include "app/Backup.h"
-#include "app/Database.h"
+#include "base/Database.h"
 #include "app/DatabasePrepare.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "documents/LabelTranslations.h"
 
 #include <QtTest>

@@ -5,9 +5,9 @@
 
 #include "app/CompanyChoice.h"
 #include "app/CompanyCreate.h"
-#include "app/Database.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Database.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "documents/LabelTranslations.h"
 
 #include <QtTest>

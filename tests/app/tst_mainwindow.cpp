@@ -6,9 +6,9 @@
 
 #include "Columns.h"
 #include "app/BaseFolder.h"
-#include "app/Database.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Database.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "app/ui/ListTab.h"
 #include "app/ui/MainWindow.h"
 #include "app/ui/RegisterCommands.h"

@@ -7,9 +7,9 @@
 
 #include "app/BaseFolder.h"
 #include "app/CompanyCreate.h"
-#include "app/Database.h"
+#include "base/Database.h"
 #include "app/Language.h"
-#include "app/SqlStatement.h"
+#include "base/SqlStatement.h"
 #include "app/ui/ListTab.h"
 #include "app/ui/MainWindow.h"
 #include "app/ui/RegisterCommands.h"

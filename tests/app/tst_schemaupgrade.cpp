@@ -6,10 +6,10 @@
 #include "TestCompany.h"
 #include "TestData.h"
 
-#include "app/Database.h"
+#include "base/Database.h"
 #include "app/DatabasePrepare.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 
 #include <QSqlQuery>
 #include <QtTest>

@@ -4,11 +4,11 @@
 #include "TestData.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 #include "app/SqlScript.h"
-#include "app/SqlStatement.h"
-#include "app/SqlTransaction.h"
-#include "app/SqlValue.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
+#include "base/SqlValue.h"
 
 #include <QtTest>
 

@@ -3,8 +3,8 @@
 #include "OldCompanyFile.h"
 #include "TestData.h"
 
-#include "app/Database.h"
-#include "app/SqlStatement.h"
+#include "base/Database.h"
+#include "base/SqlStatement.h"
 
 #include <QProcess>
 #include <QtTest>

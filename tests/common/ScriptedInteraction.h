@@ -1,7 +1,7 @@
 // An Interaction for tests: records what would be shown and answers from queues.
 #pragma once
 
-#include "app/Interaction.h"
+#include "base/Interaction.h"
 
 #include <QQueue>
 

@@ -1,6 +1,6 @@
 #include "TestCompany.h"
 
-#include "app/Database.h"
+#include "base/Database.h"
 #include "app/Schema.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // Expected data: text files under tests/data, data-table rows, files and query results.
 #pragma once
 
-#include "app/SqlStatement.h"
+#include "base/SqlStatement.h"
 
 #include <QAbstractItemModel>
 #include <QSqlRecord>

@@ -1,9 +1,9 @@
 // The document verbs of tallynorth-cli as a template author or a script uses them.
 #include "TestCompany.h"
 
-#include "app/Database.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Database.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "documents/InvoiceTemplate.h"
 
 #include <QProcess>

@@ -1,7 +1,7 @@
 // The invoice labels as loaded from a new company's shipped rows, and their no-fallback rules.
 #include "TestCompany.h"
 
-#include "app/SqlStatement.h"
+#include "base/SqlStatement.h"
 #include "documents/LabelTranslations.h"
 
 #include <QtTest>

@@ -2,8 +2,8 @@
 // directories and the settings record, how amounts and messages are printed.
 #include "TestCompany.h"
 
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "documents/AmountFormat.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/MessageText.h"

@@ -1,6 +1,6 @@
 // The searchable form of names behind every ..._NAME_ASCII column and every name search: the
 // lists find stored folded names that begin with the folded typed text.
-#include "masterdata/FoldName.h"
+#include "base/FoldName.h"
 
 #include <QtTest>
 

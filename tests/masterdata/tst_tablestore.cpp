@@ -2,8 +2,8 @@
 #include "TestCompany.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
-#include "app/SqlStatement.h"
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "masterdata/MasterTables.h"
 #include "masterdata/ProductPrices.h"
 

@@ -3,8 +3,8 @@
 #include "TestCompany.h"
 
 #include "Columns.h"
-#include "app/SqlStatement.h"
-#include "app/SqlTransaction.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
 #include "orders/OrderCalc.h"
 
 #include <QtTest>

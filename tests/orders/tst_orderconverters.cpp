@@ -1,7 +1,7 @@
 // The status text of an order and the text form of invoice numbers.
 #include "TestCompany.h"
 
-#include "app/Setup.h"
+#include "base/Setup.h"
 #include "orders/ConvertOrderType.h"
 #include "orders/FormatInvoiceNo.h"
 

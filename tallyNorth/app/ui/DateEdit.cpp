@@ -1,6 +1,6 @@
 #include "DateEdit.h"
 
-#include "app/DateText.h"
+#include "base/DateText.h"
 
 #include <QAction>
 #include <QCalendarWidget>

@@ -8,7 +8,7 @@
 #include "app/Backup.h"
 #include "app/BaseFolder.h"
 #include "app/CompanyChoice.h"
-#include "app/Database.h"
+#include "base/Database.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 // The Interaction for people: message boxes, questions and progress windows.
 #pragma once
 
-#include "app/Interaction.h"
+#include "base/Interaction.h"
 
 class QWidget;
 

@@ -5,9 +5,9 @@
 #include "ProgramIcon.h"
 
 #include "Columns.h"
-#include "app/Database.h"
+#include "base/Database.h"
 #include "app/ProgramInfo.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 
 #include <QAction>
 #include <QApplication>

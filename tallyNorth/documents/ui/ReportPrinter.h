@@ -1,7 +1,7 @@
 // A Report on a printer and in the print preview window.
 #pragma once
 
-#include "app/Result.h"
+#include "base/Result.h"
 
 #include <QString>
 

@@ -5,7 +5,7 @@
 #include "ui_CountryEditLayout.h"
 
 #include "Columns.h"
-#include "app/SqlValue.h"
+#include "base/SqlValue.h"
 #include "masterdata/MasterTables.h"
 
 using namespace Col;

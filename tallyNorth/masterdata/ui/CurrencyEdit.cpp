@@ -3,7 +3,7 @@
 #include "ui_CurrencyEditLayout.h"
 
 #include "Columns.h"
-#include "app/MessageArgs.h"
+#include "base/MessageArgs.h"
 #include "masterdata/MasterTables.h"
 
 using namespace Col;

@@ -1,7 +1,7 @@
 #include "FieldBinding.h"
 
 #include "NumberEdit.h"
-#include "app/SqlValue.h"
+#include "base/SqlValue.h"
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>

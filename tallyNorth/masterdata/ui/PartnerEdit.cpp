@@ -5,7 +5,7 @@
 #include "ui_PartnerEditLayout.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 #include "masterdata/MasterTables.h"
 #include "orders/OrderCalc.h"
 

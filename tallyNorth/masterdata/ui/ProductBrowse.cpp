@@ -3,8 +3,8 @@
 #include "ProductEdit.h"
 
 #include "Columns.h"
-#include "app/MessageArgs.h"
-#include "app/SqlValue.h"
+#include "base/MessageArgs.h"
+#include "base/SqlValue.h"
 #include "masterdata/MasterTables.h"
 #include "masterdata/ProductPrices.h"
 

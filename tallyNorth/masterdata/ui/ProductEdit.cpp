@@ -5,7 +5,7 @@
 #include "ui_ProductEditLayout.h"
 
 #include "Columns.h"
-#include "app/SqlValue.h"
+#include "base/SqlValue.h"
 #include "masterdata/MasterTables.h"
 #include "orders/OrderCalc.h"
 

@@ -4,7 +4,7 @@
 #include "RecordListModel.h"
 
 #include "Columns.h"
-#include "app/SqlValue.h"
+#include "base/SqlValue.h"
 
 using namespace Col;
 

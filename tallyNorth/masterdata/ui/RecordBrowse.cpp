@@ -4,7 +4,7 @@
 #include "ui_RecordBrowseLayout.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 #include "app/ui/GuiInteraction.h"
 
 #include <QAction>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "BrowseInfo.h"
-#include "app/Interaction.h"
+#include "base/Interaction.h"
 
 #include <QTimer>
 #include <QWidget>

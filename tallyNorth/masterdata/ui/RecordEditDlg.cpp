@@ -4,7 +4,7 @@
 #include "TranslationModel.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 #include "app/ui/GuiInteraction.h"
 
 #include <QAbstractButton>

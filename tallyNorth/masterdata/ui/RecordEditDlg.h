@@ -5,7 +5,7 @@
 #pragma once
 
 #include "BrowseInfo.h"
-#include "app/Interaction.h"
+#include "base/Interaction.h"
 
 #include <QDialog>
 #include <QHash>

@@ -4,7 +4,7 @@
 #include "RecordListModel.h"
 
 #include "Columns.h"
-#include "app/Setup.h"
+#include "base/Setup.h"
 #include "masterdata/MasterTables.h"
 #include "masterdata/ProductPrices.h"
 
