@@ -3,6 +3,7 @@
 #include "Cli.h"
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
+#include "OrderCommands.h"
 #include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
@@ -36,6 +37,10 @@ const CliCommand kCommands[] = {
      "qtf FILE [--header FILE] [--footer FILE] [--page WxH] [--shift-mm X,Y] --pdf OUT | --text",
      RunQtfCommand},
     {"template", "template check DIR | template install DIR", RunTemplateCommand},
+    {"order",
+     "order show ID | add --partner ID|NAME --item PRODUCT_ID:QTY[:PRICE]... | clone ID | delete "
+     "ID...",
+     RunOrderCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
@@ -81,8 +86,8 @@ int main(int argc, char* argv[])
     // Without a desktop session Qt warns on every run that it picks a runtime folder itself;
     // pick it here, quietly, so standard error carries only the program's messages.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-"
-            + QByteArray::number(qulonglong(getuid()));
+        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-" +
+                               QByteArray::number(qulonglong(getuid()));
         if (QDir().mkpath(QString::fromLocal8Bit(dir)))
             QFile::setPermissions(QString::fromLocal8Bit(dir),
                                   QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

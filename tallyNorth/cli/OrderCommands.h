@@ -1,0 +1,8 @@
+// Command-line verbs for orders: show one, add one for scripts and tests, clone and delete.
+#pragma once
+
+#include "Cli.h"
+
+// order show ID | order add --partner ID|NAME --item PRODUCT_ID:QTY[:PRICE]... [options]
+// | order clone ID | order delete ID...
+int RunOrderCommand(CliContext& context, const QStringList& args);
