@@ -86,8 +86,8 @@ int main(int argc, char* argv[])
     // Without a desktop session Qt warns on every run that it picks a runtime folder itself;
     // pick it here, quietly, so standard error carries only the program's messages.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-" +
-                               QByteArray::number(qulonglong(getuid()));
+        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-"
+            + QByteArray::number(qulonglong(getuid()));
         if (QDir().mkpath(QString::fromLocal8Bit(dir)))
             QFile::setPermissions(QString::fromLocal8Bit(dir),
                                   QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
