@@ -12,6 +12,7 @@
 #include "base/SqlValue.h"
 #include "orders/ConvertOrderType.h"
 #include "orders/OrderFill.h"
+#include "orders/OrderListQuery.h"
 #include "orders/OrderStore.h"
 
 #include <QCoreApplication>
@@ -27,7 +28,10 @@ const char kUsage[] =
     "           [--payment ID] [--currency ID] [--lang ID] [--shipped D] [--due D]\n"
     "           [--subject TEXT] [--comment TEXT] [--consolidated] [--verified] [--no]\n"
     "       tallynorth-cli [--db FILE] order clone ID\n"
-    "       tallynorth-cli [--db FILE] order delete ID...";
+    "       tallynorth-cli [--db FILE] order delete ID...\n"
+    "       tallynorth-cli [--db FILE] orders [--kind N] [--from D --to D --date "
+    "shipped|created|due]\n"
+    "           [--partner TEXT] [--format txt|csv]";
 
 int Usage(CliContext& context)
 {
@@ -360,7 +364,88 @@ int Delete(CliContext& context, const QStringList& args)
     return outcome.printed > 0 ? ExitFailure : ExitOk;
 }
 
+// A csv field: quoted when it holds a separator, a quote or a line break.
+QString CsvField(const QString& text)
+{
+    if (!text.contains(u',') && !text.contains(u'"') && !text.contains(u'\n'))
+        return text;
+    return u'"' + QString(text).replace(QLatin1String("\""), QLatin1String("\"\"")) + u'"';
+}
+
 } // namespace
+
+int RunOrdersCommand(CliContext& context, const QStringList& args)
+{
+    QStringList positional;
+    QHash<QString, QString> options;
+    const QStringList names{QStringLiteral("kind"),    QStringLiteral("from"),
+                            QStringLiteral("to"),      QStringLiteral("date"),
+                            QStringLiteral("partner"), QStringLiteral("format")};
+    if (!ParseVerbArgs(args, names, &positional, &options) || !positional.isEmpty())
+        return Usage(context);
+    OrderListFilter filter;
+    if (options.contains(QStringLiteral("kind"))) {
+        bool ok = false;
+        filter.kind = options.value(QStringLiteral("kind")).toInt(&ok);
+        if (!ok)
+            return Usage(context);
+    }
+    const QString date = options.value(QStringLiteral("date"), QStringLiteral("shipped"));
+    if (date == QLatin1String("created"))
+        filter.dateField = OrderListFilter::DateField::Created;
+    else if (date == QLatin1String("due"))
+        filter.dateField = OrderListFilter::DateField::PaymentDue;
+    else if (date != QLatin1String("shipped"))
+        return Usage(context);
+    for (const auto& [name, target] : {std::pair{"from", &filter.from}, {"to", &filter.to}}) {
+        if (!options.contains(QLatin1String(name)))
+            continue;
+        *target = ParseDate(options.value(QLatin1String(name)));
+        if (!target->isValid())
+            return Usage(context);
+    }
+    filter.partner = options.value(QStringLiteral("partner"));
+    const QString format = options.value(QStringLiteral("format"), QStringLiteral("txt"));
+    if (format != QLatin1String("txt") && format != QLatin1String("csv"))
+        return Usage(context);
+    if (!OpenChosenCompany(context))
+        return ExitFailure;
+    {
+        SqlStatement limit(
+            QStringLiteral("select %1 from %2")
+                .arg(QLatin1StringView(Col::SETUP_RECORD_LIMIT), QLatin1StringView(Tbl::SETUP)));
+        if (limit.exec() && limit.next())
+            filter.limit = int(ToInteger(limit.value(Col::SETUP_RECORD_LIMIT)));
+    }
+    QList<OrderListRow> rows;
+    bool more = false;
+    if (Result r = OrderListQuery::load(filter, rows, more); !r) {
+        PrintMessage(context, r.message());
+        return ExitFailure;
+    }
+    const bool csv = format == QLatin1String("csv");
+    const auto print = [&](QStringList fields) {
+        if (csv) {
+            for (QString& f : fields)
+                f = CsvField(f);
+        }
+        *context.out << fields.join(csv ? u',' : u'\t') << '\n';
+    };
+    print({Tr("Code"), Tr("Invoice No"), Tr("Partner Name"), Tr("Date Shipped"), Tr("Date Created"),
+           Tr("Date Payment Due"), Tr("Currency"), Tr("Total Net"), Tr("Total VAT"),
+           Tr("Total Gross"), Tr("Unpaid Total"), Tr("Payment Method"), Tr("Kind")});
+    for (const OrderListRow& row : std::as_const(rows)) {
+        const int d = row.printingDecimals;
+        print({row.code, row.invoiceNoStr, row.partnerName, FormatDate(row.dateShipped),
+               FormatDate(row.dateCreated), FormatDate(row.datePaymentDue), row.currency,
+               Amount(row.totalNet, d), Amount(row.totalVat, d), Amount(row.totalGross, d),
+               Amount(row.unpaidTotal, d), row.paymentMethod, row.kind.text});
+    }
+    context.out->flush();
+    if (more)
+        PrintMessage(context, OrderListQuery::moreMessage());
+    return ExitOk;
+}
 
 int RunOrderCommand(CliContext& context, const QStringList& args)
 {

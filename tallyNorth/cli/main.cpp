@@ -41,6 +41,10 @@ const CliCommand kCommands[] = {
      "order show ID | add --partner ID|NAME --item PRODUCT_ID:QTY[:PRICE]... | clone ID | delete "
      "ID...",
      RunOrderCommand},
+    {"orders",
+     "orders [--kind N] [--from D --to D --date shipped|created|due] [--partner TEXT] "
+     "[--format txt|csv]",
+     RunOrdersCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

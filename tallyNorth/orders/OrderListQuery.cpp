@@ -1,0 +1,154 @@
+#include "OrderListQuery.h"
+
+#include "Columns.h"
+#include "base/DateText.h"
+#include "base/FoldName.h"
+#include "base/MessageArgs.h"
+#include "base/SqlStatement.h"
+#include "base/SqlValue.h"
+
+namespace {
+
+QString Sql(const char* pattern, std::initializer_list<const char*> names)
+{
+    QString text = QString::fromLatin1(pattern);
+    for (const char* name : names)
+        text = text.arg(QLatin1StringView(name));
+    return text;
+}
+
+// The predicate of each kind. Paid state and due dates only mean something on an issued invoice,
+// so the last two kinds take numbered orders only; "verified" lists what is ready for issuing.
+std::optional<QString> KindCondition(int kind, QVariantList& binds, const QDate& today)
+{
+    using Kind = OrderListFilter::Kind;
+    switch (Kind(kind)) {
+    case Kind::NotPrinted:
+        return Sql("coalesce(%1, 0) = 0", {Col::ORDERHEAD_PRINTED_COPIES});
+    case Kind::Printed:
+        return Sql("%1 > 0", {Col::ORDERHEAD_PRINTED_COPIES});
+    case Kind::Unverified:
+        return Sql("coalesce(%1, '0') <> '1'", {Col::ORDERHEAD_VERIFIED});
+    case Kind::Verified:
+        return Sql("%1 = '1' and %2 is null", {Col::ORDERHEAD_VERIFIED, Col::ORDERHEAD_INVOICE_NO});
+    case Kind::CancelInvoices:
+        return Sql("%1 = 1", {Col::ORDERHEAD_TYPE});
+    case Kind::Cancelled:
+        return Sql("%1 is not null and %2 is not null",
+                   {Col::ORDERHEAD_CANCELLING_INVOICE_NO, Col::ORDERHEAD_INVOICE_NO});
+    case Kind::Unpaid:
+        return Sql("%1 is not null and coalesce(%2, '0') <> '1'",
+                   {Col::ORDERHEAD_INVOICE_NO, Col::ORDERHEAD_PAID});
+    case Kind::Overdue:
+        binds << DateToSql(today);
+        return Sql(
+            "%1 is not null and coalesce(%2, '0') <> '1' and %3 < ?",
+            {Col::ORDERHEAD_INVOICE_NO, Col::ORDERHEAD_PAID, Col::ORDERHEAD_DATE_PAYMENT_DUE});
+    }
+    return std::nullopt;
+}
+
+// column >= from and column <= to, each bound only when given.
+QString Range(const char* column, const QDate& from, const QDate& to, QVariantList& binds)
+{
+    QStringList parts;
+    if (from.isValid()) {
+        parts << Sql("%1 >= ?", {column});
+        binds << DateToSql(from);
+    }
+    if (to.isValid()) {
+        parts << Sql("%1 <= ?", {column});
+        binds << DateToSql(to);
+    }
+    return parts.join(QLatin1String(" and "));
+}
+
+} // namespace
+
+Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& rows, bool& more,
+                            const QDate& today)
+{
+    rows.clear();
+    more = false;
+    QStringList where;
+    QVariantList binds;
+    if (filter.kind) {
+        const std::optional<QString> condition = KindCondition(*filter.kind, binds, today);
+        if (!condition)
+            return Result::failure(tr("Unsupported kind selected"));
+        where << *condition;
+    }
+    if (filter.from.isValid() || filter.to.isValid()) {
+        switch (filter.dateField) {
+        case OrderListFilter::DateField::Shipped: {
+            // A consolidated invoice ships on its items' dates: an order matches through them too.
+            const QString head = Range(Col::ORDERHEAD_DATE_SHIPPED, filter.from, filter.to, binds);
+            const QString items = Range(Col::ORDERITEM_DATE_SHIPPED, filter.from, filter.to, binds);
+            where << u'(' + head +
+                         Sql(" or %1 in (select %2 from %3 where ",
+                             {Col::ORDERHEAD_ID, Col::ORDERITEM_ORDERHEAD_ID, Tbl::ORDERITEM}) +
+                         items + QLatin1String("))");
+            break;
+        }
+        case OrderListFilter::DateField::Created:
+            where << Range(Col::ORDERHEAD_DATE_CREATED, filter.from, filter.to, binds);
+            break;
+        case OrderListFilter::DateField::PaymentDue:
+            where << Range(Col::ORDERHEAD_DATE_PAYMENT_DUE, filter.from, filter.to, binds);
+            break;
+        }
+    }
+    if (!filter.partner.trimmed().isEmpty()) {
+        where << Sql("%1 like ? escape '\\'", {Col::ORDERHEAD_PARTNER_NAME_ASCII});
+        const QString prefix = FoldName(filter.partner.trimmed())
+                                   .replace(u'\\', QLatin1String("\\\\"))
+                                   .replace(u'%', QLatin1String("\\%"))
+                                   .replace(u'_', QLatin1String("\\_"));
+        binds << QVariant(prefix + u'%');
+    }
+    QString text = Sql("select * from %1", {Tbl::ORDERHEAD});
+    if (!where.isEmpty())
+        text += QLatin1String(" where ") + where.join(QLatin1String(" and "));
+    text += Sql(" order by %1 desc", {Col::ORDERHEAD_ID});
+    if (filter.limit > 0) {
+        text += QLatin1String(" limit ?");
+        binds << filter.limit + 1;
+    }
+    SqlStatement st(text, binds);
+    if (!st.exec())
+        return st.failure(
+            FillArgs(tr("Hiba: Szamlak lekerdezese nem sikerult&%s"), {st.errorText()}));
+    while (st.next()) {
+        if (filter.limit > 0 && rows.size() == filter.limit) {
+            more = true;
+            break;
+        }
+        OrderListRow row;
+        row.id = ToInteger(st.value(Col::ORDERHEAD_ID));
+        row.code = st.value(Col::ORDERHEAD_CODE).toString();
+        row.invoiceNoStr = st.value(Col::ORDERHEAD_INVOICE_NO_STR).toString();
+        row.partnerName = st.value(Col::ORDERHEAD_PARTNER_NAME).toString();
+        row.dateShipped = DateFromSql(st.value(Col::ORDERHEAD_DATE_SHIPPED));
+        row.dateCreated = DateFromSql(st.value(Col::ORDERHEAD_DATE_CREATED));
+        row.datePaymentDue = DateFromSql(st.value(Col::ORDERHEAD_DATE_PAYMENT_DUE));
+        row.currency = st.value(Col::ORDERHEAD_CURRENCY_ABBREVIATION).toString();
+        row.totalNet = ToNumber(st.value(Col::ORDERHEAD_TOTAL_NET));
+        row.totalVat = ToNumber(st.value(Col::ORDERHEAD_TOTAL_VAT));
+        row.totalGross = ToNumber(st.value(Col::ORDERHEAD_TOTAL_GROSS));
+        row.unpaidTotal = ToNumber(st.value(Col::ORDERHEAD_UNPAID_TOTAL));
+        row.paymentMethod = st.value(Col::ORDERHEAD_PAYMENTMETHOD_NAME).toString();
+        row.kind = ConvertOrderType(
+            st.value(Col::ORDERHEAD_TYPE), st.value(Col::ORDERHEAD_VERIFIED),
+            st.value(Col::ORDERHEAD_INVOICE_NO), st.value(Col::ORDERHEAD_CANCELLING_INVOICE_NO),
+            st.value(Col::ORDERHEAD_CONSOLIDATED_INVOICE));
+        row.printingDecimals =
+            int(ToInteger(st.value(Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS)));
+        rows << row;
+    }
+    return Result::success();
+}
+
+QString OrderListQuery::moreMessage()
+{
+    return tr("There are more matching orders then displayed. Try more specific filter.");
+}
