@@ -19,6 +19,11 @@
 
 #include <algorithm>
 
+class OrderCommands
+{
+    Q_DECLARE_TR_FUNCTIONS(OrderCommands)
+};
+
 namespace {
 
 const char kUsage[] =
@@ -117,8 +122,10 @@ int Show(CliContext& context, const QStringList& args)
     line(QT_TRANSLATE_NOOP("OrderCommands", "Currency Rate"), Price(o.currencyRate, 0));
     line(QT_TRANSLATE_NOOP("OrderCommands", "Subject"), o.subject);
     out << '\n';
-    out << QStringList{Tr("Name"), Tr("Quantity"), Tr("Unit"), Tr("Price"), Tr("Line Total")}.join(
-               u'\t')
+    out << QStringList{OrderCommands::tr("Name"), OrderCommands::tr("Quantity"),
+                       OrderCommands::tr("Unit"), OrderCommands::tr("Price"),
+                       OrderCommands::tr("Line Total")}
+               .join(u'\t')
         << '\n';
     for (const OrderItem& item : std::as_const(o.items)) {
         out << QStringList{item.name, Price(item.qty, 0), item.unit,
@@ -162,7 +169,7 @@ Result FindPartner(const QString& text, qint64& id)
                              .replace(u'_', QLatin1String("\\_")) +
                          u'%'});
         if (!st.exec())
-            return st.failure(Tr("Unable to load data from database."));
+            return st.failure(OrderCommands::tr("Unable to load data from database."));
         QList<qint64> ids;
         while (st.next())
             ids << ToInteger(st.value(Col::PARTNER_ID));
@@ -171,10 +178,10 @@ Result FindPartner(const QString& text, qint64& id)
             return Result::success();
         }
         if (ids.size() > 1)
-            return Result::failure(
-                FillArgs(Tr("More than one partner matches \"%s\"; give its id."), {text}));
+            return Result::failure(FillArgs(
+                OrderCommands::tr("More than one partner matches \"%s\"; give its id."), {text}));
     }
-    return Result::failure(FillArgs(Tr("Partner not found: %s"), {text}));
+    return Result::failure(FillArgs(OrderCommands::tr("Partner not found: %s"), {text}));
 }
 
 struct ItemArg
@@ -244,7 +251,8 @@ int Add(CliContext& context, QStringList args)
             PrintMessage(
                 context,
                 FillArgs(
-                    Tr("Invalid order item \"%s\": give PRODUCT_ID:QTY or PRODUCT_ID:QTY:PRICE."),
+                    OrderCommands::tr(
+                        "Invalid order item \"%s\": give PRODUCT_ID:QTY or PRODUCT_ID:QTY:PRICE."),
                     {text}));
             return ExitUsage;
         }
@@ -431,9 +439,13 @@ int RunOrdersCommand(CliContext& context, const QStringList& args)
         }
         *context.out << fields.join(csv ? u',' : u'\t') << '\n';
     };
-    print({Tr("Code"), Tr("Invoice No"), Tr("Partner Name"), Tr("Date Shipped"), Tr("Date Created"),
-           Tr("Date Payment Due"), Tr("Currency"), Tr("Total Net"), Tr("Total VAT"),
-           Tr("Total Gross"), Tr("Unpaid Total"), Tr("Payment Method"), Tr("Kind")});
+    print({OrderCommands::tr("Code"), OrderCommands::tr("Invoice No"),
+           OrderCommands::tr("Partner Name"), OrderCommands::tr("Date Shipped"),
+           OrderCommands::tr("Date Created"), OrderCommands::tr("Date Payment Due"),
+           OrderCommands::tr("Currency"), OrderCommands::tr("Total Net"),
+           OrderCommands::tr("Total VAT"), OrderCommands::tr("Total Gross"),
+           OrderCommands::tr("Unpaid Total"), OrderCommands::tr("Payment Method"),
+           OrderCommands::tr("Kind")});
     for (const OrderListRow& row : std::as_const(rows)) {
         const int d = row.printingDecimals;
         print({row.code, row.invoiceNoStr, row.partnerName, FormatDate(row.dateShipped),

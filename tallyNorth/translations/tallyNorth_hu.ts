@@ -1761,4 +1761,274 @@
             <translation>ÁFA-kulcs szerkesztése:</translation>
         </message>
     </context>
+    <context>
+        <name>OrderCommands</name>
+        <message>
+            <source>Order</source>
+            <translation>Rendelés</translation>
+        </message>
+        <message>
+            <source>Kind</source>
+            <translation>Típus</translation>
+        </message>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Address</source>
+            <translation>Cím</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés</translation>
+        </message>
+        <message>
+            <source>Date Created</source>
+            <translation>Kelt</translation>
+        </message>
+        <message>
+            <source>Date Payment Due</source>
+            <translation>Fizetési határidő</translation>
+        </message>
+        <message>
+            <source>Currency</source>
+            <translation>Pénznem</translation>
+        </message>
+        <message>
+            <source>Currency Rate</source>
+            <translation>Árfolyam</translation>
+        </message>
+        <message>
+            <source>Subject</source>
+            <translation>Tárgy</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+        <message>
+            <source>Quantity</source>
+            <translation>Mennyiség</translation>
+        </message>
+        <message>
+            <source>Unit</source>
+            <translation>Egység</translation>
+        </message>
+        <message>
+            <source>Price</source>
+            <translation>Egységár</translation>
+        </message>
+        <message>
+            <source>Line Total</source>
+            <translation>Sorösszeg</translation>
+        </message>
+        <message>
+            <source>Total Net</source>
+            <translation>Nettó összesen</translation>
+        </message>
+        <message>
+            <source>Total VAT</source>
+            <translation>ÁFA összesen</translation>
+        </message>
+        <message>
+            <source>Total Gross</source>
+            <translation>Bruttó összesen</translation>
+        </message>
+        <message>
+            <source>Rounding</source>
+            <translation>Kerekítés</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.</source>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
+        </message>
+        <message>
+            <source>More than one partner matches "%s"; give its id.</source>
+            <translation>Több partner is illeszkedik erre: „%s”; adja meg az azonosítóját.</translation>
+        </message>
+        <message>
+            <source>Partner not found: %s</source>
+            <translation>A partner nem található: %s</translation>
+        </message>
+        <message>
+            <source>Invalid order item "%s": give PRODUCT_ID:QTY or PRODUCT_ID:QTY:PRICE.</source>
+            <translation>Hibás rendelési tétel: „%s”; formája TERMÉK_AZONOSÍTÓ:MENNYISÉG vagy TERMÉK_AZONOSÍTÓ:MENNYISÉG:ÁR.</translation>
+        </message>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Unpaid Total</source>
+            <translation>Kifizetetlen összeg</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderFill</name>
+        <message>
+            <source>Unable to load data from database.</source>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Translation not found for payment method.</source>
+            <translation>A fizetési mód fordítása nem található.</translation>
+        </message>
+        <message>
+            <source>Default currency not found in database.&amp;The database needs to be repaired.</source>
+            <translation>Az alapértelmezett pénznem nem található az adatbázisban.&amp;Az adatbázist javítani kell.</translation>
+        </message>
+        <message>
+            <source>Error in loading product from database.</source>
+            <translation>Hiba a termék betöltésekor az adatbázisból.</translation>
+        </message>
+        <message>
+            <source>Order item name field must have a value.</source>
+            <translation>A rendelési tétel megnevezését meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Quantity field must have a value.</source>
+            <translation>A mennyiséget meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Price field must have a value.</source>
+            <translation>Az árat meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Date Shipped field must have a value.</source>
+            <translation>A teljesítés dátumát meg kell adni.</translation>
+        </message>
+        <message>
+            <source>The amount of the order item is too large.</source>
+            <translation>A rendelési tétel összege túl nagy.</translation>
+        </message>
+        <message>
+            <source>Partner Name field is required.</source>
+            <translation>A partner nevét meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Partner City field is required.</source>
+            <translation>A partner települését meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Partner Address field is required.</source>
+            <translation>A partner címét meg kell adni.</translation>
+        </message>
+        <message>
+            <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
+            <translation>A partner levelezési címéhez tartozó nevet meg kell adni.</translation>
+        </message>
+        <message>
+            <source>A partner levelezesi cimehez tartozo telepulest meg kell adni.</source>
+            <translation>A partner levelezési címéhez tartozó települést meg kell adni.</translation>
+        </message>
+        <message>
+            <source>A partner levelezesi cimehez tartozo cimet meg kell adni.</source>
+            <translation>A partner levelezési címéhez tartozó címet meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Payment Method field is required.</source>
+            <translation>A fizetési módot meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Currency field is required.</source>
+            <translation>A pénznemet meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Currency Rate field is required.</source>
+            <translation>Az árfolyamot meg kell adni.</translation>
+        </message>
+        <message>
+            <source>A teljesítés 15 napnál régebbi.&amp;Előfordulhat, hogy ez nem felel meg az ÁFA törvény (2007. évi CXXVII. tv. 163. §) előírásainak.&amp;&amp;Biztos benne, hogy folytatja?</source>
+            <translation>A teljesítés 15 napnál régebbi.&amp;Előfordulhat, hogy ez nem felel meg az ÁFA törvény (2007. évi CXXVII. tv. 163. §) előírásainak.&amp;&amp;Biztos benne, hogy folytatja?</translation>
+        </message>
+        <message>
+            <source>The payment due is in the past.
+Do you want to continue?</source>
+            <translation>A fizetési határidő a múltban van.
+Folytatja?</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderListQuery</name>
+        <message>
+            <source>Unsupported kind selected</source>
+            <translation>Nem támogatott típus van kiválasztva</translation>
+        </message>
+        <message>
+            <source>Hiba: Szamlak lekerdezese nem sikerult&amp;%s</source>
+            <translation>Hiba: a számlák lekérdezése nem sikerült&amp;%s</translation>
+        </message>
+        <message>
+            <source>There are more matching orders then displayed. Try more specific filter.</source>
+            <translation>Több rendelés felel meg a feltételeknek, mint amennyi megjelenik. Adjon meg szűkebb szűrőt.</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderStore</name>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Unable to save changes of order. Maybe an other user changed this order.</source>
+            <translation>A rendelés változásait nem sikerült menteni. Lehet, hogy egy másik felhasználó módosította a rendelést.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.</source>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Can't delete item.</source>
+            <translation>A tétel nem törölhető.</translation>
+        </message>
+        <message>
+            <source>Can't insert order item.</source>
+            <translation>A rendelési tétel nem vehető fel.</translation>
+        </message>
+        <message>
+            <source>Can't update order item.</source>
+            <translation>A rendelési tétel nem módosítható.</translation>
+        </message>
+        <message>
+            <source>Unable to save changes of order.</source>
+            <translation>A rendelés változásait nem sikerült menteni.</translation>
+        </message>
+        <message>
+            <source>Unable to create order in database.</source>
+            <translation>A rendelést nem sikerült létrehozni az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>Error in deleting order/invoice.</source>
+            <translation>Hiba a rendelés/számla törlésekor.</translation>
+        </message>
+        <message>
+            <source>Unable to delete order. It is possible that an other user modified it.</source>
+            <translation>A rendelés nem törölhető. Lehet, hogy egy másik felhasználó módosította.</translation>
+        </message>
+        <message>
+            <source>Can't delete record.</source>
+            <translation>A rekord nem törölhető.</translation>
+        </message>
+        <message>
+            <source>%d orders/invoices can not be deleted,&amp;because they are printed yet.</source>
+            <translation>%d rendelés/számla nem törölhető,&amp;mert már ki lett nyomtatva.</translation>
+        </message>
+        <message>
+            <source>Can't create order in database.</source>
+            <translation>A rendelést nem sikerült létrehozni az adatbázisban.</translation>
+        </message>
+    </context>
 </TS>
