@@ -136,6 +136,7 @@ public:
             m_doc.setTextWidth(m_layout.width * m_unit);
         QTextCursor cursor(&m_doc);
         flow(cursor, qtf.blocks, m_layout.width);
+        applyMinHeights();
     }
 
 private:
@@ -151,7 +152,17 @@ private:
     QString numberLabel(const ParaFormat& f);
     void markFiller(QTextCursor& cursor);
     void setBlockCharFormat(QTextCursor& cursor, const QTextCharFormat& format);
+    void applyMinHeights();
     double units(double dots) const { return dots * m_unit; }
+
+    // A cell with a minimum height, sized once the document is laid out.
+    struct MinHeight
+    {
+        QTextTable* table = nullptr;
+        int row = 0;
+        int col = 0;
+        double height = 0; // layout units, less the margins
+    };
 
     QTextDocument& m_doc;
     QtfLayout m_layout;
@@ -161,6 +172,7 @@ private:
     QTextList* m_list = nullptr;
     Bullet m_listBullet = Bullet::None;
     bool m_cellStart = false;
+    QList<MinHeight> m_minHeights;
 };
 
 // The first block of a table cell carries the cell's format as its character format.
@@ -235,6 +247,7 @@ void Builder::paragraph(QTextCursor& cursor, const Paragraph& p, double width, d
         spacer.setLineHeight(units(gap), QTextBlockFormat::FixedHeight);
         spacer.setPageBreakPolicy(bf.pageBreakPolicy());
         spacer.setProperty(QtfProperty::KeepNext, true);
+        spacer.setProperty(QtfProperty::Spacer, true);
         cursor.setBlockFormat(spacer);
         QTextCharFormat tiny;
         tiny.setFontPointSize(0.05);
@@ -531,9 +544,10 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     const int rows = int(t.rows.size());
     const int cols = t.columns();
     QTextTableCellFormat cf;
-    cf.setVerticalAlignment(f.valign == VAlign::Top      ? QTextCharFormat::AlignTop
-                            : f.valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
-                                                         : QTextCharFormat::AlignMiddle);
+    const VAlign valign = m_layout.topAlignedCells ? VAlign::Top : f.valign;
+    cf.setVerticalAlignment(valign == VAlign::Top      ? QTextCharFormat::AlignTop
+                            : valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
+                                                       : QTextCharFormat::AlignMiddle);
     cf.setLeftPadding(units(f.margin[0]));
     cf.setTopPadding(units(f.margin[1]));
     cf.setRightPadding(units(f.margin[2]));
@@ -577,13 +591,53 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     flow(cursor, cell.blocks, std::max(contentWidth, 1.0));
     m_cellStart = false;
 
-    // A minimum height lifts the first line of a one-line cell.
-    if (f.minHeight > 0 && cell.blocks.size() == 1 && !cell.blocks.first().isTable()) {
-        QTextCursor first = qcell.firstCursorPosition();
-        QTextBlockFormat bf = first.blockFormat();
-        bf.setLineHeight(units(f.minHeight - f.margin[1] - f.margin[3]),
-                         QTextBlockFormat::MinimumHeight);
-        first.setBlockFormat(bf);
+    if (f.minHeight > f.margin[1] + f.margin[3])
+        m_minHeights.append({table, row, col, units(f.minHeight - f.margin[1] - f.margin[3])});
+}
+
+// Qt knows no minimum cell height: once the content's height is known, the missing height goes
+// into the cell's padding on the side its vertical alignment leaves free.
+void Builder::applyMinHeights()
+{
+    if (m_minHeights.isEmpty())
+        return;
+    QAbstractTextDocumentLayout* layout = m_doc.documentLayout();
+    layout->documentSize(); // lays out
+    struct Change
+    {
+        QTextTableCell cell;
+        double missing;
+    };
+    QList<Change> changes;
+    for (const MinHeight& m : std::as_const(m_minHeights)) {
+        const QTextTableCell cell = m.table->cellAt(m.row, m.col);
+        double top = 1e300;
+        double bottom = -1e300;
+        for (QTextBlock b = m_doc.findBlock(cell.firstPosition());
+             b.isValid() && b.position() <= cell.lastPosition(); b = b.next()) {
+            const QRectF r = layout->blockBoundingRect(b);
+            top = std::min(top, r.top());
+            bottom = std::max(bottom, r.bottom());
+        }
+        const double missing = m.height - std::max(0.0, bottom - top);
+        if (missing > 0.01)
+            changes.append({cell, missing});
+    }
+    for (Change& c : changes) {
+        QTextTableCellFormat f = c.cell.format().toTableCellFormat();
+        switch (f.verticalAlignment()) {
+        case QTextCharFormat::AlignTop:
+            f.setBottomPadding(f.bottomPadding() + c.missing);
+            break;
+        case QTextCharFormat::AlignBottom:
+            f.setTopPadding(f.topPadding() + c.missing);
+            break;
+        default:
+            f.setTopPadding(f.topPadding() + c.missing / 2);
+            f.setBottomPadding(f.bottomPadding() + c.missing / 2);
+            break;
+        }
+        c.cell.setFormat(f);
     }
 }
 
