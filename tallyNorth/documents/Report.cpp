@@ -37,7 +37,7 @@ double Height(const QTextDocument* doc)
 
 // Rows and paragraphs are laid out in chunks of about this many, each a document of its own:
 // Qt's layout coordinates overflow at 2^25 units, and a small document lays out fast.
-constexpr int kChunkWeight = 300;
+constexpr int kChunkWeight = 100;
 constexpr double kMaxLayoutHeight = 30e6;
 // Rows measured apart may differ from their page's own layout by a border's width.
 constexpr double kSlack = 12;
@@ -117,26 +117,30 @@ struct TopItem
 
 QList<TopItem> TopItems(const QTextDocument& doc)
 {
+    // Walks the root frame's blocks, jumping over each table (Qt's frame iterator looks at
+    // every cell on its way).
     QAbstractTextDocumentLayout* layout = doc.documentLayout();
+    const QList<QTextFrame*> frames = doc.rootFrame()->childFrames();
     QList<TopItem> items;
     double spacerTop = -1;
-    for (auto it = doc.rootFrame()->begin(); !it.atEnd(); ++it) {
-        if (QTextFrame* frame = it.currentFrame()) {
+    qsizetype next = 0;
+    for (QTextBlock b = doc.begin(); b.isValid();) {
+        if (next < frames.size() && b.position() >= frames.at(next)->firstPosition()) {
+            QTextFrame* frame = frames.at(next++);
             if (auto* table = qobject_cast<QTextTable*>(frame))
                 items.append({QTextBlock(), table, layout->frameBoundingRect(frame).top()});
             spacerTop = -1;
+            b = doc.findBlock(frame->lastPosition() + 1);
             continue;
         }
-        const QTextBlock b = it.currentBlock();
         if (b.blockFormat().hasProperty(QtfProperty::Spacer)) {
             spacerTop = layout->blockBoundingRect(b).top();
-            continue;
+        } else if (!IsFiller(b)) {
+            const double top = layout->blockBoundingRect(b).top();
+            items.append({b, nullptr, spacerTop >= 0 ? spacerTop : top});
+            spacerTop = -1;
         }
-        if (IsFiller(b))
-            continue;
-        const double top = layout->blockBoundingRect(b).top();
-        items.append({b, nullptr, spacerTop >= 0 ? spacerTop : top});
-        spacerTop = -1;
+        b = b.next();
     }
     return items;
 }
@@ -200,12 +204,14 @@ bool MeasureChunk(const Qtf::Document& body, const QList<ChunkPart>& parts, QtfL
         // the distance the first row shows between the table's top and its first line.
         QTextTable* table = item.table;
         const Qtf::Table& source = *body.blocks.at(part.block).table;
+        const Qtf::Table* slice = chunk.blocks.at(i).table.get();
         QList<double> contentTop(table->rows(), 1e300);
         for (int r = 0; r < table->rows(); ++r) {
             for (int c = 0; c < table->columns(); ++c) {
-                const QTextTableCell cell = table->cellAt(r, c);
-                if (cell.row() != r || cell.column() != c)
+                // Qt's cell geometry calls copy the cell's whole format: the source knows.
+                if (slice->rows.at(r).at(c).covered)
                     continue;
+                const QTextTableCell cell = table->cellAt(r, c);
                 const QTextBlock b = doc->findBlock(cell.firstPosition());
                 contentTop[r] = std::min(contentTop[r], docLayout->blockBoundingRect(b).top());
             }
