@@ -677,6 +677,9 @@ void Builder::applyMinHeights()
         }
         c.cell.setFormat(f);
     }
+    // Qt keeps the table's layout after a cell's format changes.
+    if (!changes.isEmpty())
+        m_doc.markContentsDirty(0, m_doc.characterCount());
 }
 
 void DrawLeader(QPainter& painter, char fill, QPointF from, double to, const QFont& font)

@@ -136,7 +136,8 @@ QList<TopItem> TopItems(const QTextDocument& doc)
         if (b.blockFormat().hasProperty(QtfProperty::Spacer)) {
             spacerTop = layout->blockBoundingRect(b).top();
         } else if (!IsFiller(b)) {
-            const double top = layout->blockBoundingRect(b).top();
+            // Qt's block rectangle starts below the space before the paragraph.
+            const double top = layout->blockBoundingRect(b).top() - b.blockFormat().topMargin();
             items.append({b, nullptr, spacerTop >= 0 ? spacerTop : top});
             spacerTop = -1;
         }
