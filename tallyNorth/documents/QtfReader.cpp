@@ -120,6 +120,9 @@ private:
     // How many tables deep the last table read is, and the deepest inside the one being read.
     int m_lastTableHeight = 0;
     int m_innerTableHeight = 0;
+    // Where the last "]" ended and whether the blocks it closed held paragraph codes.
+    qsizetype m_closedAt = -1;
+    bool m_lostParagraph = false;
     // Messages: the lenient reading of QtfMessage().
     bool m_message = false;
     FlowState* m_flow = nullptr;
@@ -169,10 +172,18 @@ bool Parser::parseSpecial(FlowState& f, Mode mode, Stop* stop)
             fail(QStringLiteral("Unmatched ']'"), m_pos);
             return true;
         }
-        m_fmt = m_stack.takeLast();
-        ++m_pos;
-        return true;
+        {
+            Format closed = m_stack.takeLast();
+            std::swap(closed, m_fmt);
+            // "]]&": the codes of any of the blocks closed right before the "&" are lost.
+            m_lostParagraph =
+                (m_closedAt == m_pos && m_lostParagraph) || !(closed.para == m_fmt.para);
+            m_closedAt = ++m_pos;
+            return true;
+        }
     case '&':
+        if (m_closedAt == m_pos && m_lostParagraph)
+            m_doc.lostParagraphFormats.append(m_pos);
         ++m_pos;
         finishParagraph(f);
         return true;
