@@ -1,16 +1,19 @@
 // Seconds per 1 000 table rows of a report printed to PDF, at 1 000, 10 000 and 100 000 rows,
 // beside a bare Qt render of the same rows (one QTextDocument drawn to a QPdfWriter) measured in
 // the same run: the ratio shows what the report's paging costs, the per-row times show growth.
+// Each render runs in a process of its own, so that the peak memory shown is its own.
 //
 //   cmake -S . -B build -DTALLYNORTH_BENCH=ON && cmake --build build --target bench_report
 //   QT_QPA_PLATFORM=offscreen ./build/bench/bench_report [rows...]
 #include "documents/Report.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -91,24 +94,50 @@ double PeakMegabytes()
     return usage.ru_maxrss / 1024.0;
 }
 
+// "--one report|bare ROWS": one render, printing its seconds and peak megabytes.
+int RunOne(const QString& kind, int rows)
+{
+    QTemporaryDir dir;
+    const QString pdf = dir.filePath(QStringLiteral("bench.pdf"));
+    const double seconds =
+        kind == QLatin1String("bare") ? BareSeconds(rows, pdf) : ReportSeconds(rows, pdf);
+    std::printf("%f %f\n", seconds, PeakMegabytes());
+    return seconds < 0 ? 1 : 0;
+}
+
+std::pair<double, double> Measure(const QString& kind, int rows)
+{
+    QProcess p;
+    p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    p.start(QCoreApplication::applicationFilePath(),
+            {QStringLiteral("--one"), kind, QString::number(rows)});
+    p.waitForFinished(-1);
+    const QStringList out = QString::fromLatin1(p.readAllStandardOutput()).split(u' ');
+    if (p.exitCode() != 0 || out.size() < 2)
+        return {-1, -1};
+    return {out[0].toDouble(), out[1].toDouble()};
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QGuiApplication app(argc, argv);
+    const QStringList args = app.arguments().mid(1);
+    if (args.size() == 3 && args[0] == QLatin1String("--one"))
+        return RunOne(args[1], args[2].toInt());
     QList<int> counts;
-    for (int i = 1; i < argc; ++i)
-        counts << QString::fromLocal8Bit(argv[i]).toInt();
+    for (const QString& a : args)
+        counts << a.toInt();
     if (counts.isEmpty())
         counts = {1000, 10000, 100000};
-    QTemporaryDir dir;
-    const QString pdf = dir.filePath(QStringLiteral("bench.pdf"));
-    std::printf("%8s %12s %12s %8s %10s\n", "rows", "report s/1k", "bare s/1k", "ratio", "peak MB");
+    std::printf("%8s %12s %12s %8s %10s %10s\n", "rows", "report s/1k", "bare s/1k", "ratio",
+                "report MB", "bare MB");
     for (int rows : counts) {
-        const double bare = BareSeconds(rows, pdf);
-        const double report = ReportSeconds(rows, pdf);
-        std::printf("%8d %12.3f %12.3f %8.2f %10.0f\n", rows, report * 1000 / rows,
-                    bare * 1000 / rows, report / bare, PeakMegabytes());
+        const auto [bare, bareMb] = Measure(QStringLiteral("bare"), rows);
+        const auto [report, reportMb] = Measure(QStringLiteral("report"), rows);
+        std::printf("%8d %12.3f %12.3f %8.2f %10.0f %10.0f\n", rows, report * 1000 / rows,
+                    bare * 1000 / rows, report / bare, reportMb, bareMb);
         std::fflush(stdout);
     }
     return 0;
