@@ -15,18 +15,15 @@
 #include <QPdfWriter>
 #include <QSet>
 #include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextTable>
 
-#include <cmath>
 #include <optional>
 
 namespace {
 
 constexpr double kDotsPerMm = 600 / 25.4;
-constexpr double kPageBottomMargin = 20;
 // A4 in dots.
 constexpr QSizeF kA4 = QSizeF(210 * kDotsPerMm, 297 * kDotsPerMm);
 
@@ -686,13 +683,11 @@ void Report::paintPage(QPainter& painter, int page) const
         PaintQtfExtras(painter, *footer, QRectF(0, 0, width, s.footerHeight));
         painter.restore();
     }
-    if (local >= int(s.pageList.size()))
-        return;
-    const Page& pg = s.pageList.at(local);
-    if (pg.pieces.isEmpty()) {
+    if (local >= int(s.pageList.size()) || s.pageList.at(local).pieces.isEmpty()) {
         painter.restore();
         return;
     }
+    const Page& pg = s.pageList.at(local);
     // The pieces of a paragraph over many pages are the same: its document is laid out once.
     const auto samePieces = [&](int other) {
         if (other < 0 || other >= int(s.pageList.size()))
