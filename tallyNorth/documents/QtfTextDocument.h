@@ -21,8 +21,8 @@ struct QtfLayout
     int width = 3968;   // text width in dots; also places tab stops measured from the right edge
     int pageNumber = 0; // values of the page-number fields; 0 leaves them empty
     int pageCount = 0;
-    // Cells top-aligned, so that the top of each table row shows in its cells' first lines; the
-    // report measures row heights so.
+    // For measuring only: cells top-aligned, so that the top of each table row shows in its
+    // cells' first lines, and without the colours only painting needs.
     bool topAlignedCells = false;
 };
 
