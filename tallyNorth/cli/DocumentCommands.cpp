@@ -110,6 +110,8 @@ int TemplateCheck(CliContext& context, const QString& dir)
     };
     line(QT_TRANSLATE_NOOP("DocumentCommands", "Computed digest: %s"), t.computeDigest());
     line(QT_TRANSLATE_NOOP("DocumentCommands", "Digest in invoice.cfg: %s"), t.digest());
+    for (const QString& warning : t.warnings())
+        line(QT_TRANSLATE_NOOP("DocumentCommands", "Warning: %s"), warning);
     *context.out << (t.certified()
                          ? QCoreApplication::translate("DocumentCommands", "Certified: yes")
                          : QCoreApplication::translate("DocumentCommands", "Certified: no"))

@@ -1,7 +1,11 @@
 #include "InvoiceTemplate.h"
 
+#include "QtfReader.h"
+
+#include "base/MessageArgs.h"
 #include "base/Setup.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -64,6 +68,22 @@ QString ReadTextFile(const QString& path)
 }
 
 } // namespace
+
+QStringList InvoiceTemplate::warnings() const
+{
+    QStringList out;
+    for (int i = 0; i < kPieces; ++i) {
+        for (qsizetype at : ReadQtf(m_texts[i]).lostParagraphFormats) {
+            const int line = int(m_texts[i].left(at).count(u'\n')) + 1;
+            out << FillArgs(QCoreApplication::translate(
+                                "InvoiceTemplate",
+                                "%s, line %s: the paragraph codes of the block closed before "
+                                "\"&\" are lost; put the \"&\" inside the block."),
+                            {QString::fromLatin1(fileName(Piece(i))), QString::number(line)});
+        }
+    }
+    return out;
+}
 
 const char* InvoiceTemplate::fileName(Piece piece)
 {

@@ -7,6 +7,7 @@
 #include "base/Result.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 
@@ -47,6 +48,8 @@ public:
     QString computeDigest() const;
     // The stored digest matches the pieces: only such a template may print invoices.
     bool certified() const { return m_certified; }
+    // Warnings about traps in the pieces' QTF, one plain text per finding.
+    QStringList warnings() const;
 
 private:
     void update(Piece piece);

@@ -177,6 +177,9 @@ struct Document
     QString header; // "^H" and "^F" texts, QTF themselves
     QString footer;
     QString error; // "ERROR: reason: source" when reading stopped early
+    // Source offsets of each "&" right after a "]" that closed paragraph codes: "[= Title]&"
+    // is left aligned, a trap for template authors.
+    QList<qsizetype> lostParagraphFormats;
 };
 
 } // namespace Qtf

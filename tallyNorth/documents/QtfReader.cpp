@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 using namespace Qtf;
 
@@ -116,6 +117,12 @@ private:
     QHash<QString, int> m_styleNames;
     bool m_pageBreakNext = false;
     bool m_failed = false;
+    // How many tables deep the last table read is, and the deepest inside the one being read.
+    int m_lastTableHeight = 0;
+    int m_innerTableHeight = 0;
+    // Where the last "]" ended and whether the blocks it closed held paragraph codes.
+    qsizetype m_closedAt = -1;
+    bool m_lostParagraph = false;
     // Messages: the lenient reading of QtfMessage().
     bool m_message = false;
     FlowState* m_flow = nullptr;
@@ -165,10 +172,18 @@ bool Parser::parseSpecial(FlowState& f, Mode mode, Stop* stop)
             fail(QStringLiteral("Unmatched ']'"), m_pos);
             return true;
         }
-        m_fmt = m_stack.takeLast();
-        ++m_pos;
-        return true;
+        {
+            Format closed = m_stack.takeLast();
+            std::swap(closed, m_fmt);
+            // "]]&": the codes of any of the blocks closed right before the "&" are lost.
+            m_lostParagraph =
+                (m_closedAt == m_pos && m_lostParagraph) || !(closed.para == m_fmt.para);
+            m_closedAt = ++m_pos;
+            return true;
+        }
     case '&':
+        if (m_closedAt == m_pos && m_lostParagraph)
+            m_doc.lostParagraphFormats.append(m_pos);
         ++m_pos;
         finishParagraph(f);
         return true;
@@ -506,11 +521,21 @@ void Parser::startTable(FlowState& f)
 
 Parser::Stop Parser::table(FlowState& f)
 {
+    // "}}{{": the table just read goes into the first cell of this one.
+    const bool nest = m_pos >= 2 && m_s.at(m_pos - 1) == u'}' && m_s.at(m_pos - 2) == u'}' &&
+                      !f.open && f.para.runs.isEmpty() && !f.out->isEmpty() &&
+                      f.out->last().isTable();
+    const int nestedHeight = nest ? m_lastTableHeight : 0;
     m_pos += 2;
-    if (f.depth >= kMaxTableDepth) {
+    if (f.depth + nestedHeight >= kMaxTableDepth) {
         fail(QStringLiteral("Too deeply nested tables"), m_pos - 2);
         return Stop::Error;
     }
+    std::optional<Block> nested;
+    if (nest)
+        nested = f.out->takeLast();
+    const int outerInnerHeight = m_innerTableHeight;
+    m_innerTableHeight = nestedHeight;
     startTable(f);
     auto table = std::make_shared<Table>();
     TableFormat& tf = table->format;
@@ -539,13 +564,21 @@ Parser::Stop Parser::table(FlowState& f)
     const int columns = int(tf.widths.size());
 
     CellFormat cellFormat;
-    parseTableCodes(tf, cellFormat);
+    // An error in a cell's codes shows in that cell.
+    FlowState codes;
+    const auto readCodes = [&] {
+        FlowState* outer = m_flow;
+        m_flow = &codes;
+        parseTableCodes(tf, cellFormat);
+        m_flow = outer;
+    };
+    readCodes();
     m_pending = m_fmt;
 
     QSet<qint64> covered;
     int row = 0;
     int col = 0;
-    Stop stop = m_failed ? Stop::Error : Stop::CellNext;
+    Stop stop = Stop::CellNext;
     while (stop == Stop::CellEnd || stop == Stop::CellNext) {
         if (col == 0)
             table->rows.append(QList<Cell>());
@@ -561,9 +594,20 @@ Parser::Stop Parser::table(FlowState& f)
                 }
             }
         }
-        FlowState inner;
-        inner.depth = f.depth + 1;
-        stop = cell(inner, c, Mode::Table);
+        if (codes.para.error) {
+            codes.out = &c.blocks;
+            emitParagraph(codes);
+            stop = Stop::Error;
+        } else {
+            FlowState inner;
+            inner.depth = f.depth + 1;
+            stop = cell(inner, c, Mode::Table);
+        }
+        if (nested) {
+            c.blocks.prepend(*nested);
+            c.blocks.first().pageBreak = false;
+            nested.reset();
+        }
         if (c.covered) {
             c.blocks = {Block()};
             c.format.hspan = c.format.vspan = 0;
@@ -577,8 +621,8 @@ Parser::Stop Parser::table(FlowState& f)
         cellFormat.hspan = cellFormat.vspan = 0;
         cellFormat.keep = cellFormat.round = false;
         if (stop == Stop::CellEnd)
-            parseTableCodes(tf, cellFormat);
-        if (m_failed)
+            readCodes();
+        if (m_failed && !codes.para.error)
             stop = Stop::Error;
     }
     while (col > 0 && col < columns) {
@@ -604,6 +648,8 @@ Parser::Stop Parser::table(FlowState& f)
     }
     f.out->append(block);
     afterTable(f, false);
+    m_lastTableHeight = m_innerTableHeight + 1;
+    m_innerTableHeight = std::max(outerInnerHeight, m_lastTableHeight);
     return stop == Stop::Error ? Stop::Error : Stop::End;
 }
 

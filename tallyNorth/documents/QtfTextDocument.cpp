@@ -115,6 +115,29 @@ QString LetterNumber(int n)
     return out;
 }
 
+// Qt looks for the end of a word on every line it breaks the word into: a very long word gets
+// an invisible break opportunity every so often.
+QString Breakable(const QString& text, int& wordLength)
+{
+    constexpr int kLongWord = 1000;
+    QString out;
+    qsizetype copied = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i).isSpace()) {
+            wordLength = 0;
+        } else if (++wordLength > kLongWord) {
+            out += QStringView(text).mid(copied, i - copied);
+            out += QChar(0x200B);
+            copied = i;
+            wordLength = 1;
+        }
+    }
+    if (copied == 0)
+        return text;
+    out += QStringView(text).mid(copied);
+    return out;
+}
+
 class Builder
 {
 public:
@@ -134,8 +157,14 @@ public:
         m_doc.setDefaultFont(charFormat(CharFormat()).font());
         if (m_layout.width > 0)
             m_doc.setTextWidth(m_layout.width * m_unit);
+        // Nothing to undo; in one edit block Qt neither records each insertion nor works out
+        // the cursor's line after it (which lays the whole paragraph out every time).
+        m_doc.setUndoRedoEnabled(false);
         QTextCursor cursor(&m_doc);
+        cursor.beginEditBlock();
         flow(cursor, qtf.blocks, m_layout.width);
+        cursor.endEditBlock();
+        applyMinHeights();
     }
 
 private:
@@ -151,7 +180,17 @@ private:
     QString numberLabel(const ParaFormat& f);
     void markFiller(QTextCursor& cursor);
     void setBlockCharFormat(QTextCursor& cursor, const QTextCharFormat& format);
+    void applyMinHeights();
     double units(double dots) const { return dots * m_unit; }
+
+    // A cell with a minimum height, sized once the document is laid out.
+    struct MinHeight
+    {
+        QTextTable* table = nullptr;
+        int row = 0;
+        int col = 0;
+        double height = 0; // layout units, less the margins
+    };
 
     QTextDocument& m_doc;
     QtfLayout m_layout;
@@ -161,6 +200,9 @@ private:
     QTextList* m_list = nullptr;
     Bullet m_listBullet = Bullet::None;
     bool m_cellStart = false;
+    int m_depth = 0;      // tables around the flow being built
+    int m_wordLength = 0; // letters since the last space
+    QList<MinHeight> m_minHeights;
 };
 
 // The first block of a table cell carries the cell's format as its character format.
@@ -235,6 +277,7 @@ void Builder::paragraph(QTextCursor& cursor, const Paragraph& p, double width, d
         spacer.setLineHeight(units(gap), QTextBlockFormat::FixedHeight);
         spacer.setPageBreakPolicy(bf.pageBreakPolicy());
         spacer.setProperty(QtfProperty::KeepNext, true);
+        spacer.setProperty(QtfProperty::Spacer, true);
         cursor.setBlockFormat(spacer);
         QTextCharFormat tiny;
         tiny.setFontPointSize(0.05);
@@ -253,7 +296,12 @@ void Builder::paragraph(QTextCursor& cursor, const Paragraph& p, double width, d
                                     units(f.leftMargin)});
     }
     cursor.setBlockFormat(bf);
-    setBlockCharFormat(cursor, charFormat(p.endFormat));
+    // In a cell's first block that format is the cell's: every property more makes Qt's table
+    // layout slower, and a paragraph with text takes its height from the text.
+    if (m_cellStart && !p.runs.isEmpty())
+        m_cellStart = false;
+    else
+        setBlockCharFormat(cursor, charFormat(p.endFormat));
 
     const bool listed = f.bullet != Bullet::None && f.bullet != Bullet::Text;
     if (listed) {
@@ -385,10 +433,11 @@ QTextCharFormat Builder::charFormat(const CharFormat& f) const
 
 void Builder::runs(QTextCursor& cursor, const Paragraph& p)
 {
+    m_wordLength = 0;
     for (const Run& r : p.runs) {
         switch (r.kind) {
         case Run::Kind::Text:
-            cursor.insertText(r.text, charFormat(r.format));
+            cursor.insertText(Breakable(r.text, m_wordLength), charFormat(r.format));
             break;
         case Run::Kind::Object: {
             QTextImageFormat image = objectFormat(r);
@@ -531,14 +580,17 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     const int rows = int(t.rows.size());
     const int cols = t.columns();
     QTextTableCellFormat cf;
-    cf.setVerticalAlignment(f.valign == VAlign::Top      ? QTextCharFormat::AlignTop
-                            : f.valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
-                                                         : QTextCharFormat::AlignMiddle);
+    const VAlign valign = m_layout.topAlignedCells ? VAlign::Top : f.valign;
+    cf.setVerticalAlignment(valign == VAlign::Top      ? QTextCharFormat::AlignTop
+                            : valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
+                                                       : QTextCharFormat::AlignMiddle);
     cf.setLeftPadding(units(f.margin[0]));
     cf.setTopPadding(units(f.margin[1]));
     cf.setRightPadding(units(f.margin[2]));
     cf.setBottomPadding(units(f.margin[3]));
-    if (f.background.alpha() > 0)
+    // White cells on the page's white paper need no painting.
+    if (f.background.alpha() > 0 && !m_layout.topAlignedCells &&
+        (f.background != Qt::white || m_depth > 0 || m_layout.units != QtfUnits::Dots))
         cf.setBackground(f.background);
     const bool edge[4] = {col == 0, row == 0, col + f.hspan >= cols - 1, row + f.vspan >= rows - 1};
     double width[4];
@@ -548,43 +600,89 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
         width[s] = std::max(line, f.border[s]);
         color[s] = f.border[s] > line ? f.borderColor : edge[s] ? tf.frameColor : tf.gridColor;
     }
-    const auto style = [&](int s) {
-        return width[s] > 0 ? QTextFrameFormat::BorderStyle_Solid
-                            : QTextFrameFormat::BorderStyle_None;
-    };
-    cf.setLeftBorder(units(width[0]));
-    cf.setLeftBorderBrush(color[0]);
-    cf.setLeftBorderStyle(style(0));
-    cf.setTopBorder(units(width[1]));
-    cf.setTopBorderBrush(color[1]);
-    cf.setTopBorderStyle(style(1));
-    cf.setRightBorder(units(width[2]));
-    cf.setRightBorderBrush(color[2]);
-    cf.setRightBorderStyle(style(2));
-    cf.setBottomBorder(units(width[3]));
-    cf.setBottomBorderBrush(color[3]);
-    cf.setBottomBorderStyle(style(3));
+    // Every property a cell's format holds more slows Qt's table layout down: sides without a
+    // line get none, and a document only measured needs no colours.
+    for (int s = 0; s < 4; ++s) {
+        if (width[s] <= 0)
+            continue;
+        static constexpr QTextFormat::Property kWidth[4] = {
+            QTextFormat::TableCellLeftBorder, QTextFormat::TableCellTopBorder,
+            QTextFormat::TableCellRightBorder, QTextFormat::TableCellBottomBorder};
+        static constexpr QTextFormat::Property kStyle[4] = {
+            QTextFormat::TableCellLeftBorderStyle, QTextFormat::TableCellTopBorderStyle,
+            QTextFormat::TableCellRightBorderStyle, QTextFormat::TableCellBottomBorderStyle};
+        static constexpr QTextFormat::Property kBrush[4] = {
+            QTextFormat::TableCellLeftBorderBrush, QTextFormat::TableCellTopBorderBrush,
+            QTextFormat::TableCellRightBorderBrush, QTextFormat::TableCellBottomBorderBrush};
+        cf.setProperty(kWidth[s], units(width[s]));
+        cf.setProperty(kStyle[s], int(QTextFrameFormat::BorderStyle_Solid));
+        if (!m_layout.topAlignedCells)
+            cf.setProperty(kBrush[s], QBrush(color[s]));
+    }
     QTextTableCell qcell = table->cellAt(row, col);
-    QTextTableCellFormat full = qcell.format().toTableCellFormat(); // keeps the spans
-    full.merge(cf);
-    qcell.setFormat(full);
+    qcell.setFormat(cf); // keeps the spans
     int share = 0;
     for (int c = col; c <= std::min(col + f.hspan, cols - 1); ++c)
         share += tf.widths.at(c);
     const double contentWidth = tableWidth * share / 10000.0 - f.margin[0] - f.margin[2];
     QTextCursor cursor = qcell.firstCursorPosition();
     m_cellStart = true;
+    ++m_depth;
     flow(cursor, cell.blocks, std::max(contentWidth, 1.0));
+    --m_depth;
     m_cellStart = false;
 
-    // A minimum height lifts the first line of a one-line cell.
-    if (f.minHeight > 0 && cell.blocks.size() == 1 && !cell.blocks.first().isTable()) {
-        QTextCursor first = qcell.firstCursorPosition();
-        QTextBlockFormat bf = first.blockFormat();
-        bf.setLineHeight(units(f.minHeight - f.margin[1] - f.margin[3]),
-                         QTextBlockFormat::MinimumHeight);
-        first.setBlockFormat(bf);
+    if (f.minHeight > f.margin[1] + f.margin[3])
+        m_minHeights.append({table, row, col, units(f.minHeight - f.margin[1] - f.margin[3])});
+}
+
+// Qt knows no minimum cell height: once the content's height is known, the missing height goes
+// into the cell's padding on the side its vertical alignment leaves free.
+void Builder::applyMinHeights()
+{
+    if (m_minHeights.isEmpty())
+        return;
+    QAbstractTextDocumentLayout* layout = m_doc.documentLayout();
+    layout->documentSize(); // lays out
+    struct Change
+    {
+        QTextTableCell cell;
+        double missing;
+    };
+    QList<Change> changes;
+    for (const MinHeight& m : std::as_const(m_minHeights)) {
+        const QTextTableCell cell = m.table->cellAt(m.row, m.col);
+        double top = 1e300;
+        double bottom = -1e300;
+        for (QTextBlock b = m_doc.findBlock(cell.firstPosition());
+             b.isValid() && b.position() <= cell.lastPosition(); b = b.next()) {
+            const QRectF r = layout->blockBoundingRect(b);
+            top = std::min(top, r.top());
+            bottom = std::max(bottom, r.bottom());
+        }
+        const double missing = m.height - std::max(0.0, bottom - top);
+        if (missing > 0.01)
+            changes.append({cell, missing});
     }
+    for (Change& c : changes) {
+        QTextTableCellFormat f = c.cell.format().toTableCellFormat();
+        switch (f.verticalAlignment()) {
+        case QTextCharFormat::AlignTop:
+            f.setBottomPadding(f.bottomPadding() + c.missing);
+            break;
+        case QTextCharFormat::AlignBottom:
+            f.setTopPadding(f.topPadding() + c.missing);
+            break;
+        default:
+            f.setTopPadding(f.topPadding() + c.missing / 2);
+            f.setBottomPadding(f.bottomPadding() + c.missing / 2);
+            break;
+        }
+        c.cell.setFormat(f);
+    }
+    // Qt keeps the table's layout after a cell's format changes.
+    if (!changes.isEmpty())
+        m_doc.markContentsDirty(0, m_doc.characterCount());
 }
 
 void DrawLeader(QPainter& painter, char fill, QPointF from, double to, const QFont& font)
@@ -603,34 +701,51 @@ void DrawLeader(QPainter& painter, char fill, QPointF from, double to, const QFo
     painter.drawLine(QPointF(from.x() + size / 8, from.y()), QPointF(to - size / 8, from.y()));
 }
 
-void PaintLeaders(QPainter& painter, const QTextBlock& block, const QRectF& rect)
+// Only the lines inside clip are looked at: a paragraph may run over many pages.
+void PaintLeaders(QPainter& painter, const QTextBlock& block, const QRectF& rect,
+                  const QRectF& clip)
 {
     const QVariantList leaders = block.blockFormat().property(QtfProperty::Leaders).toList();
     const QString text = block.text();
     QTextLayout* layout = block.layout();
-    for (qsizetype i = text.indexOf(u'\t'); i >= 0; i = text.indexOf(u'\t', i + 1)) {
-        const QTextLine line = layout->lineForTextPosition(int(i));
-        if (!line.isValid())
+    QTextBlock::iterator fragment = block.begin();
+    for (int l = 0; l < layout->lineCount(); ++l) {
+        const QTextLine line = layout->lineAt(l);
+        const double top = rect.top() + line.y();
+        if (top > clip.bottom())
+            break;
+        if (top + line.height() < clip.top())
             continue;
-        const double x1 = line.cursorToX(int(i));
-        const double x2 = line.cursorToX(int(i) + 1);
-        char fill = 0;
-        double best = 1e300;
-        for (const QVariant& v : leaders) {
-            const QPointF stop = v.toPointF();
-            if (stop.x() > x1 && stop.x() < best) {
-                best = stop.x();
-                fill = char(stop.y());
+        const int end = std::min<int>(line.textStart() + line.textLength(), int(text.size()));
+        for (int i = line.textStart(); i < end; ++i) {
+            if (text.at(i) != u'\t')
+                continue;
+            const double x1 = line.cursorToX(i);
+            const double x2 = line.cursorToX(i + 1);
+            char fill = 0;
+            double best = 1e300;
+            for (const QVariant& v : leaders) {
+                const QPointF stop = v.toPointF();
+                if (stop.x() > x1 && stop.x() < best) {
+                    best = stop.x();
+                    fill = char(stop.y());
+                }
             }
+            if (!fill || x2 <= x1)
+                continue;
+            // The tab's own format: fragments come in text order.
+            const int position = block.position() + i;
+            while (!fragment.atEnd() &&
+                   fragment.fragment().position() + fragment.fragment().length() <= position)
+                ++fragment;
+            if (fragment.atEnd())
+                break;
+            const QTextCharFormat format = fragment.fragment().charFormat();
+            painter.setPen(format.foreground().color());
+            const double y = top + line.ascent();
+            DrawLeader(painter, fill, QPointF(rect.left() + x1, y), rect.left() + x2,
+                       format.font());
         }
-        if (!fill || x2 <= x1)
-            continue;
-        QTextCursor at(block);
-        at.setPosition(block.position() + int(i) + 1);
-        const QFont font = at.charFormat().font();
-        painter.setPen(at.charFormat().foreground().color());
-        const double y = rect.top() + line.y() + line.ascent();
-        DrawLeader(painter, fill, QPointF(rect.left() + x1, y), rect.left() + x2, font);
     }
 }
 
@@ -689,7 +804,7 @@ void PaintQtfExtras(QPainter& painter, const QTextDocument& document, const QRec
         if (ruler)
             PaintRuler(painter, b, rect);
         if (leaders)
-            PaintLeaders(painter, b, rect);
+            PaintLeaders(painter, b, rect, clip);
         painter.restore();
     }
 }

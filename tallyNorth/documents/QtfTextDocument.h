@@ -21,6 +21,9 @@ struct QtfLayout
     int width = 3968;   // text width in dots; also places tab stops measured from the right edge
     int pageNumber = 0; // values of the page-number fields; 0 leaves them empty
     int pageCount = 0;
+    // For measuring only: cells top-aligned, so that the top of each table row shows in its
+    // cells' first lines, and without the colours only painting needs.
+    bool topAlignedCells = false;
 };
 
 // Format properties the builder leaves for painting and paging.
@@ -32,6 +35,7 @@ enum : int {
     Filler,   // a block Qt needs around a table, without content or height
     Keep,     // keep the paragraph or table on one page
     KeepNext, // keep the paragraph on the page of the next one
+    Spacer,   // the space before a frame's first paragraph, a block of its own
 };
 }
 

@@ -15,17 +15,15 @@
 #include <QPdfWriter>
 #include <QSet>
 #include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextTable>
 
-#include <cmath>
+#include <optional>
 
 namespace {
 
 constexpr double kDotsPerMm = 600 / 25.4;
-constexpr double kPageBottomMargin = 20;
 // A4 in dots.
 constexpr QSizeF kA4 = QSizeF(210 * kDotsPerMm, 297 * kDotsPerMm);
 
@@ -34,177 +32,422 @@ double Height(const QTextDocument* doc)
     return doc ? doc->documentLayout()->documentSize().height() : 0;
 }
 
-// Top and bottom of a top-level block or table in the laid-out body.
-struct Item
+// Rows and paragraphs are laid out in chunks of about this many, each a document of its own:
+// Qt's layout coordinates overflow at 2^25 units, and a small document lays out fast.
+constexpr int kChunkWeight = 100;
+constexpr double kMaxLayoutHeight = 30e6;
+// Rows measured apart may differ from their page's own layout by a border's width.
+constexpr double kSlack = 12;
+
+// One top-level paragraph or table row as measured.
+struct Measured
 {
-    QTextBlock block;
-    QTextFrame* frame = nullptr;
-    double top = 0;
-    double bottom = 0;
-    double firstLineBottom = 0;
-    bool keep = false;
-    bool keepNext = false;
+    int block = 0;
+    int row = -1; // -1 for a paragraph
+    double height = 0;
+    double firstLine = 0; // paragraph: its first line's top below the item's top
+    QList<double> cuts;   // paragraph: the bottoms of its lines below the item's top
 };
 
-QList<Item> TopLevelItems(QTextDocument& doc)
+// The header rows that repeat on every page: none when the table is all header.
+int HeaderRows(const Qtf::Table& t)
 {
-    QList<Item> items;
-    QAbstractTextDocumentLayout* layout = doc.documentLayout();
-    for (auto it = doc.rootFrame()->begin(); !it.atEnd(); ++it) {
-        Item item;
-        if (QTextFrame* frame = it.currentFrame()) {
-            const QRectF r = layout->frameBoundingRect(frame);
-            item.frame = frame;
-            item.top = r.top();
-            item.bottom = item.firstLineBottom = r.bottom();
-            item.keep = frame->frameFormat().property(QtfProperty::Keep).toBool();
-        } else {
-            const QTextBlock b = it.currentBlock();
-            if (b.blockFormat().hasProperty(QtfProperty::Filler))
+    return t.format.headerRows < int(t.rows.size()) ? t.format.headerRows : 0;
+}
+
+// Rows [0, header) and [from, to) of t as a table of their own; the space before and after
+// stays with the table's first and last row, spans end at the cut.
+std::shared_ptr<Qtf::Table> Slice(const Qtf::Table& t, int header, int from, int to)
+{
+    auto out = std::make_shared<Qtf::Table>();
+    out->format = t.format;
+    out->format.headerRows = 0;
+    out->format.pageBreak = false;
+    out->format.keep = false;
+    if (from > HeaderRows(t) || (header == 0 && from > 0))
+        out->format.before = 0;
+    if (to < int(t.rows.size()))
+        out->format.after = 0;
+    out->rows = t.rows.mid(0, header) + t.rows.mid(from, to - from);
+    const int rows = int(out->rows.size());
+    const int columns = out->columns();
+    QSet<qint64> covered;
+    for (int r = 0; r < rows; ++r) {
+        const int last = r < header ? header - 1 : rows - 1;
+        for (int c = 0; c < int(out->rows[r].size()); ++c) {
+            Qtf::Cell& cell = out->rows[r][c];
+            cell.covered = covered.contains(qint64(r) * columns + c);
+            if (cell.covered)
                 continue;
-            const QRectF r = layout->blockBoundingRect(b);
-            item.block = b;
-            item.top = r.top();
-            item.bottom = r.bottom();
-            const QTextLayout* tl = b.layout();
-            item.firstLineBottom =
-                tl && tl->lineCount() > 0 ? r.top() + tl->lineAt(0).rect().bottom() : r.bottom();
-            item.keep = b.blockFormat().property(QtfProperty::Keep).toBool();
-            item.keepNext = b.blockFormat().property(QtfProperty::KeepNext).toBool();
+            cell.format.vspan = std::clamp(cell.format.vspan, 0, last - r);
+            for (int dr = 0; dr <= cell.format.vspan; ++dr) {
+                for (int dc = 0; dc <= cell.format.hspan; ++dc)
+                    covered.insert(qint64(r + dr) * columns + c + dc);
+            }
         }
-        items << item;
+    }
+    return out;
+}
+
+double TextLength(const Qtf::Paragraph& p)
+{
+    double n = 0;
+    for (const Qtf::Run& r : p.runs)
+        n += r.text.size();
+    return n;
+}
+
+bool IsFiller(const QTextBlock& b)
+{
+    const QTextBlockFormat f = b.blockFormat();
+    return f.hasProperty(QtfProperty::Filler) || f.hasProperty(QtfProperty::Spacer);
+}
+
+// The tops of the top-level paragraphs and tables of a laid-out document, a paragraph's space
+// block counted with it.
+struct TopItem
+{
+    QTextBlock block;
+    QTextTable* table = nullptr;
+    double top = 0;
+};
+
+QList<TopItem> TopItems(const QTextDocument& doc)
+{
+    // Walks the root frame's blocks, jumping over each table (Qt's frame iterator looks at
+    // every cell on its way).
+    QAbstractTextDocumentLayout* layout = doc.documentLayout();
+    const QList<QTextFrame*> frames = doc.rootFrame()->childFrames();
+    QList<TopItem> items;
+    double spacerTop = -1;
+    qsizetype next = 0;
+    for (QTextBlock b = doc.begin(); b.isValid();) {
+        if (next < frames.size() && b.position() >= frames.at(next)->firstPosition()) {
+            QTextFrame* frame = frames.at(next++);
+            if (auto* table = qobject_cast<QTextTable*>(frame))
+                items.append({QTextBlock(), table, layout->frameBoundingRect(frame).top()});
+            spacerTop = -1;
+            b = doc.findBlock(frame->lastPosition() + 1);
+            continue;
+        }
+        if (b.blockFormat().hasProperty(QtfProperty::Spacer)) {
+            spacerTop = layout->blockBoundingRect(b).top();
+        } else if (!IsFiller(b)) {
+            // Qt's block rectangle starts below the space before the paragraph.
+            const double top = layout->blockBoundingRect(b).top() - b.blockFormat().topMargin();
+            items.append({b, nullptr, spacerTop >= 0 ? spacerTop : top});
+            spacerTop = -1;
+        }
+        b = b.next();
     }
     return items;
 }
 
-void BreakBefore(const Item& item)
+double LineTop(const QTextBlock& b, int line)
 {
-    if (item.frame) {
-        QTextFrameFormat f = item.frame->frameFormat();
-        f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-        item.frame->setFrameFormat(f);
-    } else {
-        QTextCursor cursor(item.block);
-        QTextBlockFormat f = cursor.blockFormat();
-        f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-        cursor.setBlockFormat(f);
-    }
+    const QTextLayout* tl = b.layout();
+    if (!tl || tl->lineCount() == 0)
+        return tl ? tl->position().y() : 0;
+    return tl->position().y() + tl->lineAt(std::min(line, tl->lineCount() - 1)).y();
 }
 
-// Qt knows no "keep together" or "keep with next": such items that end up split by a page end
-// get a page break before them, until the layout settles.
-void ApplyKeeps(QTextDocument& doc, double pageHeight)
+// A part of the body laid out on its own: whole paragraphs and runs of table rows.
+struct ChunkPart
 {
-    const double epsilon = 0.5;
-    const auto page = [&](double y) { return int(std::floor((y + epsilon) / pageHeight)); };
-    const auto atTop = [&](double y) { return y - page(y) * pageHeight < epsilon + 1; };
-    for (int round = 0; round < 20; ++round) {
-        const QList<Item> items = TopLevelItems(doc);
-        qsizetype target = -1;
-        for (qsizetype i = 0; i < items.size() && target < 0; ++i) {
-            const Item& item = items.at(i);
-            if (item.keep && page(item.top) != page(item.bottom - 1) &&
-                item.bottom - item.top <= pageHeight && !atTop(item.top))
-                target = i;
-            if (item.keepNext && i + 1 < items.size() &&
-                page(item.top) != page(items.at(i + 1).firstLineBottom - 1)) {
-                qsizetype start = i;
-                while (start > 0 && items.at(start - 1).keepNext &&
-                       page(items.at(start - 1).top) == page(item.top))
-                    --start;
-                const Item& first = items.at(start);
-                if (!atTop(first.top) && items.at(i + 1).firstLineBottom - first.top <= pageHeight)
-                    target = start;
+    int block = 0;
+    int from = 0; // rows [from, to) of a table
+    int to = 0;
+};
+
+// Measures the parts; false when the chunk is too tall for Qt's layout.
+bool MeasureChunk(const Qtf::Document& body, const QList<ChunkPart>& parts, QtfLayout layout,
+                  std::vector<Measured>& out)
+{
+    Qtf::Document chunk;
+    for (const ChunkPart& p : parts) {
+        Qtf::Block b = body.blocks.at(p.block);
+        if (b.isTable())
+            b.table = Slice(*b.table, 0, p.from, p.to);
+        chunk.blocks.append(b);
+    }
+    layout.topAlignedCells = true;
+    auto doc = MakeTextDocument(chunk, layout);
+    QAbstractTextDocumentLayout* docLayout = doc->documentLayout();
+    const double end = docLayout->documentSize().height();
+    if (end > kMaxLayoutHeight)
+        return false;
+    const QList<TopItem> items = TopItems(*doc);
+    if (items.size() != parts.size())
+        return false;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        const TopItem& item = items.at(i);
+        const ChunkPart& part = parts.at(i);
+        const double bottom = i + 1 < items.size() ? items.at(i + 1).top : end;
+        if (!item.table) {
+            Measured m;
+            m.block = part.block;
+            m.height = bottom - item.top;
+            m.firstLine = LineTop(item.block, 0) - item.top;
+            const QTextLayout* tl = item.block.layout();
+            for (int l = 0; tl && l < tl->lineCount(); ++l) {
+                const QTextLine line = tl->lineAt(l);
+                m.cuts.append(tl->position().y() + line.y() + line.height() - item.top);
             }
-        }
-        if (target < 0 || target == 0)
-            return;
-        BreakBefore(items.at(target));
-        doc.documentLayout()->documentSize(); // lays out again
-    }
-}
-
-// The first row of a top-level table whose lines a page end divides: Qt would print it in two
-// parts. Rows taller than most of a page are left to be divided.
-std::pair<int, int> SplitRow(QTextDocument& doc, double pageHeight)
-{
-    QAbstractTextDocumentLayout* layout = doc.documentLayout();
-    const auto page = [&](double y) { return int(std::floor(y / pageHeight)); };
-    int index = -1;
-    for (QTextFrame* frame : doc.rootFrame()->childFrames()) {
-        auto* table = qobject_cast<QTextTable*>(frame);
-        if (!table)
+            if (!m.cuts.isEmpty())
+                m.cuts.last() = m.height;
+            out.push_back(m);
             continue;
-        ++index;
-        for (int r = table->format().headerRowCount(); r < table->rows(); ++r) {
-            double top = 1e300;
-            double bottom = -1e300;
+        }
+        // Cells are top-aligned here: a row starts where its highest first line does, less
+        // the distance the first row shows between the table's top and its first line.
+        QTextTable* table = item.table;
+        const Qtf::Table& source = *body.blocks.at(part.block).table;
+        const Qtf::Table* slice = chunk.blocks.at(i).table.get();
+        QList<double> contentTop(table->rows(), 1e300);
+        for (int r = 0; r < table->rows(); ++r) {
             for (int c = 0; c < table->columns(); ++c) {
-                const QTextTableCell cell = table->cellAt(r, c);
-                if (cell.row() != r || cell.column() != c || cell.rowSpan() > 1)
+                // Qt's cell geometry calls copy the cell's whole format: the source knows.
+                if (slice->rows.at(r).at(c).covered)
                     continue;
-                for (QTextBlock b = doc.findBlock(cell.firstPosition());
-                     b.isValid() && b.position() <= cell.lastPosition(); b = b.next()) {
-                    const QRectF rect = layout->blockBoundingRect(b);
-                    if (rect.height() <= 0)
-                        continue;
-                    top = std::min(top, rect.top());
-                    bottom = std::max(bottom, rect.bottom());
-                }
+                const QTextTableCell cell = table->cellAt(r, c);
+                const QTextBlock b = doc->findBlock(cell.firstPosition());
+                contentTop[r] = std::min(contentTop[r], docLayout->blockBoundingRect(b).top());
             }
-            if (top < bottom && page(top) != page(bottom - 1) && bottom - top < pageHeight * 0.8)
-                return {index, r};
+        }
+        const double before = part.from == 0 ? source.format.before : 0;
+        const double offset = contentTop.value(0) - item.top - before;
+        double top = item.top;
+        for (int r = 0; r < table->rows(); ++r) {
+            const double next = r + 1 < table->rows()
+                                    ? std::clamp(contentTop[r + 1] - offset, top, bottom)
+                                    : bottom;
+            Measured m;
+            m.block = part.block;
+            m.row = part.from + r;
+            m.height = next - top;
+            out.push_back(m);
+            top = next;
         }
     }
-    return {-1, -1};
+    return true;
 }
 
-// Cuts a top-level table before row: the rest, under a copy of the header rows, becomes a
-// table of its own that starts a page. A table cut at its first row moves to the next page
-// whole. False when there is nothing left to change.
-bool SplitTable(Qtf::Document& doc, int tableIndex, int row)
+// A page's share of one top-level paragraph or table.
+struct Piece
 {
-    int index = -1;
-    for (qsizetype i = 0; i < doc.blocks.size(); ++i) {
-        if (!doc.blocks[i].isTable() || ++index != tableIndex)
-            continue;
-        Qtf::Table& first = *doc.blocks[i].table;
-        if (row <= first.format.headerRows || row == 0) {
-            const bool moved = doc.blocks[i].pageBreak || first.format.pageBreak || i == 0;
-            doc.blocks[i].pageBreak = true;
-            return !moved;
-        }
-        auto rest = std::make_shared<Qtf::Table>();
-        rest->format = first.format;
-        rest->format.before = 0;
-        first.format.after = 0;
-        const int header = std::min<int>(first.format.headerRows, row);
-        rest->rows = first.rows.mid(0, header) + first.rows.mid(row);
-        first.rows.resize(row);
-        for (int r = 0; r < int(first.rows.size()); ++r) {
-            for (Qtf::Cell& c : first.rows[r])
-                c.format.vspan = std::min(c.format.vspan, int(first.rows.size()) - r - 1);
-        }
-        // Cells that a span from above the cut covered are plain empty cells now.
-        QSet<qint64> covered;
-        const int columns = rest->columns();
-        for (int r = 0; r < int(rest->rows.size()); ++r) {
-            for (int c = 0; c < int(rest->rows[r].size()); ++c) {
-                Qtf::Cell& cell = rest->rows[r][c];
-                cell.covered = covered.contains(qint64(r) * columns + c);
-                for (int dr = 0; !cell.covered && dr <= cell.format.vspan; ++dr) {
-                    for (int dc = 0; dc <= cell.format.hspan; ++dc)
-                        covered.insert(qint64(r + dr) * columns + c + dc);
-                }
+    int block = 0;
+    int from = 0; // table rows [from, to), under the header rows when header is set
+    int to = 0;
+    bool header = true;
+    // Where the page's share of a paragraph or of a row taller than a page starts and ends:
+    // from its first line's top (paragraph) or the row's top.
+    std::optional<double> cutTop;
+    std::optional<double> cutBottom;
+
+    bool sameContent(const Piece& o) const
+    {
+        return block == o.block && from == o.from && to == o.to && header == o.header;
+    }
+};
+
+struct Page
+{
+    QList<Piece> pieces;
+};
+
+// Places the measured items on pages of the given height: a table row never split unless it is
+// taller than a page, a table's part on every page under its header rows, paragraphs cut
+// between lines.
+class Paginator
+{
+public:
+    Paginator(const Qtf::Document& body, double height)
+        : m_body(body), m_height(std::max(height - kSlack, 1.0))
+    {
+        m_pages.emplace_back();
+    }
+
+    std::vector<Page> run(const std::vector<Measured>& items)
+    {
+        for (size_t k = 0; k < items.size();) {
+            if (items[k].row < 0) {
+                paragraph(items, k);
+                ++k;
+            } else {
+                k = table(items, k);
             }
         }
-        Qtf::Block block;
-        block.table = rest;
-        block.pageBreak = true;
-        doc.blocks.insert(i + 1, block);
-        return true;
+        return std::move(m_pages);
     }
-    return false;
+
+private:
+    bool empty() const { return m_pages.back().pieces.isEmpty(); }
+    void newPage()
+    {
+        m_pages.emplace_back();
+        m_used = 0;
+    }
+    void add(const Piece& p) { m_pages.back().pieces.append(p); }
+
+    // The height from items[k] to the end of the first line or row after a run of paragraphs
+    // kept with the next.
+    double keptHeight(const std::vector<Measured>& items, size_t k) const
+    {
+        double need = 0;
+        for (; k < items.size(); ++k) {
+            const Measured& m = items[k];
+            if (m.row >= 0) {
+                const Qtf::Table& t = *m_body.blocks.at(m.block).table;
+                for (size_t j = k;
+                     j < items.size() && items[j].block == m.block && items[j].row <= HeaderRows(t);
+                     ++j)
+                    need += items[j].height;
+                return need;
+            }
+            if (!m_body.blocks.at(m.block).paragraph.format.keepNext)
+                return need + (m.cuts.isEmpty() ? m.height : m.cuts.first());
+            need += m.height;
+        }
+        return need;
+    }
+
+    void paragraph(const std::vector<Measured>& items, size_t k)
+    {
+        const Measured& m = items[k];
+        const Qtf::ParaFormat& f = m_body.blocks.at(m.block).paragraph.format;
+        if ((f.pageBreak || m_body.blocks.at(m.block).pageBreak) && !empty())
+            newPage();
+        if (!empty()) {
+            const bool fits = m_used + m.height <= m_height;
+            const double kept = f.keepNext ? keptHeight(items, k) : 0;
+            if ((!fits && f.keep && m.height <= m_height) ||
+                (f.keepNext && m_used + kept > m_height && kept <= m_height))
+                newPage();
+        }
+        double start = 0;
+        for (;;) {
+            const double room = m_height - m_used;
+            Piece piece;
+            piece.block = m.block;
+            if (start > 0)
+                piece.cutTop = start - m.firstLine;
+            if (m.height - start <= room) {
+                add(piece);
+                m_used += m.height - start;
+                return;
+            }
+            double cut = -1;
+            for (double c : m.cuts) {
+                if (c > start && c - start <= room)
+                    cut = c;
+                else if (c > start)
+                    break;
+            }
+            if (cut < 0) {
+                if (!empty()) {
+                    newPage();
+                    continue;
+                }
+                cut = start + room; // a line taller than the page
+            }
+            piece.cutBottom = cut - m.firstLine;
+            add(piece);
+            newPage();
+            start = cut;
+        }
+    }
+
+    size_t table(const std::vector<Measured>& items, size_t k)
+    {
+        const int block = items[k].block;
+        const Qtf::Block& b = m_body.blocks.at(block);
+        const Qtf::Table& t = *b.table;
+        const int header = HeaderRows(t);
+        double headerHeight = 0;
+        double total = 0;
+        size_t end = k;
+        for (; end < items.size() && items[end].block == block && items[end].row >= 0; ++end) {
+            total += items[end].height;
+            if (items[end].row < header)
+                headerHeight += items[end].height;
+        }
+        if ((b.pageBreak || t.format.pageBreak) && !empty())
+            newPage();
+        if (t.format.keep && !empty() && m_used + total > m_height && total <= m_height)
+            newPage();
+        bool startPiece = true;
+        for (size_t i = k; i < end; ++i) {
+            const Measured& m = items[i];
+            if (m.row < header)
+                continue;
+            const bool fits = m_used + (startPiece ? headerHeight : 0) + m.height <= m_height;
+            if (!fits && !empty()) {
+                newPage();
+                startPiece = true;
+            }
+            if (startPiece) {
+                Piece piece;
+                piece.block = block;
+                piece.from = piece.to = m.row;
+                add(piece);
+                m_used += headerHeight;
+                startPiece = false;
+            }
+            if (m_used + m.height > m_height) {
+                tallRow(m);
+                startPiece = true;
+                continue;
+            }
+            m_pages.back().pieces.last().to = m.row + 1;
+            m_used += m.height;
+        }
+        return end;
+    }
+
+    // A row taller than a page under its header: its slices fill pages of their own.
+    void tallRow(const Measured& m)
+    {
+        Piece& first = m_pages.back().pieces.last();
+        if (first.to == first.from)
+            m_pages.back().pieces.removeLast();
+        if (!empty())
+            newPage();
+        m_used = 0;
+        for (double start = 0; start < m.height - 0.5; start += m_height) {
+            if (start > 0)
+                newPage();
+            Piece slice;
+            slice.block = m.block;
+            slice.from = m.row;
+            slice.to = m.row + 1;
+            slice.header = false;
+            slice.cutTop = start;
+            if (m.height - start > m_height)
+                slice.cutBottom = start + m_height;
+            add(slice);
+            m_used = std::min(m.height - start, m_height);
+        }
+    }
+
+    const Qtf::Document& m_body;
+    double m_height;
+    double m_used = 0;
+    std::vector<Page> m_pages;
+};
+
+// The body text of one page.
+Qtf::Document PageText(const Qtf::Document& body, const Page& page)
+{
+    Qtf::Document out;
+    for (const Piece& p : page.pieces) {
+        Qtf::Block b = body.blocks.at(p.block);
+        b.pageBreak = false;
+        b.paragraph.format.pageBreak = false;
+        if (b.isTable())
+            b.table = Slice(*b.table, p.header ? HeaderRows(*b.table) : 0, p.from, p.to);
+        out.blocks.append(b);
+    }
+    return out;
 }
 
 QString Substitute(QString qtf, int page, const QDate& date)
@@ -224,12 +467,16 @@ struct Report::Section
     // Laid out:
     QString usedHeader;
     QString usedFooter;
-    std::unique_ptr<QTextDocument> doc;
+    Qtf::Document text;
+    std::vector<Page> pageList;
     double headerHeight = 0;
     double footerHeight = 0;
     double bodyTop = 0;
     double bodyHeight = 0;
     int pages = 1;
+    // The last page's document: the pages of a paragraph longer than a page share it.
+    mutable int cachedPage = -1;
+    mutable std::unique_ptr<QTextDocument> cached;
 };
 
 Report::Report() = default;
@@ -324,7 +571,12 @@ void Report::layoutSection(Section& s) const
     QtfLayout layout;
     layout.units = QtfUnits::Dots;
     layout.width = m_page.width();
-    Qtf::Document body = ReadQtf(s.body);
+    // Page fields are measured at their widest.
+    layout.pageNumber = layout.pageCount = 10000;
+    s.text = ReadQtf(s.body);
+    s.cached.reset();
+    s.cachedPage = -1;
+    const Qtf::Document& body = s.text;
     s.usedHeader = s.header.isEmpty() ? body.header : s.header;
     s.usedFooter = s.footer.isEmpty() ? body.footer : s.footer;
     // Heights are measured with the widest page number.
@@ -338,23 +590,40 @@ void Report::layoutSection(Section& s) const
     s.bodyTop = s.usedHeader.isEmpty() ? 0 : s.headerHeight + m_spacing;
     const double bottom = s.usedFooter.isEmpty() ? 0 : s.footerHeight + m_spacing;
     s.bodyHeight = std::max(m_page.height() - s.bodyTop - bottom, m_page.height() / 5.0);
-    // Each round moves one table row that a page end would cut in two to the next page.
-    for (int round = 0; round < 500; ++round) {
-        s.doc = MakeTextDocument(body, layout);
-        // Qt stretches the last table row before a page break down to the page's bottom
-        // margin: a small one keeps that row's bottom line on the page.
-        QTextFrameFormat root = s.doc->rootFrame()->frameFormat();
-        root.setBottomMargin(kPageBottomMargin);
-        s.doc->rootFrame()->setFrameFormat(root);
-        s.doc->setPageSize(QSizeF(m_page.width(), s.bodyHeight));
-        ApplyKeeps(*s.doc, s.bodyHeight);
-        const auto [table, row] = SplitRow(*s.doc, s.bodyHeight);
-        if (table < 0)
-            break;
-        if (!SplitTable(body, table, row))
-            break;
+
+    std::vector<Measured> items;
+    QList<ChunkPart> parts;
+    double weight = 0;
+    const auto measure = [&] {
+        if (!parts.isEmpty() && !MeasureChunk(body, parts, layout, items))
+            m_error = QCoreApplication::translate(
+                "Report", "The report cannot be laid out: a paragraph or table row in it is "
+                          "too long.");
+        parts.clear();
+        weight = 0;
+    };
+    for (int i = 0; i < int(body.blocks.size()); ++i) {
+        const Qtf::Block& b = body.blocks.at(i);
+        if (!b.isTable()) {
+            parts.append({i, 0, 0});
+            weight += 1 + TextLength(b.paragraph) / 2000;
+            if (weight >= kChunkWeight)
+                measure();
+            continue;
+        }
+        const int rows = int(b.table->rows.size());
+        for (int from = 0; from < rows;) {
+            const int to = std::min<int>(rows, from + std::max(1, kChunkWeight - int(weight)));
+            parts.append({i, from, to});
+            weight += to - from;
+            from = to;
+            if (weight >= kChunkWeight)
+                measure();
+        }
     }
-    s.pages = std::max(1, s.doc->pageCount());
+    measure();
+    s.pageList = Paginator(body, s.bodyHeight).run(items);
+    s.pages = int(s.pageList.size());
 }
 
 void Report::layout() const
@@ -363,6 +632,7 @@ void Report::layout() const
         return;
     if (m_sections.empty())
         m_sections.push_back(std::make_unique<Section>());
+    m_error.clear();
     for (auto& s : m_sections)
         layoutSection(*s);
     m_laidOut = true;
@@ -375,6 +645,12 @@ int Report::pageCount() const
     for (const auto& s : m_sections)
         pages += s->pages;
     return pages;
+}
+
+QString Report::layoutError() const
+{
+    layout();
+    return m_error;
 }
 
 std::pair<int, int> Report::pageOf(int page) const
@@ -407,22 +683,61 @@ void Report::paintPage(QPainter& painter, int page) const
         PaintQtfExtras(painter, *footer, QRectF(0, 0, width, s.footerHeight));
         painter.restore();
     }
+    if (local >= int(s.pageList.size()) || s.pageList.at(local).pieces.isEmpty()) {
+        painter.restore();
+        return;
+    }
+    const Page& pg = s.pageList.at(local);
+    // The pieces of a paragraph over many pages are the same: its document is laid out once.
+    const auto samePieces = [&](int other) {
+        if (other < 0 || other >= int(s.pageList.size()))
+            return false;
+        const QList<Piece>& a = s.pageList.at(other).pieces;
+        if (a.size() != 1 || pg.pieces.size() != 1)
+            return false;
+        return a.first().sameContent(pg.pieces.first());
+    };
+    if (!s.cached || s.cachedPage != local) {
+        if (!(s.cached && samePieces(s.cachedPage))) {
+            QtfLayout layout;
+            layout.units = QtfUnits::Dots;
+            layout.width = m_page.width();
+            layout.pageNumber = local + 1;
+            layout.pageCount = s.pages;
+            s.cached = MakeTextDocument(PageText(s.text, pg), layout);
+        }
+        s.cachedPage = local;
+    }
+    const QTextDocument& doc = *s.cached;
+    const QList<TopItem> items = TopItems(doc);
+    // Where a cut piece's part starts and ends in the page's document.
+    const auto anchor = [&](const TopItem& item) {
+        return item.table ? item.top : LineTop(item.block, 0);
+    };
+    double shift = 0;
+    double height = s.bodyHeight;
+    if (!items.isEmpty() && pg.pieces.first().cutTop)
+        shift = anchor(items.first()) + *pg.pieces.first().cutTop;
+    if (!items.isEmpty() && pg.pieces.last().cutBottom)
+        height = std::min(height, anchor(items.last()) + *pg.pieces.last().cutBottom - shift);
     // Content wider than the page may spill sideways, never onto the next page's part.
     painter.translate(0, s.bodyTop);
-    painter.setClipRect(QRectF(-width, 0, 3 * width, s.bodyHeight), Qt::IntersectClip);
-    painter.translate(0, -local * s.bodyHeight);
+    painter.setClipRect(QRectF(-width, 0, 3 * width, height), Qt::IntersectClip);
+    painter.translate(0, -shift);
     QAbstractTextDocumentLayout::PaintContext context;
-    // Qt also draws what only touches the clip's edge: the next page's first line.
-    context.clip = QRectF(-width, local * s.bodyHeight, 3 * width, s.bodyHeight - 0.5);
+    // Qt also draws what only touches the clip's edge: the next line.
+    context.clip = QRectF(-width, shift, 3 * width, height - 0.5);
     context.palette.setColor(QPalette::Text, Qt::black);
-    s.doc->documentLayout()->draw(&painter, context);
-    PaintQtfExtras(painter, *s.doc, context.clip);
+    doc.documentLayout()->draw(&painter, context);
+    PaintQtfExtras(painter, doc, context.clip);
     painter.restore();
 }
 
 Result Report::print(QPagedPaintDevice& device) const
 {
     const int pages = pageCount();
+    if (!m_error.isEmpty())
+        return Result::failure(m_error);
     QPainter painter;
     if (!painter.begin(&device))
         return Result::failure(QCoreApplication::translate("Report", "Unable to start printing."));

@@ -55,6 +55,8 @@ public:
     void newSection();
 
     int pageCount() const;
+    // Why the report cannot be printed; empty when it can.
+    QString layoutError() const;
     // The section and its page for a page of the whole report.
     std::pair<int, int> pageOf(int page) const;
 
@@ -78,4 +80,5 @@ private:
     QDate m_date;
     mutable std::vector<std::unique_ptr<Section>> m_sections;
     mutable bool m_laidOut = false;
+    mutable QString m_error; // why the report cannot be laid out
 };

@@ -525,6 +525,10 @@
             <source>Template directory %s does not exist.</source>
             <translation>A(z) %s sablonkönyvtár nem létezik.</translation>
         </message>
+        <message>
+            <source>Warning: %s</source>
+            <translation>Figyelmeztetés: %s</translation>
+        </message>
     </context>
     <context>
         <name>FileCommands</name>
@@ -550,6 +554,13 @@
         <message>
             <source>Cancel</source>
             <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
+        <name>InvoiceTemplate</name>
+        <message>
+            <source>%s, line %s: the paragraph codes of the block closed before &quot;&amp;&quot; are lost; put the &quot;&amp;&quot; inside the block.</source>
+            <translation>%s, %s. sor: a &quot;&amp;&quot; előtt lezárt blokk bekezdéskódjai elvesznek; tegye a &quot;&amp;&quot; jelet a blokkon belülre.</translation>
         </message>
     </context>
     <context>
@@ -1553,6 +1564,10 @@
         <message>
             <source>Unable to write file %s.</source>
             <translation>Nem sikerült a(z) %s fájlt írni.</translation>
+        </message>
+        <message>
+            <source>The report cannot be laid out: a paragraph or table row in it is too long.</source>
+            <translation>A jelentés nem tördelhető: egy bekezdése vagy táblázatsora túl hosszú.</translation>
         </message>
     </context>
     <context>

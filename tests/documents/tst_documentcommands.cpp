@@ -125,6 +125,13 @@ void TestDocumentCommands::templateCheckAndInstall()
     const Run changed = Cli({u"template"_s, u"check"_s, dir.path()});
     QCOMPARE(changed.exitCode, 1);
     QVERIFY(changed.out.contains(u"Certified: no"_s));
+    QVERIFY(!shipped.out.contains(u"Warning"_s));
+    // "[= ...]&" loses its centring: the check points at the file and line.
+    QVERIFY(!WriteFile(dir.filePath(u"invoice_header.qtf"_s), "x&\n[= Title]&y").isEmpty());
+    const Run warned = Cli({u"template"_s, u"check"_s, dir.path()});
+    QVERIFY2(
+        warned.out.contains(QRegularExpression(u"Warning: invoice_header.qtf, line 2: .*\"&\""_s)),
+        qPrintable(warned.out));
 
     // Installing copies the certified set into the settings of the company given.
     TestCompany company;

@@ -120,6 +120,9 @@ void TestQtfFuzz::pathologicalInput()
         Exercise(s, true);
     // Deep nesting stops with an error instead of exhausting the stack.
     QVERIFY(ReadQtf(u"{{1 "_s.repeated(5000) + u'x').error.startsWith(u"ERROR: "_s));
+    // So does "}}{{" over and over, each table going into the next one's first cell.
+    QVERIFY(ReadQtf(u"{{1 x}}"_s.repeated(5000)).error.startsWith(u"ERROR: "_s));
+    Exercise(u"{{1 x}}"_s.repeated(11), true);
 }
 
 QTEST_MAIN(TestQtfFuzz)

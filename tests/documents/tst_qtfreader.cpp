@@ -134,6 +134,8 @@ private Q_SLOTS:
     void read();
     void plainText_data();
     void plainText();
+    void lostParagraphFormats_data();
+    void lostParagraphFormats();
 };
 
 // The vectors: name, QTF with "\xNN" for control bytes, the document, the error if any.
@@ -196,6 +198,27 @@ void TestQtfReader::plainText()
     QFETCH(bool, tabs);
     QFETCH(QString, text);
     QCOMPARE(QtfToPlainText(qtf, tabs), text);
+}
+
+// Where "&" follows a "]" that took paragraph codes with it: the trap "template check" warns of.
+void TestQtfReader::lostParagraphFormats_data()
+{
+    QTest::addColumn<QString>("qtf");
+    QTest::addColumn<QList<qsizetype>>("offsets");
+    QTest::newRow("alignment lost") << u"[= Title]&Body"_s << QList<qsizetype>{9};
+    QTest::newRow("page break lost") << u"x&[P y]&"_s << QList<qsizetype>{7};
+    QTest::newRow("& inside the block") << u"[= Title&]Body"_s << QList<qsizetype>{};
+    QTest::newRow("character codes only") << u"[* Bold]&x"_s << QList<qsizetype>{};
+    QTest::newRow("two blocks closed") << u"[= [* a]]&"_s << QList<qsizetype>{9};
+    QTest::newRow("text between") << u"[= a] b&"_s << QList<qsizetype>{};
+    QTest::newRow("same codes outside") << u"[= [= a]&]"_s << QList<qsizetype>{};
+}
+
+void TestQtfReader::lostParagraphFormats()
+{
+    QFETCH(QString, qtf);
+    QFETCH(QList<qsizetype>, offsets);
+    QCOMPARE(ReadQtf(qtf).lostParagraphFormats, offsets);
 }
 
 QTEST_MAIN(TestQtfReader)

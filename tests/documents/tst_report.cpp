@@ -232,6 +232,9 @@ void TestReport::pages_data()
     row("page fields of the document",
         {"", "", "^F[1> {:VALUE:PAGENUMBER:} / {:VALUE:PAGECOUNT:}]^^one^^two"}, a4,
         "595 x 842 pts (A4)", {"\\b1\\s*/\\s*2\\b|!two", "\\b2\\s*/\\s*2\\b"});
+    row("page fields in the body",
+        {"", "", "a {:VALUE:PAGENUMBER:}`/{:VALUE:PAGECOUNT:}^^b {:VALUE:PAGENUMBER:}"}, a4,
+        "595 x 842 pts (A4)", {"a 1/2", "b ?2$"});
     // "k" moves a paragraph the page end would split to the next page whole.
     row("kept paragraph", {"", "", Lines(20) + "[k " + words + "&]"}, small, "240 x 360 pts",
         {"!kept", "kept0|kept59"});

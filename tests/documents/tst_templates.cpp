@@ -277,7 +277,8 @@ PlaceholderMap Sample(QAnyStringView section, int item = 0)
 
 } // namespace
 
-// The template set shipped with the program is certified and prints a complete invoice.
+// The template set shipped with the program is certified and prints a complete invoice, its 70
+// items over several pages.
 void TestTemplates::shippedTemplatePrintsAnInvoice()
 {
     const InvoiceTemplate t = LoadTemplateDir(QStringLiteral(TN_TEMPLATE_DIR));
@@ -285,7 +286,7 @@ void TestTemplates::shippedTemplatePrintsAnInvoice()
     PlaceholderMap order = Sample(u"order");
     order.set(u"P.PAGE"_s, u"$$P"_s);
     QString items = t.parsed(Piece::ItemHeader).fill(order);
-    for (int i = 1; i <= 30; ++i) {
+    for (int i = 1; i <= 70; ++i) {
         items += t.parsed(Piece::Item1).fill(Sample(u"item", i));
         if (i % 10 == 0)
             items += t.parsed(Piece::Item2).fill(Sample(u"item", i));
