@@ -3,6 +3,19 @@
 
 #include "TableStore.h"
 
+// The master-data tables, for code that picks one of them (lists, choosers, references).
+enum class MasterTable {
+    Vat,
+    Currency,
+    PaymentMethod,
+    NoVatReason,
+    StatNo,
+    Lang,
+    Country,
+    Partner,
+    Product
+};
+
 const TableStore& VatStore();
 const TableStore& CurrencyStore();
 const TableStore& PaymentMethodStore();
@@ -21,5 +34,7 @@ inline constexpr int kMaxCurrencyDecimals = 6;
 
 // A total is never rounded to more decimals than it is printed with.
 void CapRoundingDecimals(Record& currency);
+// Language codes are kept in capitals, so "en" and "EN" are one language.
+void UpperCaseCode(Record& lang);
 // A partner whose mailing address is the billing address gets the billing data as mailing data.
 void CopyMailAddress(Record& partner);

@@ -6,12 +6,12 @@
 
 #include "Columns.h"
 #include "app/BaseFolder.h"
+#include "app/ui/MainWindow.h"
+#include "app/ui/RegisterCommands.h"
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
-#include "app/ui/ListTab.h"
-#include "app/ui/MainWindow.h"
-#include "app/ui/RegisterCommands.h"
+#include "base/ui/ListTab.h"
 
 #include <QFileDialog>
 #include <QMenuBar>

@@ -81,7 +81,17 @@ private Q_SLOTS:
         browse.deleteRow();
         QCOMPARE(m_ui.lastMessage(), "This currency can not be deleted.");
         QVERIFY(m_ui.questions.isEmpty());
+        // A currency in use is refused before asking, saying where it is used.
         browse.selectId(2);
+        browse.deleteRow();
+        QVERIFY(m_ui.lastMessage().startsWith("This currency is used by "));
+        QVERIFY(m_ui.questions.isEmpty());
+        for (const char* sql :
+             {"update PARTNER set PARTNER_CURRENCY_ID = 0",
+              "update COUNTRY set COUNTRY_CURRENCY_ID = 0",
+              "update ORDERHEAD set ORDERHEAD_CURRENCY_ID = 0", "delete from PRODUCTPRICE",
+              "update SETUP set SETUP_INVOICE_CURRENCY_ID = 0"})
+            QVERIFY(ExecSql(sql));
         m_ui.yesNoAnswers << false << true;
         browse.deleteRow();
         QCOMPARE(m_ui.questions.last(), "Do you really want to delete the selected Currency?");

@@ -6,8 +6,8 @@
 
 #include "Columns.h"
 #include "base/Setup.h"
+#include "masterdata/DiscountType.h"
 #include "masterdata/MasterTables.h"
-#include "orders/OrderCalc.h"
 
 using namespace Col;
 
