@@ -1,6 +1,7 @@
 #include "MasterTables.h"
 
 #include "Columns.h"
+#include "base/Setup.h"
 #include "base/SqlValue.h"
 
 #include <QtGlobal>
@@ -43,19 +44,57 @@ void UpperCaseCode(Record& lang)
         lang.insert(Name(LANG_CODE), code.toString().trimmed().toUpper());
 }
 
-void CopyMailAddress(Record& partner)
+int ListRecordLimit()
 {
-    if (!IsFlagSet(partner.value(Name(PARTNER_MAIL_IS_SAME))))
-        return;
-    const std::pair<const char*, const char*> pairs[] = {
+    // A list of every partner would take long to read and show on a large database.
+    constexpr int kDefaultRecordLimit = 1000;
+    const qint64 limit = Setup::current().integer(SETUP_RECORD_LIMIT);
+    return limit > 0 ? static_cast<int>(limit) : kDefaultRecordLimit;
+}
+
+const QList<std::pair<const char*, const char*>>& MailAddressColumns()
+{
+    static const QList<std::pair<const char*, const char*>> pairs = {
         {PARTNER_NAME, PARTNER_MAIL_NAME},
         {PARTNER_ZIP, PARTNER_MAIL_ZIP},
         {PARTNER_CITY, PARTNER_MAIL_CITY},
         {PARTNER_ADDRESS, PARTNER_MAIL_ADDRESS},
         {PARTNER_COUNTRY_ID, PARTNER_MAIL_COUNTRY_ID},
     };
-    for (const auto& [billing, mail] : pairs)
+    return pairs;
+}
+
+void CopyMailAddress(Record& partner)
+{
+    if (!IsFlagSet(partner.value(Name(PARTNER_MAIL_IS_SAME))))
+        return;
+    for (const auto& [billing, mail] : MailAddressColumns())
         partner.insert(Name(mail), partner.value(Name(billing)));
+}
+
+Record NewPartnerDefaults()
+{
+    const Setup& setup = Setup::current();
+    return {
+        {Name(PARTNER_MAIL_IS_SAME), FlagText(true)},
+        {Name(PARTNER_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
+        {Name(PARTNER_MAIL_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
+        {Name(PARTNER_LANG_ID), setup.integer(SETUP_INVOICE_LANG_ID)},
+        {Name(PARTNER_CURRENCY_ID), setup.integer(SETUP_INVOICE_CURRENCY_ID)},
+        {Name(PARTNER_DISCOUNT_TYPE), setup.integer(SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE)},
+    };
+}
+
+Result CountryDefaults(qint64 countryId, Record& partner)
+{
+    partner.clear();
+    Record country;
+    if (Result r = CountryStore().read(countryId, country); !r)
+        return r;
+    partner.insert(Name(PARTNER_LANG_ID), country.value(Name(COUNTRY_LANG_ID)));
+    if (!IsNullValue(country.value(Name(COUNTRY_CURRENCY_ID))))
+        partner.insert(Name(PARTNER_CURRENCY_ID), country.value(Name(COUNTRY_CURRENCY_ID)));
+    return Result::success();
 }
 
 const TableStore& VatStore()

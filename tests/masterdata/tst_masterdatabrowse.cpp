@@ -9,6 +9,7 @@
 #include "masterdata/MasterTables.h"
 #include "masterdata/ui/CountryEdit.h"
 #include "masterdata/ui/CurrencyEdit.h"
+#include "masterdata/ui/FieldBinding.h"
 #include "masterdata/ui/MasterBrowses.h"
 #include "masterdata/ui/NumberEdit.h"
 #include "masterdata/ui/PartnerEdit.h"
@@ -290,6 +291,20 @@ private Q_SLOTS:
         QVERIFY(!finder.pickedId());
         QCOMPARE(finder.matches()->rowCount(), 0);
         QCOMPARE(finder.text(), "Teszt termékx");
+    }
+
+    // What a control gives to the store: single-line texts without the blanks around them.
+    void fieldValuesAsStored()
+    {
+        QLineEdit line;
+        line.setText("  Kovács Kft. ");
+        QCOMPARE(FieldValue(&line), "Kovács Kft.");
+        QPlainTextEdit text;
+        text.setPlainText(" first\nsecond ");
+        QCOMPARE(FieldValue(&text), " first\nsecond ");
+        QCheckBox check;
+        check.setChecked(true);
+        QCOMPARE(FieldValue(&check), "1");
     }
 
     void numberEditReadsBothSeparators()

@@ -337,6 +337,55 @@ private Q_SLOTS:
             QCOMPARE(*got, price.toDouble());
     }
 
+    // A new partner takes every invoice default of the settings; choosing a country brings its
+    // language and, when it has one, its currency.
+    void newPartnerTakesSettingsDefaults()
+    {
+        QVERIFY(Setup::current().load());
+        const std::pair<const char*, const char*> defaults[] = {
+            {PARTNER_COUNTRY_ID, SETUP_INVOICE_COUNTRY_ID},
+            {PARTNER_MAIL_COUNTRY_ID, SETUP_INVOICE_COUNTRY_ID},
+            {PARTNER_LANG_ID, SETUP_INVOICE_LANG_ID},
+            {PARTNER_CURRENCY_ID, SETUP_INVOICE_CURRENCY_ID},
+            {PARTNER_DISCOUNT_TYPE, SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE},
+        };
+        int value = 2;
+        for (const auto& [partner, setup] : defaults)
+            Setup::current().set(setup, value++);
+        const Record row = NewPartnerDefaults();
+        for (const auto& [partner, setup] : defaults)
+            QCOMPARE(row.value(partner).toLongLong(), Setup::current().integer(setup));
+        QCOMPARE(row.value(PARTNER_MAIL_IS_SAME), "1");
+        QCOMPARE(row.size(), 6);
+
+        QVERIFY(ExecSql("update COUNTRY set COUNTRY_LANG_ID = 2, COUNTRY_CURRENCY_ID = 3 where "
+                        "COUNTRY_ID = 1"));
+        Record chosen;
+        QVERIFY(CountryDefaults(1, chosen));
+        QCOMPARE(chosen, (Record{{PARTNER_LANG_ID, 2}, {PARTNER_CURRENCY_ID, 3}}));
+        QVERIFY(ExecSql("update COUNTRY set COUNTRY_CURRENCY_ID = NULL where COUNTRY_ID = 1"));
+        QVERIFY(CountryDefaults(1, chosen));
+        QVERIFY(!chosen.contains(PARTNER_CURRENCY_ID));
+    }
+
+    void listRecordLimit_data()
+    {
+        QTest::addColumn<QVariant>("setting");
+        QTest::addColumn<int>("limit");
+        QTest::newRow("set") << QVariant(25) << 25;
+        QTest::newRow("unset") << QVariant() << 1000;
+        QTest::newRow("zero") << QVariant(0) << 1000;
+        QTest::newRow("negative") << QVariant(-3) << 1000;
+    }
+
+    void listRecordLimit()
+    {
+        QFETCH(QVariant, setting);
+        QFETCH(int, limit);
+        Setup::current().set(SETUP_RECORD_LIMIT, setting);
+        QCOMPARE(ListRecordLimit(), limit);
+    }
+
     // The product list's second price column: the default currency of new orders when foreign.
     void listCurrencyPrefersOrderDefault()
     {
