@@ -1,10 +1,10 @@
 // The GUI entry point.
 #include "app/BaseFolder.h"
 #include "app/Language.h"
-#include "app/ProgramInfo.h"
 #include "app/ui/MainWindow.h"
 #include "app/ui/RegisterCommands.h"
 #include "app/ui/Startup.h"
+#include "base/ProgramInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -31,6 +31,7 @@ int main(int argc, char* argv[])
     InstallLanguage(ChooseLanguage(parser.value(langOption)));
     BaseFolder::set(ResolveBaseFolder(parser.value(baseOption)));
     BaseFolder::ensureExists();
+    InstallShellServices();
 
     if (!StartUp(parser.positionalArguments().value(0)))
         return 1;

@@ -1,12 +1,11 @@
 #include "CompanyChoice.h"
 
-#include "base/Database.h"
 #include "DatabasePrepare.h"
+#include "base/CompanyHooks.h"
+#include "base/Database.h"
 #include "base/Interaction.h"
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
-
-#include "documents/LabelTranslations.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -46,8 +45,8 @@ Result OpenCompany(const QString& path, Interaction& interaction)
     const Result prepared = PrepareDatabase(interaction);
     if (!prepared)
         return prepared;
-    // Invoices are printed with the labels of the company they are issued in.
-    const Result labels = LabelTranslations::current().Load();
+    // What the subsystems read from the company, e.g. the labels its invoices are printed with.
+    const Result labels = RunCompanyOpenedHooks();
     if (!labels) {
         Database::close();
         interaction.error(labels.message());

@@ -8,7 +8,8 @@
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
-#include "app/ProgramInfo.h"
+#include "base/ProgramInfo.h"
+#include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
 
 #include <QDir>
@@ -90,8 +91,8 @@ int main(int argc, char* argv[])
     // Without a desktop session Qt warns on every run that it picks a runtime folder itself;
     // pick it here, quietly, so standard error carries only the program's messages.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-"
-            + QByteArray::number(qulonglong(getuid()));
+        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-" +
+                               QByteArray::number(qulonglong(getuid()));
         if (QDir().mkpath(QString::fromLocal8Bit(dir)))
             QFile::setPermissions(QString::fromLocal8Bit(dir),
                                   QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -124,6 +125,7 @@ int main(int argc, char* argv[])
     BaseFolder::set(ResolveBaseFolder(base));
     context.language = ChooseLanguage(context.language);
     InstallLanguage(context.language);
+    InstallLabelLoading();
 
     CliInteraction interaction(err);
     context.interaction = &interaction;

@@ -1,5 +1,7 @@
 #include "LabelTranslations.h"
 
+#include "base/CompanyHooks.h"
+
 #include "Columns.h"
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
@@ -83,4 +85,11 @@ LabelTranslations& LabelTranslations::current()
 {
     static LabelTranslations labels;
     return labels;
+}
+
+void InstallLabelLoading()
+{
+    // Invoices are printed with the labels of the company they are issued in.
+    SetCompanyOpenedHook(QStringLiteral("labels"),
+                         [] { return LabelTranslations::current().Load(); });
 }

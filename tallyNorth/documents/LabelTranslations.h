@@ -46,3 +46,6 @@ private:
 
     QMap<QString, QMap<int, QString>> m_texts;
 };
+
+// Has the labels of every company read when it is opened (see CompanyHooks.h).
+void InstallLabelLoading();

@@ -1,6 +1,7 @@
 #include "MasterTables.h"
 
 #include "Columns.h"
+#include "base/Setup.h"
 #include "base/SqlValue.h"
 
 #include <QtGlobal>
@@ -36,19 +37,64 @@ void CapRoundingDecimals(Record& currency)
     }
 }
 
-void CopyMailAddress(Record& partner)
+void UpperCaseCode(Record& lang)
 {
-    if (!IsFlagSet(partner.value(Name(PARTNER_MAIL_IS_SAME))))
-        return;
-    const std::pair<const char*, const char*> pairs[] = {
+    const QVariant code = lang.value(Name(LANG_CODE));
+    if (!IsNullValue(code))
+        lang.insert(Name(LANG_CODE), code.toString().trimmed().toUpper());
+}
+
+int ListRecordLimit()
+{
+    // A list of every partner would take long to read and show on a large database.
+    constexpr int kDefaultRecordLimit = 1000;
+    const qint64 limit = Setup::current().integer(SETUP_RECORD_LIMIT);
+    return limit > 0 ? static_cast<int>(limit) : kDefaultRecordLimit;
+}
+
+const QList<std::pair<const char*, const char*>>& MailAddressColumns()
+{
+    static const QList<std::pair<const char*, const char*>> pairs = {
         {PARTNER_NAME, PARTNER_MAIL_NAME},
         {PARTNER_ZIP, PARTNER_MAIL_ZIP},
         {PARTNER_CITY, PARTNER_MAIL_CITY},
         {PARTNER_ADDRESS, PARTNER_MAIL_ADDRESS},
         {PARTNER_COUNTRY_ID, PARTNER_MAIL_COUNTRY_ID},
     };
-    for (const auto& [billing, mail] : pairs)
+    return pairs;
+}
+
+void CopyMailAddress(Record& partner)
+{
+    if (!IsFlagSet(partner.value(Name(PARTNER_MAIL_IS_SAME))))
+        return;
+    for (const auto& [billing, mail] : MailAddressColumns())
         partner.insert(Name(mail), partner.value(Name(billing)));
+}
+
+Record NewPartnerDefaults()
+{
+    const Setup& setup = Setup::current();
+    return {
+        {Name(PARTNER_MAIL_IS_SAME), FlagText(true)},
+        {Name(PARTNER_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
+        {Name(PARTNER_MAIL_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
+        {Name(PARTNER_LANG_ID), setup.integer(SETUP_INVOICE_LANG_ID)},
+        {Name(PARTNER_CURRENCY_ID), setup.integer(SETUP_INVOICE_CURRENCY_ID)},
+        {Name(PARTNER_DISCOUNT_TYPE), setup.integer(SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE)},
+    };
+}
+
+Result CountryDefaults(qint64 countryId, Record& partner)
+{
+    partner.clear();
+    Record country;
+    if (Result r = CountryStore().read(countryId, country); !r)
+        return r;
+    partner.insert(Name(PARTNER_LANG_ID), country.value(Name(COUNTRY_LANG_ID)));
+    if (!IsNullValue(country.value(Name(COUNTRY_CURRENCY_ID))))
+        partner.insert(Name(PARTNER_CURRENCY_ID), country.value(Name(COUNTRY_CURRENCY_ID)));
+    return Result::success();
 }
 
 const TableStore& VatStore()
@@ -64,6 +110,13 @@ const TableStore& VatStore()
                      {VAT_PERCENT,
                       QT_TRANSLATE_NOOP("VatTable", "VAT Percent field must have a value.")}},
         .codeColumns = {VAT_CODE},
+        .usedBy =
+            {
+                {Tbl::PRODUCT, PRODUCT_VAT_ID,
+                 QT_TRANSLATE_N_NOOP("VatTable", "This VAT key is used by %n product(s).")},
+                {Tbl::ORDERITEM, ORDERITEM_VAT_ID,
+                 QT_TRANSLATE_N_NOOP("VatTable", "This VAT key is used by %n order item(s).")},
+            },
     });
     return store;
 }
@@ -92,6 +145,22 @@ const TableStore& CurrencyStore()
                                                        "Exchange Rate field must have a value.")}},
         .homeId = 0,
         .homeMessage = QT_TRANSLATE_NOOP("CurrencyTable", "This currency can not be deleted."),
+        .usedBy =
+            {
+                {Tbl::PARTNER, PARTNER_CURRENCY_ID,
+                 QT_TRANSLATE_N_NOOP("CurrencyTable", "This currency is used by %n partner(s).")},
+                {Tbl::COUNTRY, COUNTRY_CURRENCY_ID,
+                 QT_TRANSLATE_N_NOOP("CurrencyTable", "This currency is used by %n country(s).")},
+                {Tbl::PRODUCTPRICE, PRODUCTPRICE_CURRENCY_ID,
+                 QT_TRANSLATE_N_NOOP("CurrencyTable",
+                                     "This currency is used by %n product price(s).")},
+                {Tbl::ORDERHEAD, ORDERHEAD_CURRENCY_ID,
+                 QT_TRANSLATE_N_NOOP("CurrencyTable", "This currency is used by %n order(s).")},
+                {Tbl::SETUP, SETUP_INVOICE_CURRENCY_ID,
+                 QT_TRANSLATE_N_NOOP("CurrencyTable",
+                                     "This currency is the default of the settings.")},
+            },
+        .uniqueColumns = {CURRENCY_ABBREVIATION},
         .prepare = CapRoundingDecimals,
     });
     return store;
@@ -108,6 +177,7 @@ const TableStore& PaymentMethodStore()
                     PAYMENTMETHOD_ROUND_TO_5},
         .nameColumn = PAYMENTMETHOD_NAME,
         .orderBy = QStringLiteral("PAYMENTMETHOD_NAME, PAYMENTMETHOD_ID"),
+        .foldedOrder = true,
         .required = {{PAYMENTMETHOD_NAME,
                       QT_TRANSLATE_NOOP("PaymentMethodTable", "Name field must have a value.")}},
         .codeColumns = {PAYMENTMETHOD_CODE},
@@ -116,6 +186,15 @@ const TableStore& PaymentMethodStore()
                       PAYMENTMETHODTRANSLATION_LANG_ID,
                       {PAYMENTMETHODTRANSLATION_NAME, PAYMENTMETHODTRANSLATION_COMMENT},
                       kTranslationError}},
+        .usedBy =
+            {
+                {Tbl::PARTNER, PARTNER_PAYMENTMETHOD_ID,
+                 QT_TRANSLATE_N_NOOP("PaymentMethodTable",
+                                     "This payment method is used by %n partner(s).")},
+                {Tbl::ORDERHEAD, ORDERHEAD_PAYMENTMETHOD_ID,
+                 QT_TRANSLATE_N_NOOP("PaymentMethodTable",
+                                     "This payment method is used by %n order(s).")},
+            },
     });
     return store;
 }
@@ -129,6 +208,7 @@ const TableStore& NoVatReasonStore()
         .columns = {NOVATREASON_CODE, NOVATREASON_NAME, NOVATREASON_TEXT},
         .nameColumn = NOVATREASON_NAME,
         .orderBy = QStringLiteral("NOVATREASON_NAME, NOVATREASON_ID"),
+        .foldedOrder = true,
         .required = {{NOVATREASON_NAME,
                       QT_TRANSLATE_NOOP("NoVatReasonTable", "Name field must have a value.")}},
         .codeColumns = {NOVATREASON_CODE},
@@ -137,6 +217,12 @@ const TableStore& NoVatReasonStore()
                       NOVATREASONTRANSLATION_LANG_ID,
                       {NOVATREASONTRANSLATION_TEXT},
                       kTranslationError}},
+        .usedBy =
+            {
+                {Tbl::ORDERHEAD, ORDERHEAD_NOVATREASON_ID,
+                 QT_TRANSLATE_N_NOOP("NoVatReasonTable",
+                                     "This no-VAT reason is used by %n order(s).")},
+            },
     });
     return store;
 }
@@ -154,6 +240,12 @@ const TableStore& StatNoStore()
                       QT_TRANSLATE_NOOP("StatNoTable", "Stat No field must have a value.")},
                      {STATNO_NAME,
                       QT_TRANSLATE_NOOP("StatNoTable", "Name field must have a value.")}},
+        .usedBy =
+            {
+                {Tbl::PRODUCT, PRODUCT_STAT_NO,
+                 QT_TRANSLATE_N_NOOP("StatNoTable", "This stat number is used by %n product(s)."),
+                 STATNO_STAT_NO},
+            },
     });
     return store;
 }
@@ -171,6 +263,30 @@ const TableStore& LangStore()
                       QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")},
                      {LANG_NAME,
                       QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")}},
+        .usedBy =
+            {
+                {Tbl::PARTNER, PARTNER_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable", "This language is used by %n partner(s).")},
+                {Tbl::COUNTRY, COUNTRY_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable", "This language is used by %n country(s).")},
+                {Tbl::ORDERHEAD, ORDERHEAD_PARTNER_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable", "This language is used by %n order(s).")},
+                {Tbl::PRODUCTTRANSLATION, PRODUCTTRANSLATION_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable",
+                                     "This language is used by %n product translation(s).")},
+                {Tbl::PAYMENTMETHODTRANSLATION, PAYMENTMETHODTRANSLATION_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable",
+                                     "This language is used by %n payment method translation(s).")},
+                {Tbl::NOVATREASONTRANSLATION, NOVATREASONTRANSLATION_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable",
+                                     "This language is used by %n no-VAT reason translation(s).")},
+                {Tbl::ORDERLABELTRANSLATION, ORDERLABELTRANSLATION_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable", "This language is used by %n invoice label(s).")},
+                {Tbl::SETUP, SETUP_INVOICE_LANG_ID,
+                 QT_TRANSLATE_N_NOOP("LangTable", "This language is the default of the settings.")},
+            },
+        .uniqueColumns = {LANG_CODE},
+        .prepare = UpperCaseCode,
     });
     return store;
 }
@@ -185,6 +301,7 @@ const TableStore& CountryStore()
                     COUNTRY_LANG_ID, COUNTRY_CURRENCY_ID},
         .nameColumn = COUNTRY_NAME,
         .orderBy = QStringLiteral("COUNTRY_ID <> 0, COUNTRY_NAME, COUNTRY_ID"),
+        .foldedOrder = true,
         .required = {{COUNTRY_NAME,
                       QT_TRANSLATE_NOOP("CountryTable", "Country Name field must have a value.")},
                      {COUNTRY_INTERNATIONAL_CODE,
@@ -192,6 +309,20 @@ const TableStore& CountryStore()
                                         "International Country Code field must have a value.")}},
         .homeId = 0,
         .homeMessage = QT_TRANSLATE_NOOP("CountryTable", "This country can not be deleted."),
+        .usedBy =
+            {
+                {Tbl::PARTNER, PARTNER_COUNTRY_ID,
+                 QT_TRANSLATE_N_NOOP("CountryTable", "This country is used by %n partner(s).")},
+                {Tbl::PARTNER, PARTNER_MAIL_COUNTRY_ID,
+                 QT_TRANSLATE_N_NOOP("CountryTable",
+                                     "This country is the mailing country of %n partner(s).")},
+                {Tbl::ORDERHEAD, ORDERHEAD_PARTNER_COUNTRY_ID,
+                 QT_TRANSLATE_N_NOOP("CountryTable", "This country is used by %n order(s).")},
+                {Tbl::SETUP, SETUP_INVOICE_COUNTRY_ID,
+                 QT_TRANSLATE_N_NOOP("CountryTable",
+                                     "This country is the default of the settings.")},
+            },
+        .uniqueColumns = {COUNTRY_INTERNATIONAL_CODE},
     });
     return store;
 }

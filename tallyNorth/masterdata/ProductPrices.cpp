@@ -2,10 +2,10 @@
 
 #include "Columns.h"
 #include "TableStore.h"
+#include "base/RoundDecimals.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
-#include "orders/OrderCalc.h"
 
 #include <QCoreApplication>
 

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QSqlRecord>
 
+#include <algorithm>
+
 namespace {
 
 QString Name(const char* column)
@@ -96,7 +98,21 @@ Result TableStore::list(RecordPage& page, const ListQuery& query) const
         }
         page.rows << ReadRecord(st);
     }
+    if (m_info.foldedOrder)
+        sortFolded(page.rows);
     return Result::success();
+}
+
+void TableStore::sortFolded(QList<Record>& rows) const
+{
+    const QString name = Name(m_info.nameColumn);
+    const QString idColumn = Name(m_info.idColumn);
+    const auto key = [&](const Record& row) {
+        const bool home = m_info.homeId && RowId(row.value(idColumn)) == m_info.homeId;
+        return std::pair(!home, FoldName(row.value(name).toString()));
+    };
+    std::stable_sort(rows.begin(), rows.end(),
+                     [&](const Record& a, const Record& b) { return key(a) < key(b); });
 }
 
 Result TableStore::names(QHash<qint64, QString>& names) const
@@ -150,6 +166,8 @@ Result TableStore::save(Record& row, std::optional<qint64>& id,
         if (IsBlank(row.value(Name(c))))
             row.insert(Name(c), QVariant());
     }
+    if (Result r = checkUnique(row, id); !r)
+        return r;
     // Joins a caller's transaction when there is one (an import saving many rows at once).
     SqlTransaction transaction;
     std::optional<qint64> written = id;
@@ -242,10 +260,66 @@ Result TableStore::readChildren(int child, qint64 parentId, QList<Record>& rows)
     return Result::success();
 }
 
+Result TableStore::checkUnique(const Record& row, std::optional<qint64> id) const
+{
+    // Webshop codes are compared as typed; the other keys (a currency's abbreviation, a language
+    // code) without case, as the user reads them.
+    const std::pair<const QList<const char*>*, bool> groups[] = {{&m_info.codeColumns, false},
+                                                                 {&m_info.uniqueColumns, true}};
+    for (const auto& [columns, anyCase] : groups) {
+        for (const char* c : *columns) {
+            const QString value = row.value(Name(c)).toString().trimmed();
+            if (value.isEmpty())
+                continue;
+            const QString compare =
+                anyCase ? QStringLiteral("upper(%1) = upper(?)") : QStringLiteral("%1 = ?");
+            SqlStatement st(
+                QStringLiteral("select count(*) from %1 where %2 and %3 <> ?")
+                    .arg(Name(m_info.table), compare.arg(Name(c)), Name(m_info.idColumn)),
+                {value, id.value_or(-1)});
+            const QString failed =
+                QCoreApplication::translate("TableStore", "Unable to save data.");
+            if (!st.exec() || !st.next())
+                return st.failure(failed);
+            if (st.value(0).toLongLong() > 0)
+                return Result::failure(
+                    failed + u'&' +
+                    QCoreApplication::translate("TableStore", "The code \"%1\" is already used.")
+                        .arg(value));
+        }
+    }
+    return Result::success();
+}
+
+Result TableStore::usage(qint64 id, QStringList& uses) const
+{
+    uses.clear();
+    for (const Reference& ref : m_info.usedBy) {
+        const QString key = ref.valueColumn ? QStringLiteral("(select %1 from %2 where %3 = ?)")
+                                                  .arg(Name(ref.valueColumn), Name(m_info.table),
+                                                       Name(m_info.idColumn))
+                                            : QStringLiteral("?");
+        SqlStatement st(QStringLiteral("select count(*) from %1 where %2 = %3")
+                            .arg(Name(ref.table), Name(ref.column), key),
+                        {id});
+        if (!st.exec() || !st.next())
+            return st.failure(
+                QCoreApplication::translate("TableStore", "Unable to load data from database."));
+        if (const int count = st.value(0).toInt(); count > 0)
+            uses << QCoreApplication::translate(m_info.context, ref.message, nullptr, count);
+    }
+    return Result::success();
+}
+
 Result TableStore::canRemove(qint64 id) const
 {
     if (m_info.homeId && *m_info.homeId == id)
         return Result::failure(text(m_info.homeMessage));
+    QStringList uses;
+    if (Result r = usage(id, uses); !r)
+        return r;
+    if (!uses.isEmpty())
+        return Result::failure(uses.join(u'&'));
     return Result::success();
 }
 

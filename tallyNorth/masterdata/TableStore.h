@@ -26,6 +26,17 @@ struct ChildTable
     const char* saveError; // message (context "TableStore") when writing them fails
 };
 
+// Rows of another table that point to a row of this one; while any exist the row is not deleted.
+struct Reference
+{
+    const char* table;
+    const char* column;
+    // "This VAT key is used by %n product(s).", in the table's translation context.
+    const char* message;
+    // The column of this table the reference holds; the id column when unset.
+    const char* valueColumn = nullptr;
+};
+
 struct RequiredField
 {
     const char* column;
@@ -40,6 +51,9 @@ struct TableInfo
     QList<const char*> columns; // kept columns, without the id
     const char* nameColumn;     // the row's name in titles and pick lists
     QString orderBy;
+    // Lists sorted by the folded name (Á with A), the home row first: SQLite would put accented
+    // letters after Z. For small tables that are read whole.
+    bool foldedOrder = false;
     QList<RequiredField> required = {};
     // Optional unique webshop codes, shown only when SETUP_SHOW_CODE_FIELDS is "1"; an empty
     // code is stored as NULL so that many rows may lack one.
@@ -49,6 +63,9 @@ struct TableInfo
     const char* foldColumn = nullptr; // ..._NAME_ASCII: written from the name, searched by prefix
     QList<ChildTable> children = {};
     const char* removeError = nullptr; // message of a failed delete; a generic one when unset
+    QList<Reference> usedBy = {};
+    // Besides the codes, columns no two rows may share (compared without case).
+    QList<const char*> uniqueColumns = {};
     std::function<void(Record&)> prepare = {}; // the table's rule applied to a row before each save
 };
 
@@ -85,15 +102,20 @@ public:
     Result save(Record& row, std::optional<qint64>& id,
                 const QList<QList<Record>>& children = {}) const;
     Result readChildren(int child, qint64 parentId, QList<Record>& rows) const;
-    // Refuses the home row with its message.
+    // Where the row is used, one sentence per referencing table that holds it.
+    Result usage(qint64 id, QStringList& uses) const;
+    // Refuses the home row with its message, and a row still in use with where it is used.
     Result canRemove(qint64 id) const;
     // Deletes the row and its child rows.
     Result remove(qint64 id) const;
 
 private:
     Result writeRow(Record& row, std::optional<qint64>& id) const;
+    // "Unable to save data." with the reason when another row has the same code.
+    Result checkUnique(const Record& row, std::optional<qint64> id) const;
     Result writeChildren(int child, qint64 parentId, const QList<Record>& rows) const;
     QString columnList() const;
+    void sortFolded(QList<Record>& rows) const;
 
     TableInfo m_info;
 };

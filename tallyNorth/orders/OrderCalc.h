@@ -3,6 +3,8 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/RoundDecimals.h"
+#include "masterdata/DiscountType.h"
 
 #include <QList>
 #include <QString>
@@ -10,20 +12,6 @@
 
 #include <array>
 #include <optional>
-
-// Values of ORDERITEM_DISCOUNT_TYPE (also PARTNER_DISCOUNT_TYPE and the settings' default).
-enum class DiscountType { NoDiscount = 0, PercentFromListPrice = 1, EnteredPrice = 2 };
-
-// Rounds half away from zero (2.5 -> 3, -2.5 -> -3); |value| below 1e-15 gives 0.
-double RoundDecimals(double value, int decimals);
-
-// Digits after the decimal point in the shortest text that reads back as |value|.
-int DecimalCount(double value);
-
-// Net price from a typed gross price: two more decimals than the gross price shows.
-double GrossToNet(double gross, double vatPercent);
-// Gross price from a net price: as many decimals as the net price shows, two for a whole one.
-double NetToGross(double net, double vatPercent);
 
 // The unit price from the list price and discount; nothing for a price the user enters, which is
 // never recomputed. Unknown types behave like "no discount".

@@ -7,8 +7,8 @@
 
 #include "Columns.h"
 #include "app/Backup.h"
-#include "base/Database.h"
 #include "app/DatabasePrepare.h"
+#include "base/Database.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "documents/LabelTranslations.h"
@@ -71,6 +71,7 @@ private:
 
 void TestBackup::init()
 {
+    InstallLabelLoading();
     m_company.emplace();
     QVERIFY(m_company->isValid());
     AddMarker("own");

@@ -63,6 +63,7 @@ private:
 
 void TestCompanies::init()
 {
+    InstallLabelLoading();
     m_dir.emplace();
     QVERIFY(m_dir->isValid());
     m_ui = {};

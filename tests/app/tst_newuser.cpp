@@ -7,13 +7,13 @@
 
 #include "app/BaseFolder.h"
 #include "app/CompanyCreate.h"
-#include "base/Database.h"
 #include "app/Language.h"
-#include "base/SqlStatement.h"
-#include "app/ui/ListTab.h"
 #include "app/ui/MainWindow.h"
 #include "app/ui/RegisterCommands.h"
 #include "app/ui/Startup.h"
+#include "base/Database.h"
+#include "base/SqlStatement.h"
+#include "base/ui/ListTab.h"
 
 #include <QCheckBox>
 #include <QComboBox>

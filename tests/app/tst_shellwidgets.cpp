@@ -5,12 +5,12 @@
 #include "TestData.h"
 
 #include "app/CompanyList.h"
-#include "app/ui/CheckItemsDlg.h"
 #include "app/ui/CompanyListModel.h"
 #include "app/ui/DatabaseSelectDlg.h"
-#include "app/ui/DateEdit.h"
-#include "app/ui/EnterLikeTab.h"
 #include "app/ui/SqlErrorDlg.h"
+#include "base/ui/CheckItemsDlg.h"
+#include "base/ui/DateEdit.h"
+#include "base/ui/EnterLikeTab.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
@@ -37,15 +37,17 @@ public:
         combo->addItems({"a", "b"});
         auto* editableCombo = new QComboBox;
         editableCombo->setEditable(true);
+        auto* chooser = new QPushButton("Languages...");
+        EnterLikeTab::markFieldButton(chooser);
         auto* ok = new QPushButton("OK");
         ok->setDefault(true);
         connect(ok, &QPushButton::clicked, this, &QDialog::accept);
         auto* form = new QFormLayout(this);
-        const char* names[] = {"line", "spin",  "editable combo", "combo",
-                               "date", "notes", "last",           "ok"};
-        QWidget* fields[] = {new QLineEdit, new QSpinBox,       editableCombo, combo,
-                             new DateEdit,  new QPlainTextEdit, new QLineEdit, ok};
-        for (int i = 0; i < 8; ++i) {
+        const char* names[] = {"line",  "spin",    "editable combo", "combo", "date",
+                               "notes", "chooser", "last",           "ok"};
+        QWidget* fields[] = {new QLineEdit,      new QSpinBox, editableCombo, combo, new DateEdit,
+                             new QPlainTextEdit, chooser,      new QLineEdit, ok};
+        for (int i = 0; i < 9; ++i) {
             fields[i]->setObjectName(names[i]);
             form->addRow(fields[i]);
         }
@@ -125,7 +127,8 @@ void TestShellWidgets::enter_data()
     AddRow("date field", true, "date", enter, "notes");
     // A multi-line field takes Enter as a line break; on a button Enter presses it.
     AddRow("multi-line field", true, "notes", enter, "notes");
-    AddRow("button", true, "ok", enter, "");
+    AddRow("button beside a field", true, "chooser", enter, "last");
+    AddRow("default button", true, "ok", enter, "");
     AddRow("rule switched off", false, "line", enter, "");
 }
 

@@ -1,6 +1,5 @@
 // tallynorth-cli backup FILE and restore FILE: the company chosen as at start-up when --db is not
 // given, the messages and exit statuses a script sees, and an older backup upgraded on restore.
-#include "OldCompanyFile.h"
 #include "TestData.h"
 
 #include "base/Database.h"
@@ -17,7 +16,6 @@ private Q_SLOTS:
     void backupAndRestoreTheOnlyCompany();
     void severalCompaniesNeedDb_data();
     void severalCompaniesNeedDb();
-    void restoreUpgradesOlderBackup();
 
 private:
     struct Run
@@ -116,25 +114,6 @@ void TestCliBackup::severalCompaniesNeedDb()
 
     QCOMPARE(cli({"--db", db("kovacs_bt.db"), verb, file}).exitCode, 0);
     QCOMPARE(FileBytes(db("kovacs_bt.db")), before);
-}
-
-void TestCliBackup::restoreUpgradesOlderBackup()
-{
-    QCOMPARE(cli({"create", "Régi Kereskedő Kft.", "--tax-no", "11111111-2-41", "--file", "ceg.db"})
-                 .exitCode,
-             0);
-    const QString file = backup("ceg.dbk");
-    QVERIFY(OldCompanyFile{3}.build(file));
-
-    Run run = cli({"restore", file});
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY2(run.err.endsWith("Backup file restored successfully.\n"), qPrintable(run.err));
-    run = cli({"check"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out, db("ceg.db") + "\t302\n");
-    QVERIFY(Database::open(db("ceg.db")));
-    QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
-    Database::close();
 }
 
 QTEST_GUILESS_MAIN(TestCliBackup)

@@ -9,6 +9,7 @@
 #include "masterdata/MasterTables.h"
 #include "masterdata/ui/CountryEdit.h"
 #include "masterdata/ui/CurrencyEdit.h"
+#include "masterdata/ui/FieldBinding.h"
 #include "masterdata/ui/MasterBrowses.h"
 #include "masterdata/ui/NumberEdit.h"
 #include "masterdata/ui/PartnerEdit.h"
@@ -81,7 +82,17 @@ private Q_SLOTS:
         browse.deleteRow();
         QCOMPARE(m_ui.lastMessage(), "This currency can not be deleted.");
         QVERIFY(m_ui.questions.isEmpty());
+        // A currency in use is refused before asking, saying where it is used.
         browse.selectId(2);
+        browse.deleteRow();
+        QVERIFY(m_ui.lastMessage().startsWith("This currency is used by "));
+        QVERIFY(m_ui.questions.isEmpty());
+        for (const char* sql :
+             {"update PARTNER set PARTNER_CURRENCY_ID = 0",
+              "update COUNTRY set COUNTRY_CURRENCY_ID = 0",
+              "update ORDERHEAD set ORDERHEAD_CURRENCY_ID = 0", "delete from PRODUCTPRICE",
+              "update SETUP set SETUP_INVOICE_CURRENCY_ID = 0"})
+            QVERIFY(ExecSql(sql));
         m_ui.yesNoAnswers << false << true;
         browse.deleteRow();
         QCOMPARE(m_ui.questions.last(), "Do you really want to delete the selected Currency?");
@@ -280,6 +291,20 @@ private Q_SLOTS:
         QVERIFY(!finder.pickedId());
         QCOMPARE(finder.matches()->rowCount(), 0);
         QCOMPARE(finder.text(), "Teszt termékx");
+    }
+
+    // What a control gives to the store: single-line texts without the blanks around them.
+    void fieldValuesAsStored()
+    {
+        QLineEdit line;
+        line.setText("  Kovács Kft. ");
+        QCOMPARE(FieldValue(&line), "Kovács Kft.");
+        QPlainTextEdit text;
+        text.setPlainText(" first\nsecond ");
+        QCOMPARE(FieldValue(&text), " first\nsecond ");
+        QCheckBox check;
+        check.setChecked(true);
+        QCOMPARE(FieldValue(&check), "1");
     }
 
     void numberEditReadsBothSeparators()

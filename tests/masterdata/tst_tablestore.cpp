@@ -76,20 +76,102 @@ private Q_SLOTS:
         row.insert(codeColumn, "QQ");
         QVERIFY(Insert(*store, row));
         const qint64 rows = RowCount(*store);
-        const Result clash = Insert(*store, row);
-        QCOMPARE(clash.message(), "Unable to save data.");
-        QVERIFY(!clash.sqlError().isEmpty());
+        // The reason is read before the database would refuse the row.
+        const QString message = "Unable to save data.&The code \"QQ\" is already used.";
+        QCOMPARE(Insert(*store, row).message(), message);
         QCOMPARE(RowCount(*store), rows);
         // Updating another row to the taken code fails the same way.
         row.insert(codeColumn, "QR");
         std::optional<qint64> other;
         QVERIFY(store->save(row, other));
         row.insert(codeColumn, "QQ");
-        QCOMPARE(store->save(row, other).message(), "Unable to save data.");
+        QCOMPARE(store->save(row, other).message(), message);
+    }
+
+    // Keys the user reads without case: a second "eur" or "En" is the same key.
+    void keysClashWithoutCase_data()
+    {
+        QTest::addColumn<const TableStore*>("store");
+        QTest::addColumn<Record>("row");
+        QTest::addColumn<QString>("key"); // as the message names it
+        QTest::newRow("currency") << &CurrencyStore()
+                                  << Record{{CURRENCY_NAME, "x"},
+                                            {CURRENCY_ABBREVIATION, " eur"},
+                                            {CURRENCY_RATE, 1}}
+                                  << "eur";
+        QTest::newRow("language") << &LangStore() << Record{{LANG_NAME, "x"}, {LANG_CODE, "En "}}
+                                  << "EN";
+    }
+
+    void keysClashWithoutCase()
+    {
+        QFETCH(const TableStore*, store);
+        QFETCH(Record, row);
+        QFETCH(QString, key);
+        QCOMPARE(Insert(*store, row).message(),
+                 "Unable to save data.&The code \"" + key + "\" is already used.");
+        // A new language code is kept in capitals.
+        if (store == &LangStore()) {
+            row.insert(LANG_CODE, "fr");
+            std::optional<qint64> id;
+            QVERIFY(store->save(row, id));
+            QCOMPARE(SelectValue("select LANG_CODE from LANG where LANG_ID = ?", {*id}), "FR");
+        }
+    }
+
+    // A row other rows point to is kept, and the message says where it is used.
+    void usedRowsAreNotDeleted_data()
+    {
+        QTest::addColumn<const TableStore*>("store");
+        QTest::addColumn<QString>("use"); // makes row 1 used
+        QTest::addColumn<QString>("message");
+        QTest::newRow("vat key") << &VatStore() << "update PRODUCT set PRODUCT_VAT_ID = 1"
+                                 << "This VAT key is used by %1 product(s).";
+        QTest::newRow("stat number by its text")
+            << &StatNoStore()
+            << "insert or replace into STATNO (STATNO_ID, STATNO_STAT_NO, STATNO_NAME) values (1, "
+               "'8471', 'x');update PRODUCT set PRODUCT_STAT_NO = (select STATNO_STAT_NO from "
+               "STATNO where "
+               "STATNO_ID = 1)"
+            << "This stat number is used by %1 product(s).";
+        QTest::newRow("payment method")
+            << &PaymentMethodStore() << "update PARTNER set PARTNER_PAYMENTMETHOD_ID = 1"
+            << "This payment method is used by %1 partner(s).";
+        QTest::newRow("country as mailing country")
+            << &CountryStore()
+            << "update PARTNER set PARTNER_MAIL_COUNTRY_ID = 1, PARTNER_COUNTRY_ID = 0"
+            << "This country is the mailing country of %1 partner(s).";
+    }
+
+    void usedRowsAreNotDeleted()
+    {
+        QFETCH(const TableStore*, store);
+        QFETCH(QString, use);
+        QFETCH(QString, message);
+        // Two rows of the referencing table, whatever the test company holds.
+        for (const QString& name : {"Egy", "Kettő"}) {
+            QVERIFY(Insert(PartnerStore(), Partner(name)));
+            QVERIFY(Insert(ProductStore(), {{PRODUCT_NAME, name}}));
+        }
+        for (const QString& sql : use.split(u';'))
+            QVERIFY(ExecSql(sql));
+        const qint64 table = use.contains("PRODUCT") ? Count("select count(*) from PRODUCT")
+                                                     : Count("select count(*) from PARTNER");
+        const qint64 before = RowCount(*store);
+        // One sentence per referencing table: the test company's orders may add their own.
+        QVERIFY(store->canRemove(1).message().split(u'&').contains(message.arg(table)));
+        QVERIFY(store->remove(1).message().split(u'&').contains(message.arg(table)));
+        QCOMPARE(RowCount(*store), before);
     }
 
     void homeRowsAreNotDeleted()
     {
+        // Rows nothing points to.
+        QVERIFY(ExecSql("delete from PARTNER"));
+        QVERIFY(ExecSql("update COUNTRY set COUNTRY_CURRENCY_ID = 0"));
+        QVERIFY(ExecSql("delete from PRODUCTPRICE"));
+        QVERIFY(ExecSql(
+            "update SETUP set SETUP_INVOICE_CURRENCY_ID = 0, SETUP_INVOICE_COUNTRY_ID = 0"));
         for (const TableStore* store : {&CurrencyStore(), &CountryStore()}) {
             const qint64 before = RowCount(*store);
             const QString message = store == &CurrencyStore() ? "This currency can not be deleted."
@@ -105,14 +187,15 @@ private Q_SLOTS:
 
     void vanishedRowIsReported()
     {
-        Record row;
-        QVERIFY(VatStore().read(1, row));
-        QVERIFY(VatStore().remove(1));
-        QCOMPARE(VatStore().read(1, row).message(),
+        Record row{{VAT_NAME, "x"}, {VAT_PERCENT, 10}};
+        std::optional<qint64> id;
+        QVERIFY(VatStore().save(row, id));
+        QVERIFY(VatStore().read(*id, row));
+        QVERIFY(VatStore().remove(*id));
+        QCOMPARE(VatStore().read(*id, row).message(),
                  "Unable to load data from database.&Maybe it is deleted by an other user.");
-        std::optional<qint64> id = 1;
         QCOMPARE(VatStore().save(row, id).message(), "Unable to save data.");
-        QCOMPARE(Count("select count(*) from VAT where VAT_ID = 1"), 0);
+        QCOMPARE(Count("select count(*) from VAT where VAT_ID = ?", {*id}), 0);
     }
 
     void partnerNameIsFoldedAndFoundByPrefix_data()
@@ -252,6 +335,55 @@ private Q_SLOTS:
         QCOMPARE(got.has_value(), price.isValid());
         if (got)
             QCOMPARE(*got, price.toDouble());
+    }
+
+    // A new partner takes every invoice default of the settings; choosing a country brings its
+    // language and, when it has one, its currency.
+    void newPartnerTakesSettingsDefaults()
+    {
+        QVERIFY(Setup::current().load());
+        const std::pair<const char*, const char*> defaults[] = {
+            {PARTNER_COUNTRY_ID, SETUP_INVOICE_COUNTRY_ID},
+            {PARTNER_MAIL_COUNTRY_ID, SETUP_INVOICE_COUNTRY_ID},
+            {PARTNER_LANG_ID, SETUP_INVOICE_LANG_ID},
+            {PARTNER_CURRENCY_ID, SETUP_INVOICE_CURRENCY_ID},
+            {PARTNER_DISCOUNT_TYPE, SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE},
+        };
+        int value = 2;
+        for (const auto& [partner, setup] : defaults)
+            Setup::current().set(setup, value++);
+        const Record row = NewPartnerDefaults();
+        for (const auto& [partner, setup] : defaults)
+            QCOMPARE(row.value(partner).toLongLong(), Setup::current().integer(setup));
+        QCOMPARE(row.value(PARTNER_MAIL_IS_SAME), "1");
+        QCOMPARE(row.size(), 6);
+
+        QVERIFY(ExecSql("update COUNTRY set COUNTRY_LANG_ID = 2, COUNTRY_CURRENCY_ID = 3 where "
+                        "COUNTRY_ID = 1"));
+        Record chosen;
+        QVERIFY(CountryDefaults(1, chosen));
+        QCOMPARE(chosen, (Record{{PARTNER_LANG_ID, 2}, {PARTNER_CURRENCY_ID, 3}}));
+        QVERIFY(ExecSql("update COUNTRY set COUNTRY_CURRENCY_ID = NULL where COUNTRY_ID = 1"));
+        QVERIFY(CountryDefaults(1, chosen));
+        QVERIFY(!chosen.contains(PARTNER_CURRENCY_ID));
+    }
+
+    void listRecordLimit_data()
+    {
+        QTest::addColumn<QVariant>("setting");
+        QTest::addColumn<int>("limit");
+        QTest::newRow("set") << QVariant(25) << 25;
+        QTest::newRow("unset") << QVariant() << 1000;
+        QTest::newRow("zero") << QVariant(0) << 1000;
+        QTest::newRow("negative") << QVariant(-3) << 1000;
+    }
+
+    void listRecordLimit()
+    {
+        QFETCH(QVariant, setting);
+        QFETCH(int, limit);
+        Setup::current().set(SETUP_RECORD_LIMIT, setting);
+        QCOMPARE(ListRecordLimit(), limit);
     }
 
     // The product list's second price column: the default currency of new orders when foreign.

@@ -1,9 +1,9 @@
 #include "FileCommands.h"
 
-#include "GuiInteraction.h"
 #include "MainWindow.h"
 #include "NewCompanyDlg.h"
 #include "Startup.h"
+#include "base/ui/GuiInteraction.h"
 
 #include "app/Backup.h"
 #include "app/BaseFolder.h"

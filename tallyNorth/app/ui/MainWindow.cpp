@@ -1,12 +1,12 @@
 #include "MainWindow.h"
 
-#include "EnterLikeTab.h"
-#include "ListTab.h"
 #include "ProgramIcon.h"
+#include "base/ui/EnterLikeTab.h"
+#include "base/ui/ListTab.h"
 
 #include "Columns.h"
 #include "base/Database.h"
-#include "app/ProgramInfo.h"
+#include "base/ProgramInfo.h"
 #include "base/Setup.h"
 
 #include <QAction>
@@ -19,6 +19,8 @@
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -59,6 +61,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent)
     setWindowIcon(ProgramIcon());
     resize(1180, 720);
     buildMenus();
+    updateSubmenus();
     buildToolBar();
     buildTabs();
     m_fileLabel = new QLabel(this);
@@ -91,6 +94,7 @@ void MainWindow::buildMenus()
                tr("Setup your company's data and application defaults"))
         ->setIcon(s->standardIcon(QStyle::SP_FileDialogDetailedView));
     QMenu* backup = file->addMenu(s->standardIcon(QStyle::SP_DialogSaveButton), tr("Backup"));
+    m_submenus << backup;
     backup->menuAction()->setStatusTip(tr("Do or restore backup"));
     addCommand(backup, MainCommand::DoBackup, tr("Do backup..."), tr("Do backup of your database"))
         ->setIcon(s->standardIcon(QStyle::SP_DialogSaveButton));
@@ -155,6 +159,7 @@ void MainWindow::buildMenus()
     addCommand(reports, MainCommand::ProductsSoldReport, tr("Products Sold Report"),
                tr("Print or export sum of sales grouped by products"));
     QMenu* receivables = reports->addMenu(tr("Receivables"));
+    m_submenus << receivables;
     addCommand(receivables, MainCommand::ReceivablesByInvoices, tr("Receivables by invoices"),
                tr("Print or export unpaid invoices"));
     addCommand(receivables, MainCommand::ReceivablesByPartners, tr("Receivables by partners"),
@@ -209,6 +214,17 @@ void MainWindow::setCommand(MainCommand command, std::function<void()> handler)
     a->setEnabled(bool(handler));
     if (handler)
         connect(a, &QAction::triggered, this, [handler = std::move(handler)] { handler(); });
+    updateSubmenus();
+}
+
+// A submenu is enabled only while one of its commands is.
+void MainWindow::updateSubmenus()
+{
+    for (QMenu* menu : std::as_const(m_submenus)) {
+        const QList<QAction*> actions = menu->actions();
+        menu->menuAction()->setEnabled(
+            std::any_of(actions.begin(), actions.end(), [](QAction* a) { return a->isEnabled(); }));
+    }
 }
 
 QAction* MainWindow::action(MainCommand command) const

@@ -3,8 +3,10 @@
 // fill it through setCommand() and setTabPage() (see RegisterCommands).
 #pragma once
 
-#include "MainCommand.h"
+#include "base/ui/CommandHost.h"
+#include "base/ui/MainCommand.h"
 
+#include <QList>
 #include <QMainWindow>
 
 #include <array>
@@ -18,19 +20,18 @@ class QTabWidget;
 // "Vantrell Invoicer - NAME (adószám:TAX)", every fixed piece kept when a value is empty.
 QString MainWindowTitle(const QString& name, const QString& taxNo);
 
-class MainWindow : public QMainWindow
+class MainWindow : public QMainWindow, public CommandHost
 {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    // A command with a handler is enabled and runs it; without one it is shown disabled.
-    void setCommand(MainCommand command, std::function<void()> handler);
+    void setCommand(MainCommand command, std::function<void()> handler) override;
     QAction* action(MainCommand command) const;
 
-    // Puts a list in the place of the tab's placeholder; the window takes ownership.
-    void setTabPage(MainTab tab, ListTab* page);
+    void setTabPage(MainTab tab, ListTab* page) override;
+    QWidget* hostWidget() override { return this; }
     ListTab* tabPage(MainTab tab) const;
     void showTab(MainTab tab);
 
@@ -54,6 +55,7 @@ private:
     void buildTabs();
     QAction* addCommand(QMenu* menu, MainCommand command, const QString& caption,
                         const QString& help);
+    void updateSubmenus();
     void tabShown(int index);
     // selected: the user changed to the tab (not the window opening on it).
     void showList(int index, bool selected);
@@ -62,6 +64,7 @@ private:
     QTabWidget* m_tabs = nullptr;
     QLabel* m_fileLabel = nullptr;
     std::map<MainCommand, QAction*> m_actions;
+    QList<QMenu*> m_submenus;
     std::array<TabState, 4> m_tabState;
     bool m_loadOnStart = false;
     bool m_refreshOnTabChange = false;

@@ -1,6 +1,6 @@
 #include "NewCompanyDlg.h"
 
-#include "GuiInteraction.h"
+#include "base/ui/GuiInteraction.h"
 #include "ui_NewCompanyLayout.h"
 
 NewCompanyDlg::NewCompanyDlg(const NewCompany& company, QWidget* parent)

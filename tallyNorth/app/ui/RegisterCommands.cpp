@@ -2,8 +2,19 @@
 
 #include "FileCommands.h"
 #include "MainWindow.h"
+#include "SqlErrorDlg.h"
 
+#include "base/ui/GuiInteraction.h"
+#include "documents/LabelTranslations.h"
+#include "documents/MessageText.h"
 #include "masterdata/ui/MasterdataCommands.h"
+
+void InstallShellServices()
+{
+    GuiInteraction::setMessageFormatter(MessageRichText);
+    GuiInteraction::setSqlErrorDialog(&SqlErrorDlg::askRetry);
+    InstallLabelLoading();
+}
 
 // One line per subsystem: each registers its handlers with MainWindow::setCommand() and its
 // lists with MainWindow::setTabPage().

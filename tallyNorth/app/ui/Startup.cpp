@@ -1,7 +1,7 @@
 #include "Startup.h"
 
 #include "DatabaseSelectDlg.h"
-#include "GuiInteraction.h"
+#include "base/ui/GuiInteraction.h"
 
 #include "app/BaseFolder.h"
 #include "app/CompanyChoice.h"

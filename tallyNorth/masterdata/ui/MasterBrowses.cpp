@@ -12,6 +12,8 @@
 #include "ui_StatNoEditLayout.h"
 #include "ui_VatEditLayout.h"
 
+#include "base/ui/EnterLikeTab.h"
+
 #include "Columns.h"
 #include "masterdata/MasterTables.h"
 
@@ -385,6 +387,7 @@ void FillMasterCombo(QComboBox* combo, MasterTable table, bool allowEmpty)
 
 void LinkChooser(QPushButton* button, QComboBox* combo, MasterTable table, bool allowEmpty)
 {
+    EnterLikeTab::markFieldButton(button);
     QObject::connect(button, &QPushButton::clicked, combo, [=] {
         const std::optional<qint64> chosen = ChooseMasterRow(table, button->window());
         FillMasterCombo(combo, table, allowEmpty);

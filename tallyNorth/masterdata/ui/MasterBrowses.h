@@ -4,21 +4,11 @@
 
 #include "BrowseInfo.h"
 
+#include "masterdata/MasterTables.h"
+
 class ListTab;
 class QComboBox;
 class QPushButton;
-
-enum class MasterTable {
-    Vat,
-    Currency,
-    PaymentMethod,
-    NoVatReason,
-    StatNo,
-    Lang,
-    Country,
-    Partner,
-    Product
-};
 
 const BrowseInfo& MasterBrowseInfo(MasterTable table);
 

@@ -2,11 +2,11 @@
 
 #include "MasterBrowses.h"
 
-#include "app/ui/MainWindow.h"
+#include "base/ui/CommandHost.h"
 
 #include <utility>
 
-void RegisterMasterdataCommands(MainWindow& window)
+void RegisterMasterdataCommands(CommandHost& host)
 {
     static constexpr std::pair<MainCommand, MasterTable> kLists[] = {
         {MainCommand::VatKeys, MasterTable::Vat},
@@ -18,8 +18,8 @@ void RegisterMasterdataCommands(MainWindow& window)
         {MainCommand::Currencies, MasterTable::Currency},
     };
     for (const auto& [command, table] : kLists)
-        window.setCommand(command, [&window, table] { OpenMasterBrowse(table, &window); });
+        host.setCommand(command, [&host, table] { OpenMasterBrowse(table, host.hostWidget()); });
     // The window decides when the pages read their rows (load on start, refresh on tab change).
-    window.setTabPage(MainTab::Products, CreateMasterTab(MasterTable::Product, &window));
-    window.setTabPage(MainTab::Partners, CreateMasterTab(MasterTable::Partner, &window));
+    host.setTabPage(MainTab::Products, CreateMasterTab(MasterTable::Product, host.hostWidget()));
+    host.setTabPage(MainTab::Partners, CreateMasterTab(MasterTable::Partner, host.hostWidget()));
 }

@@ -1,6 +1,6 @@
 // The master data in the main window: the "Basic Data" lists and the Products and Partners tabs.
 #pragma once
 
-class MainWindow;
+class CommandHost;
 
-void RegisterMasterdataCommands(MainWindow& window);
+void RegisterMasterdataCommands(CommandHost& host);

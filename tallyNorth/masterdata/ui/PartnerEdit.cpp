@@ -5,20 +5,10 @@
 #include "ui_PartnerEditLayout.h"
 
 #include "Columns.h"
-#include "base/Setup.h"
+#include "masterdata/DiscountType.h"
 #include "masterdata/MasterTables.h"
-#include "orders/OrderCalc.h"
 
 using namespace Col;
-
-namespace {
-
-QString N(const char* column)
-{
-    return QString::fromLatin1(column);
-}
-
-} // namespace
 
 PartnerEdit::PartnerEdit(std::optional<qint64> id, QWidget* parent)
     : RecordEditDlg(PartnerStore(), id, parent), m_ui(std::make_unique<Ui::PartnerEditLayout>())
@@ -60,13 +50,9 @@ PartnerEdit::~PartnerEdit() = default;
 
 void PartnerEdit::newRecord(Record& row)
 {
-    const Setup& setup = Setup::current();
-    row.insert(N(PARTNER_MAIL_IS_SAME), QStringLiteral("1"));
-    row.insert(N(PARTNER_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID));
-    row.insert(N(PARTNER_MAIL_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID));
-    row.insert(N(PARTNER_LANG_ID), setup.integer(SETUP_INVOICE_LANG_ID));
-    row.insert(N(PARTNER_CURRENCY_ID), setup.integer(SETUP_INVOICE_CURRENCY_ID));
-    row.insert(N(PARTNER_DISCOUNT_TYPE), setup.integer(SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE));
+    const Record defaults = NewPartnerDefaults();
+    for (auto it = defaults.begin(); it != defaults.end(); ++it)
+        row.insert(it.key(), it.value());
 }
 
 void PartnerEdit::showRecord(const Record& row)
@@ -78,27 +64,20 @@ void PartnerEdit::showRecord(const Record& row)
 void PartnerEdit::mirrorMailAddress()
 {
     const bool same = m_ui->m_mail_is_same->isChecked();
-    for (QWidget* w :
-         {static_cast<QWidget*>(m_ui->m_mail_name), static_cast<QWidget*>(m_ui->m_mail_zip),
-          static_cast<QWidget*>(m_ui->m_mail_city), static_cast<QWidget*>(m_ui->m_mail_address),
-          static_cast<QWidget*>(m_ui->m_mail_country_id)})
-        w->setEnabled(!same);
-    if (!same)
-        return;
-    m_ui->m_mail_name->setText(m_ui->m_name->text());
-    m_ui->m_mail_zip->setText(m_ui->m_zip->text());
-    m_ui->m_mail_city->setText(m_ui->m_city->text());
-    m_ui->m_mail_address->setText(m_ui->m_address->text());
-    SelectComboId(m_ui->m_mail_country_id, m_ui->m_country_id->currentData());
+    for (const auto& [billing, mail] : MailAddressColumns()) {
+        QWidget* mailField = FindField(this, mail);
+        mailField->setEnabled(!same);
+        if (same)
+            SetFieldValue(mailField, FieldValue(FindField(this, billing)));
+    }
 }
 
 void PartnerEdit::takeCountryDefaults()
 {
     const std::optional<qint64> country = RowId(m_ui->m_country_id->currentData());
-    Record row;
-    if (!country || !CountryStore().read(*country, row))
+    Record defaults;
+    if (!country || !CountryDefaults(*country, defaults))
         return;
-    SelectComboId(m_ui->m_lang_id, row.value(N(COUNTRY_LANG_ID)));
-    if (!row.value(N(COUNTRY_CURRENCY_ID)).isNull())
-        SelectComboId(m_ui->m_currency_id, row.value(N(COUNTRY_CURRENCY_ID)));
+    for (auto it = defaults.begin(); it != defaults.end(); ++it)
+        SetFieldValue(FindField(this, it.key().toLatin1().constData()), it.value());
 }

@@ -5,9 +5,10 @@
 #include "ui_ProductEditLayout.h"
 
 #include "Columns.h"
+#include "base/RoundDecimals.h"
 #include "base/SqlValue.h"
+#include "base/ui/EnterLikeTab.h"
 #include "masterdata/MasterTables.h"
-#include "orders/OrderCalc.h"
 
 #include <QHeaderView>
 
@@ -33,6 +34,7 @@ ProductEdit::ProductEdit(std::optional<qint64> id, QWidget* parent)
     connect(m_ui->m_price, &QLineEdit::textEdited, this, &ProductEdit::netEdited);
     connect(m_ui->m_gross_price, &QLineEdit::textEdited, this, &ProductEdit::grossEdited);
     connect(m_ui->m_vat_id, &QComboBox::currentIndexChanged, this, &ProductEdit::updateGross);
+    EnterLikeTab::markFieldButton(m_ui->m_find_stat_no);
     connect(m_ui->m_find_stat_no, &QPushButton::clicked, this, &ProductEdit::findStatNo);
     bindFields({"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Add Product")},
                {"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Edit Product")}, false);

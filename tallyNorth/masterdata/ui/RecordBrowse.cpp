@@ -5,7 +5,8 @@
 
 #include "Columns.h"
 #include "base/Setup.h"
-#include "app/ui/GuiInteraction.h"
+#include "base/ui/GuiInteraction.h"
+#include "masterdata/MasterTables.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -15,8 +16,6 @@ namespace {
 
 // Notes about more matching rows stay this long.
 constexpr int kNoteMilliseconds = 4000;
-// Without a usable SETUP_RECORD_LIMIT the lists still stop somewhere.
-constexpr int kDefaultRecordLimit = 1000;
 constexpr int kMaxColumnWidth = 320;
 
 std::function<void(QWidget*, const QString&)>& HelpOpener()
@@ -96,8 +95,7 @@ Result RecordBrowse::reload()
     ListQuery query;
     if (m_info.searchTip) {
         query.namePrefix = m_ui->m_name->text().trimmed();
-        const qint64 limit = Setup::current().integer(Col::SETUP_RECORD_LIMIT);
-        query.limit = limit > 0 ? static_cast<int>(limit) : kDefaultRecordLimit;
+        query.limit = ListRecordLimit();
     }
     RecordPage page;
     const Result r = m_info.store->list(page, query);

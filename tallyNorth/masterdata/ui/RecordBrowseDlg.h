@@ -2,7 +2,7 @@
 #pragma once
 
 #include "RecordBrowse.h"
-#include "app/ui/ListTab.h"
+#include "base/ui/ListTab.h"
 
 #include <QDialog>
 

@@ -5,7 +5,7 @@
 
 #include "Columns.h"
 #include "base/Setup.h"
-#include "app/ui/GuiInteraction.h"
+#include "base/ui/GuiInteraction.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>

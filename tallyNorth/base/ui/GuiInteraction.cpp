@@ -1,9 +1,7 @@
 #include "GuiInteraction.h"
 
 #include "CheckItemsDlg.h"
-#include "SqlErrorDlg.h"
-#include "app/ProgramInfo.h"
-#include "documents/MessageText.h"
+#include "base/ProgramInfo.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -35,34 +33,68 @@ private:
     QProgressDialog m_dialog;
 };
 
+GuiInteraction::MessageFormatter& Formatter()
+{
+    static GuiInteraction::MessageFormatter formatter;
+    return formatter;
+}
+
+GuiInteraction::SqlErrorDialog& ErrorDialog()
+{
+    static GuiInteraction::SqlErrorDialog dialog;
+    return dialog;
+}
+
+QString Formatted(const QString& text)
+{
+    return GuiInteraction::formatMessage(text);
+}
+
 } // namespace
+
+void GuiInteraction::setMessageFormatter(MessageFormatter formatter)
+{
+    Formatter() = std::move(formatter);
+}
+
+void GuiInteraction::setSqlErrorDialog(SqlErrorDialog dialog)
+{
+    ErrorDialog() = std::move(dialog);
+}
+
+QString GuiInteraction::formatMessage(const QString& text)
+{
+    if (Formatter())
+        return Formatter()(text);
+    return text.toHtmlEscaped();
+}
 
 void GuiInteraction::message(MessageKind kind, const QString& text)
 {
     const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
-        QMessageBox::information(m_parent, title, MessageRichText(text));
+        QMessageBox::information(m_parent, title, Formatted(text));
         break;
     case MessageKind::Exclamation:
-        QMessageBox::warning(m_parent, title, MessageRichText(text));
+        QMessageBox::warning(m_parent, title, Formatted(text));
         break;
     case MessageKind::Error:
-        QMessageBox::critical(m_parent, title, MessageRichText(text));
+        QMessageBox::critical(m_parent, title, Formatted(text));
         break;
     }
 }
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, ProgramName(), MessageRichText(text),
+    return QMessageBox::question(m_parent, ProgramName(), Formatted(text),
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, ProgramName(), MessageRichText(text), QMessageBox::NoButton,
+    QMessageBox box(QMessageBox::Question, ProgramName(), Formatted(text), QMessageBox::NoButton,
                     m_parent);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
@@ -77,7 +109,11 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
 
 bool GuiInteraction::sqlError(const QString& error, const QString& statement)
 {
-    return SqlErrorDlg::askRetry(error, statement, m_parent);
+    if (ErrorDialog())
+        return ErrorDialog()(error, statement, m_parent);
+    QMessageBox::critical(m_parent, ProgramName(),
+                          QString(error + u'\n' + statement).toHtmlEscaped());
+    return false;
 }
 
 std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,

@@ -14,8 +14,17 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
+#include <QPushButton>
 
 namespace {
+
+// A button beside a field ("Languages..."): Enter on it must go on to the next field, not fall
+// through to the dialog's default button and close the dialog half filled in.
+bool IsFieldButton(const QWidget* widget)
+{
+    return qobject_cast<const QPushButton*>(widget) &&
+           widget->property(EnterLikeTab::kFieldButton).toBool();
+}
 
 bool IsInputField(const QWidget* widget)
 {
@@ -51,6 +60,11 @@ EnterLikeTab* EnterLikeTab::instance(bool create)
     return filter;
 }
 
+void EnterLikeTab::markFieldButton(QWidget* button)
+{
+    button->setProperty(kFieldButton, true);
+}
+
 void EnterLikeTab::setEnabled(bool enabled)
 {
     if (EnterLikeTab* filter = instance(enabled))
@@ -72,7 +86,7 @@ bool EnterLikeTab::movesOn(const QWidget* widget)
     if (qobject_cast<const QLineEdit*>(field) && field->parentWidget() &&
         IsInputField(field->parentWidget()))
         field = field->parentWidget();
-    if (!IsInputField(field))
+    if (!IsInputField(field) && !IsFieldButton(field))
         return false;
     const auto* combo = qobject_cast<const QComboBox*>(field);
     if (combo && combo->view() && combo->view()->isVisible())

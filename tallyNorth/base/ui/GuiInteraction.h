@@ -3,6 +3,8 @@
 
 #include "base/Interaction.h"
 
+#include <functional>
+
 class QWidget;
 
 class GuiInteraction : public Interaction
@@ -19,6 +21,16 @@ public:
                                           const QString& checkCaption,
                                           const QStringList& items) override;
     std::unique_ptr<Progress> progress(const QString& text) override;
+
+    // The shell installs these at start-up: message texts are formatted by the documents layer
+    // and the SQL error window belongs to the shell, both above this folder. Without them a
+    // message is shown as plain text and a failed statement is not retried.
+    using MessageFormatter = std::function<QString(const QString&)>;
+    using SqlErrorDialog = std::function<bool(const QString&, const QString&, QWidget*)>;
+    static void setMessageFormatter(MessageFormatter formatter);
+    static void setSqlErrorDialog(SqlErrorDialog dialog);
+    // The message as a message box shows it.
+    static QString formatMessage(const QString& text);
 
 private:
     QWidget* m_parent;

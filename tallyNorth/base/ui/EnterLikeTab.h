@@ -15,6 +15,11 @@ public:
     static void setEnabled(bool enabled);
     static bool isEnabled();
 
+    // A button beside a field ("Languages..."): Enter moves on from it like from the field,
+    // instead of falling through to the dialog's default button.
+    static constexpr char kFieldButton[] = "tnFieldButton";
+    static void markFieldButton(QWidget* button);
+
     // True when Enter in widget moves to the next field (the rule being on).
     static bool movesOn(const QWidget* widget);
 
