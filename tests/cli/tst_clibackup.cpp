@@ -83,7 +83,7 @@ void TestCliBackup::backupAndRestoreTheOnlyCompany()
     Run run = cli({"backup", file});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.err.trimmed(), "Backup file saved successfully.");
-    QCOMPARE(FileBytes(file), FileBytes(demo));
+    QCOMPARE(Markers(file), "saved");
 
     QCOMPARE(Markers(demo, "later"), "saved; later");
     run = cli({"restore", file});
