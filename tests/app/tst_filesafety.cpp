@@ -71,6 +71,7 @@ private Q_SLOTS:
     void openingRefuses_data();
     void openingRefuses();
     void lockedFileIsInUseNotNew();
+    void readOnlyFileKeepsItsMode();
     void restoreRefuses_data();
     void restoreRefuses();
     void backupIsASnapshot();
@@ -181,6 +182,16 @@ void TestFileSafety::lockedFileIsInUseNotNew()
     QVERIFY(QSqlQuery(other.db()).exec("rollback"));
     QVERIFY(OpenCompany(path(), m_ui));
     qunsetenv("TALLYNORTH_LOCK_WAIT_MS");
+}
+
+void TestFileSafety::readOnlyFileKeepsItsMode()
+{
+    Database::close();
+    const auto mode = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    QVERIFY(QFile::setPermissions(path(), mode));
+    QVERIFY(!OpenCompany(path(), m_ui));
+    QCOMPARE(m_ui.lastMessage(), "The company file is read-only:&" + path());
+    QCOMPARE(QFile::permissions(path()) & 0x7077, mode);
 }
 
 void TestFileSafety::restoreRefuses_data()
