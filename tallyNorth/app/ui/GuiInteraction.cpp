@@ -10,18 +10,20 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
-namespace {
-
 class DialogProgress : public Progress
 {
 public:
-    DialogProgress(const QString& text, QWidget* parent)
-        : m_dialog(text, QApplication::translate("GuiInteraction", "Cancel"), 0, 0, parent)
+    DialogProgress(const QString& text, GuiInteraction& owner)
+        : m_owner(owner), m_dialog(text, QApplication::translate("GuiInteraction", "Cancel"), 0, 0,
+                                   owner.topWindow())
     {
+        m_dialog.setObjectName(QStringLiteral("m_progress"));
         m_dialog.setWindowModality(Qt::ApplicationModal);
         m_dialog.setMinimumDuration(300);
         m_dialog.setValue(0);
+        m_owner.m_progressWindows.append(&m_dialog);
     }
+    ~DialogProgress() override { m_owner.m_progressWindows.removeAll(&m_dialog); }
     void setText(const QString& text) override { m_dialog.setLabelText(text); }
     void setTotal(int total) override { m_dialog.setMaximum(total); }
     void setPos(int pos) override { m_dialog.setValue(pos); }
@@ -32,38 +34,46 @@ public:
     }
 
 private:
+    GuiInteraction& m_owner;
     QProgressDialog m_dialog;
 };
 
-} // namespace
+QWidget* GuiInteraction::topWindow() const
+{
+    for (auto it = m_progressWindows.crbegin(); it != m_progressWindows.crend(); ++it) {
+        if (*it)
+            return *it;
+    }
+    return m_parent;
+}
 
 void GuiInteraction::message(MessageKind kind, const QString& text)
 {
     const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
-        QMessageBox::information(m_parent, title, MessageRichText(text));
+        QMessageBox::information(topWindow(), title, MessageRichText(text));
         break;
     case MessageKind::Exclamation:
-        QMessageBox::warning(m_parent, title, MessageRichText(text));
+        QMessageBox::warning(topWindow(), title, MessageRichText(text));
         break;
     case MessageKind::Error:
-        QMessageBox::critical(m_parent, title, MessageRichText(text));
+        QMessageBox::critical(topWindow(), title, MessageRichText(text));
         break;
     }
 }
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, ProgramName(), MessageRichText(text),
+    return QMessageBox::question(topWindow(), ProgramName(), MessageRichText(text),
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
                                             const QString& second, const QString& third)
 {
-    QMessageBox box(QMessageBox::Question, ProgramName(), MessageRichText(text), QMessageBox::NoButton,
-                    m_parent);
+    QMessageBox box(QMessageBox::Question, ProgramName(), MessageRichText(text),
+                    QMessageBox::NoButton, topWindow());
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);
@@ -77,7 +87,7 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
 
 bool GuiInteraction::sqlError(const QString& error, const QString& statement)
 {
-    return SqlErrorDlg::askRetry(error, statement, m_parent);
+    return SqlErrorDlg::askRetry(error, statement, topWindow());
 }
 
 std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,
@@ -85,7 +95,7 @@ std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,
                                                       const QString& checkCaption,
                                                       const QStringList& items)
 {
-    CheckItemsDlg dlg(title, itemCaption, checkCaption, items, m_parent);
+    CheckItemsDlg dlg(title, itemCaption, checkCaption, items, topWindow());
     if (dlg.exec() != QDialog::Accepted)
         return std::nullopt;
     return dlg.checked();
@@ -93,5 +103,5 @@ std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,
 
 std::unique_ptr<Progress> GuiInteraction::progress(const QString& text)
 {
-    return std::make_unique<DialogProgress>(text, m_parent);
+    return std::make_unique<DialogProgress>(text, *this);
 }

@@ -3,7 +3,9 @@
 
 #include "base/Interaction.h"
 
-class QWidget;
+#include <QList>
+#include <QPointer>
+#include <QWidget>
 
 class GuiInteraction : public Interaction
 {
@@ -20,6 +22,13 @@ public:
                                           const QStringList& items) override;
     std::unique_ptr<Progress> progress(const QString& text) override;
 
+    // The window a message, question or dialog is shown over: the newest progress window while
+    // one is open (a modal progress window would otherwise cover it and take its clicks).
+    QWidget* topWindow() const;
+
 private:
+    friend class DialogProgress;
+
     QWidget* m_parent;
+    QList<QPointer<QWidget>> m_progressWindows;
 };

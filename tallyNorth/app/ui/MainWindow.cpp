@@ -5,8 +5,8 @@
 #include "ProgramIcon.h"
 
 #include "Columns.h"
-#include "base/Database.h"
 #include "app/ProgramInfo.h"
+#include "base/Database.h"
 #include "base/Setup.h"
 
 #include <QAction>
@@ -249,7 +249,8 @@ void MainWindow::companyChanged()
 {
     Setup& setup = Setup::current();
     if (Database::isOpen()) {
-        setup.load();
+        // A settings row that cannot be read leaves the defaults; the lists show what is there.
+        (void)setup.load();
         m_companyFile = Database::path();
     }
     setWindowTitle(MainWindowTitle(setup.text(Col::SETUP_NAME), setup.text(Col::SETUP_TAX_NO)));

@@ -4,8 +4,8 @@
 #include "ui_RecordBrowseLayout.h"
 
 #include "Columns.h"
-#include "base/Setup.h"
 #include "app/ui/GuiInteraction.h"
+#include "base/Setup.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -153,7 +153,7 @@ void RecordBrowse::selectId(qint64 id)
 void RecordBrowse::newRow()
 {
     if (const std::optional<qint64> id = m_info.edit(this, std::nullopt, {})) {
-        reload();
+        (void)reload();
         selectId(*id);
     }
 }
@@ -167,7 +167,7 @@ void RecordBrowse::editRow()
     }
     // A row deleted meanwhile is reported by the dialog and drops out of the list here.
     m_info.edit(this, id, {});
-    reload();
+    (void)reload();
 }
 
 void RecordBrowse::deleteRow()
@@ -185,7 +185,7 @@ void RecordBrowse::deleteRow()
         return;
     if (const Result r = m_info.store->remove(*id); !r)
         interaction().error(r.message());
-    reload();
+    (void)reload();
 }
 
 void RecordBrowse::choose()
