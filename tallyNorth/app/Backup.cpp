@@ -1,12 +1,17 @@
 #include "Backup.h"
 
 #include "CompanyChoice.h"
-#include "base/Database.h"
+#include "CompanyFile.h"
+#include "CompanyLock.h"
 #include "FileReplace.h"
+#include "ScopedConnection.h"
+#include "base/Database.h"
 #include "base/Interaction.h"
 #include "base/MessageArgs.h"
+#include "base/SqlStatement.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,7 +23,7 @@ bool PutBack(const QString& aside, const QString& databasePath, Interaction& int
 {
     if (!QFile::exists(aside))
         return true;
-    if (MoveReplacing(aside, databasePath))
+    if (CompanyFile::replace(aside, databasePath))
         return true;
     interaction.error(FillArgs(
         QCoreApplication::translate("Backup", "The previous database file is kept here:&%s"),
@@ -26,12 +31,30 @@ bool PutBack(const QString& aside, const QString& databasePath, Interaction& int
     return false;
 }
 
-// Only an SQLite file holds a company. Opening an empty or foreign file would make a new, empty
-// company of it in the place of the restored one.
-bool IsDatabaseFile(const QString& path)
+// A consistent snapshot of the company, taken by SQLite while it holds a read lock, checked and
+// flushed before it takes the target's name.
+Result Snapshot(const QString& databasePath, const QString& target)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(16) == QByteArray("SQLite format 3", 16);
+    if (QFileInfo(target).isDir() || QFileInfo(target) == QFileInfo(databasePath) ||
+        !QFileInfo(target).absoluteDir().exists())
+        return Result::failure({});
+    const QString temp = TempPathBeside(target);
+    {
+        ScopedConnection source(databasePath, ScopedConnection::Mode::ReadWrite);
+        SqlStatement vacuum(QStringLiteral("vacuum into ?"), {temp}, source.db());
+        if (!source.isOpen() || !vacuum.exec()) {
+            QFile::remove(temp);
+            return Result::failure({}, source.isOpen() ? vacuum.errorText() : source.errorText());
+        }
+    }
+    Result r = CompanyFile::checkRestorable(temp);
+    if (r && !SyncFile(temp))
+        r = Result::failure({});
+    if (r && !MoveReplacing(temp, target))
+        r = Result::failure({});
+    if (!r)
+        QFile::remove(temp);
+    return r;
 }
 
 } // namespace
@@ -53,17 +76,18 @@ QString RestoreAsidePath(const QString& databasePath)
 
 bool DoBackup(const QString& databasePath, const QString& target, Interaction& interaction)
 {
-    const bool wasOpen = Database::isOpen();
-    Database::close();
-    const bool copied = CopyReplacing(databasePath, target);
-    const Result reopened = wasOpen ? Database::open(databasePath) : Result::success();
-    if (copied)
-        interaction.info(QCoreApplication::translate("Backup", "Backup file saved successfully."));
-    else
+    CompanyLock lock(databasePath);
+    const Result locked = lock.acquire();
+    if (!locked) {
+        interaction.error(locked.message());
+        return false;
+    }
+    if (!Snapshot(databasePath, target)) {
         interaction.error(QCoreApplication::translate("Backup", "Error backing up database file."));
-    if (!reopened)
-        interaction.error(reopened.message());
-    return copied && reopened;
+        return false;
+    }
+    interaction.info(QCoreApplication::translate("Backup", "Backup file saved successfully."));
+    return true;
 }
 
 bool ConfirmRestore(Interaction& interaction)
@@ -84,22 +108,37 @@ bool RestoreBackup(const QString& databasePath, const QString& backupPath, Inter
     const bool wasOpen = Database::isOpen();
     const auto reopenOwn = [&] {
         if (wasOpen)
-            open(databasePath);
+            (void)open(databasePath);
     };
-    Database::close();
-    const QString aside = RestoreAsidePath(databasePath);
-    if (QFile::exists(databasePath) && !MoveReplacing(databasePath, aside)) {
-        interaction.error(
-            QCoreApplication::translate("Backup", "Error restoring backup database file."));
+    const auto refuse = [&](const QString& message) {
+        interaction.error(message);
         reopenOwn();
         return false;
-    }
-    if (!CopyReplacing(backupPath, databasePath)) {
-        interaction.error(
+    };
+    CompanyLock lock(databasePath);
+    const Result locked = lock.acquire();
+    if (!locked)
+        return refuse(locked.message());
+    Database::close();
+    // The backup is copied beside the company first and checked there, so that what is checked
+    // is what takes the company's name.
+    const QString temp = TempPathBeside(databasePath);
+    if (QFileInfo(backupPath).isDir() || !CopyToNewFile(backupPath, temp))
+        return refuse(
             QCoreApplication::translate("Backup", "Error restoring backup database file."));
-        if (PutBack(aside, databasePath, interaction))
-            reopenOwn();
-        return false;
+    const Result usable = CompanyFile::checkRestorable(temp);
+    if (!usable) {
+        QFile::remove(temp);
+        // The user chose the backup, not the copy: the message names the backup.
+        return refuse(QString(usable.message()).replace(temp, backupPath));
+    }
+    const QString aside = RestoreAsidePath(databasePath);
+    const Result replaced = CompanyFile::replace(temp, databasePath, aside);
+    if (!replaced) {
+        QFile::remove(temp);
+        return refuse(
+            QCoreApplication::translate("Backup", "Error restoring backup database file.") + u'&' +
+            replaced.message());
     }
     if (!wasOpen && !interaction.askYesNo(QCoreApplication::translate(
                         "Backup", "Database restored successfully.&Do you want to open it now?")))
@@ -122,7 +161,7 @@ bool RestoreBackup(const QString& databasePath, const QString& backupPath, Inter
 {
     // A backup of an older version is upgraded as it is opened.
     const auto open = [&interaction](const QString& path) {
-        return IsDatabaseFile(path) ? OpenCompany(path, interaction) : Result::failure({});
+        return OpenCompany(path, interaction);
     };
     return RestoreBackup(databasePath, backupPath, interaction, open);
 }

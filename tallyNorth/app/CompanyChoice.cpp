@@ -1,6 +1,10 @@
 #include "CompanyChoice.h"
 
+#include "Backup.h"
+#include "CompanyFile.h"
+#include "CompanyLock.h"
 #include "DatabasePrepare.h"
+#include "FileReplace.h"
 #include "base/CompanyHooks.h"
 #include "base/Database.h"
 #include "base/Interaction.h"
@@ -8,6 +12,7 @@
 #include "base/Setup.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include "Columns.h"
@@ -15,8 +20,11 @@
 QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
                               Interaction& interaction, const CompanySelector& select)
 {
+    RecoverInterruptedRestores(dbFolder, interaction);
     if (!commandLinePath.isEmpty()) {
-        if (QFileInfo(commandLinePath).isFile())
+        RecoverInterruptedRestore(QFileInfo(commandLinePath).absoluteFilePath(), interaction);
+        // Whether it is a company file is for the opening to tell.
+        if (QFileInfo::exists(commandLinePath))
             return QFileInfo(commandLinePath).absoluteFilePath();
         interaction.error(
             FillArgs(QCoreApplication::translate("CompanyChoice", "%s does not exists."),
@@ -35,8 +43,53 @@ QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbF
     return select(ReadCompanyEntries(files)).value_or(QString());
 }
 
+void RecoverInterruptedRestore(const QString& path, Interaction& interaction)
+{
+    const QString aside = RestoreAsidePath(path);
+    if (QFileInfo::exists(path) || !QFileInfo(aside).isFile())
+        return;
+    CompanyLock lock(path);
+    if (!lock.acquire() || QFileInfo::exists(path) || !MoveReplacing(aside, path))
+        return;
+    interaction.exclamation(FillArgs(
+        QCoreApplication::translate("CompanyChoice",
+                                    "A restore of the company file was interrupted. The previous "
+                                    "file has been put back:&%s"),
+        {path}));
+}
+
+void RecoverInterruptedRestores(const QString& dbFolder, Interaction& interaction)
+{
+    QDir dir(dbFolder);
+    const QStringList asides = dir.entryList({QStringLiteral("*.db.dbk")},
+                                             QDir::Files | QDir::Hidden | QDir::CaseSensitive);
+    for (const QString& name : asides)
+        RecoverInterruptedRestore(dir.absoluteFilePath(name.chopped(4)), interaction);
+}
+
 Result OpenCompany(const QString& path, Interaction& interaction)
 {
+    const auto refuse = [&interaction](const Result& r) {
+        Database::close();
+        interaction.error(r.message());
+        return r;
+    };
+    Database::close();
+    const QFileInfo info(path);
+    // SQLite would open it read-only and fail on the first write, with a raw error.
+    if (info.isFile() && (!info.isWritable() || !(info.permissions() & QFile::WriteOwner)))
+        return refuse(Result::failure(FillArgs(
+            QCoreApplication::translate("CompanyChoice", "The company file is read-only:&%s"),
+            {path})));
+    {
+        // Not while another process upgrades or replaces it.
+        CompanyLock lock(path);
+        Result r = lock.acquire();
+        if (r)
+            r = CompanyFile::inspect(path, CompanyFile::Check::Quick);
+        if (!r)
+            return refuse(r);
+    }
     const Result opened = Database::open(path);
     if (!opened) {
         interaction.error(opened.message());
@@ -79,7 +132,7 @@ bool SwitchCompany(const QString& path, Interaction& interaction)
     const QString previous = Database::path();
     if (!OpenCompany(path, interaction)) {
         if (!previous.isEmpty())
-            OpenCompany(previous, interaction);
+            (void)OpenCompany(previous, interaction);
         return false;
     }
     interaction.info(FillArgs(QCoreApplication::translate(

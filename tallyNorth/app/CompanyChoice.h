@@ -20,8 +20,15 @@ using CompanySelector = std::function<std::optional<QString>(const QList<Company
 QString ChooseStartupDatabase(const QString& commandLinePath, const QString& dbFolder,
                               Interaction& interaction, const CompanySelector& select);
 
+// A restore that died between keeping the company's file aside and putting the backup in its
+// place (or an older program's restore) leaves only the aside copy: it is put back and the
+// user told. For one company file, and for every one of a folder.
+void RecoverInterruptedRestore(const QString& path, Interaction& interaction);
+void RecoverInterruptedRestores(const QString& dbFolder, Interaction& interaction);
+
 // Opens path as the current database, prepares it and loads what the company's work reads from
-// it (settings, invoice labels); messages are shown. A failure leaves no database open.
+// it (settings, invoice labels); messages are shown. A file that is not a company database, is
+// damaged, read-only or busy is refused and left untouched. A failure leaves no database open.
 Result OpenCompany(const QString& path, Interaction& interaction);
 
 // "Change database/company...": true when another file was chosen, opened and prepared. When

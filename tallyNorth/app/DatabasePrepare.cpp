@@ -1,11 +1,13 @@
 #include "DatabasePrepare.h"
 
+#include "CompanyFile.h"
+#include "CompanyLock.h"
 #include "FileReplace.h"
+#include "Schema.h"
+#include "SqlScript.h"
 #include "base/Interaction.h"
 #include "base/MessageArgs.h"
-#include "Schema.h"
 #include "base/Setup.h"
-#include "SqlScript.h"
 #include "base/SqlStatement.h"
 #include "base/SqlTransaction.h"
 #include "base/SqlValue.h"
@@ -25,6 +27,17 @@ QString Script(const char* name)
 QString Section(const char* script, const char* name)
 {
     return SqlScriptSection(Script(script), QLatin1String(name));
+}
+
+// The marker says that the safety copy beside it belongs to an upgrade not yet finished.
+bool WriteMarker(const QString& path)
+{
+    QFile marker(path);
+    if (!marker.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    marker.write("upgrade in progress; the .beforeupgrade file is the original\n");
+    marker.close();
+    return marker.error() == QFileDevice::NoError && SyncFile(path) && SyncFolderOf(path);
 }
 
 } // namespace
@@ -47,28 +60,62 @@ Result PrepareDatabase(Interaction& interaction)
     return DatabasePrepare(interaction).run();
 }
 
+QString DatabasePrepare::upgradeMarkerPath(const QString& databasePath)
+{
+    return databasePath + QLatin1String(".upgrading");
+}
+
 Result DatabasePrepare::run()
 {
     if (!Database::isOpen())
         return fail(QCoreApplication::translate("Database", "Missing filename opening database."));
-    if (!SchemaExists()) {
-        const Result created = createSchema();
-        if (!created)
-            return created;
+    const QString path = Database::path();
+    if (needsWork(path)) {
+        // Only one process creates or upgrades the file; a second one waits for it and then
+        // finds the work done.
+        Database::close();
+        CompanyLock lock(path);
+        Result r = lock.acquire();
+        if (r)
+            r = CompanyFile::inspect(path, CompanyFile::Check::Quick);
+        if (r)
+            r = Database::open(path);
+        if (!r)
+            return fail(r.message());
+        if (!SchemaExists()) {
+            r = createSchema();
+            if (!r)
+                return r;
+        }
+        const int version = ReadDbVersion();
+        if (version > kCurrentDbVersion)
+            return fail(newerVersionMessage());
+        if (version < kCurrentDbVersion) {
+            r = upgrade();
+            if (!r)
+                return r;
+        }
+        // A run that died after its upgrade was committed leaves only its marker behind.
+        QFile::remove(upgradeMarkerPath(path));
     }
-    const int version = ReadDbVersion();
-    if (version > kCurrentDbVersion)
-        return fail(tr("The database version is newer, than the version of the billing "
-                       "software.&Upgrade the software to a newer version."));
-    if (version < kCurrentDbVersion) {
-        const Result upgraded = upgrade();
-        if (!upgraded)
-            return upgraded;
-    }
+    if (ReadDbVersion() > kCurrentDbVersion)
+        return fail(newerVersionMessage());
     const Result loaded = Setup::current().load();
     if (!loaded)
         return fail(loaded.message());
     return Result::success();
+}
+
+QString DatabasePrepare::newerVersionMessage()
+{
+    return tr("The database version is newer, than the version of the billing "
+              "software.&Upgrade the software to a newer version.");
+}
+
+bool DatabasePrepare::needsWork(const QString& path)
+{
+    return !SchemaExists() || ReadDbVersion() != kCurrentDbVersion ||
+           QFile::exists(upgradeMarkerPath(path));
 }
 
 Result DatabasePrepare::createSchema()
@@ -80,29 +127,54 @@ Result DatabasePrepare::createSchema()
     return r ? r : fail(r.message());
 }
 
+// Runs with the company's lock held. The steps run in one transaction, so a crash leaves the
+// original (SQLite rolls the journal back) and the safety copy is never the half-upgraded file.
 Result DatabasePrepare::upgrade()
 {
     const QString path = Database::path();
     const QString copy = safetyCopyPath(path);
+    const QString marker = upgradeMarkerPath(path);
     std::unique_ptr<Progress> progress = m_interaction.progress(tr("Upgrading database."));
-    // The copy is taken of the closed file so that it is complete, byte for byte.
-    Database::close();
-    if (!CopyReplacing(path, copy)) {
-        progress.reset();
-        return fail(tr("Error backing up database file before upgrade."));
+    // A copy beside a marker was taken by a run that was interrupted: it is the original.
+    if (!(QFile::exists(marker) && QFile::exists(copy))) {
+        // The copy is taken of the closed file so that it is complete, byte for byte.
+        Database::close();
+        const bool copied = CopyReplacing(path, copy);
+        if (!copied || !WriteMarker(marker)) {
+            progress.reset();
+            return fail(tr("Error backing up database file before upgrade."));
+        }
+        const Result reopened = Database::open(path);
+        if (!reopened) {
+            m_interaction.error(reopened.message());
+            progress.reset();
+            return restore(path, copy);
+        }
     }
     m_canceled = false;
-    Result r = Database::open(path);
-    if (r)
-        r = runSteps(*progress);
-    else
-        m_interaction.error(r.message());
-    if (r && ReadDbVersion() != kCurrentDbVersion) {
-        r = Result::failure(tr("Unable to upgrade database."));
-        m_interaction.error(r.message());
+    Result r = Result::success();
+    {
+        SqlTransaction all;
+        bool shown = false;
+        if (!all.active())
+            r = Result::failure(tr("Unable to upgrade database."), all.errorText());
+        if (r) {
+            r = runSteps(*progress);
+            shown = !r;
+        }
+        if (r && ReadDbVersion() != kCurrentDbVersion)
+            r = Result::failure(tr("Unable to upgrade database."));
+        if (r && !all.commit())
+            r = Result::failure(tr("Unable to upgrade database."), all.errorText());
+        if (!r && !shown)
+            m_interaction.error(r.message());
     }
     progress.reset();
-    return r ? r : restore(path, copy);
+    if (!r)
+        return restore(path, copy);
+    QFile::remove(marker);
+    SyncFolderOf(marker);
+    return r;
 }
 
 Result DatabasePrepare::runSteps(Progress& progress)
@@ -134,26 +206,28 @@ Result DatabasePrepare::runStep(int number, const Step& step)
     if (ReadDbVersion() != step.from)
         return Result::success();
     SqlTransaction transaction;
+    if (!transaction.active())
+        return Result::failure(tr("Unable to upgrade database."), transaction.errorText());
     Result r = (this->*step.work)();
     if (r && number == m_failingStep)
         r = Result::failure(tr("Unable to upgrade database."), QStringLiteral("injected fault"));
     if (r && !transaction.commit())
-        r = Result::failure(tr("Unable to upgrade database."),
-                            Database::session().lastError().text());
+        r = Result::failure(tr("Unable to upgrade database."), transaction.errorText());
     return r;
 }
 
-// Puts the safety copy back in place of the half-upgraded file.
+// Puts the safety copy back in place of the file the upgrade failed on.
 Result DatabasePrepare::restore(const QString& path, const QString& copy)
 {
     Database::close();
-    QFile::remove(path + QLatin1String("-journal"));
-    QFile::remove(path + QLatin1String("-wal"));
-    QFile::remove(path + QLatin1String("-shm"));
-    if (!MoveReplacing(copy, path)) {
+    const Result replaced = CompanyFile::replace(copy, path);
+    if (!replaced) {
         m_interaction.error(FillArgs(tr("Error restoring database file after failed upgrade.&The "
                                         "saved original database file is here:&&%s"),
                                      {copy}));
+    } else {
+        QFile::remove(upgradeMarkerPath(path));
+        SyncFolderOf(path);
     }
     if (m_canceled)
         return fail(tr("Upgrading database aborted."));

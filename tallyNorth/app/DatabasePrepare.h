@@ -31,6 +31,9 @@ public:
     void setFailingStep(int step) { m_failingStep = step; }
 
     static QString safetyCopyPath(const QString& databasePath);
+    // Present while an upgrade runs: the safety copy beside it is then the original.
+    static QString upgradeMarkerPath(const QString& databasePath);
+    static QString newerVersionMessage();
 
 private:
     struct Step
@@ -39,6 +42,7 @@ private:
         Result (DatabasePrepare::*work)();
     };
 
+    bool needsWork(const QString& path);
     Result createSchema();
     Result upgrade();
     Result runSteps(Progress& progress);

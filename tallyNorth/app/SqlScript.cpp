@@ -3,6 +3,7 @@
 #include "base/Interaction.h"
 #include "base/SqlStatement.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 QStringList SplitSqlScript(const QString& script)
@@ -67,6 +68,10 @@ QString SqlScriptSection(const QString& script, const QString& name)
 Result ExecSqlScript(const QString& script, Interaction* interaction, const QSqlDatabase& db)
 {
     const QStringList statements = SplitSqlScript(script);
+    // Every script of the program has statements: none means a missing resource or section,
+    // which must not pass for a schema that was made or upgraded.
+    if (statements.isEmpty())
+        return Result::failure(QCoreApplication::translate("SqlScript", "Missing SQL script."));
     for (const QString& text : statements) {
         for (;;) {
             SqlStatement st(text, {}, db);

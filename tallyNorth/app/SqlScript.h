@@ -19,7 +19,8 @@ QString LoadSqlScript(const QString& resource);
 // are interleaved with work done by the program are cut into named sections.
 QString SqlScriptSection(const QString& script, const QString& name);
 
-// Runs every statement of script. A failed statement is offered to the user for retry through
-// the SQL error dialog when interaction is given; the first failure that is not retried ends it.
+// Runs every statement of script; a script without statements fails (a missing resource). A failed
+// statement is offered to the user for retry through the SQL error dialog when interaction is
+// given; the first failure that is not retried ends it.
 Result ExecSqlScript(const QString& script, Interaction* interaction = nullptr,
                      const QSqlDatabase& db = Database::session());

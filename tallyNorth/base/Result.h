@@ -4,7 +4,7 @@
 
 #include <QString>
 
-class Result
+class [[nodiscard]] Result
 {
 public:
     static Result success() { return Result(); }

@@ -29,7 +29,9 @@ std::optional<QString> RefuseToChoose(CliContext& context, const QList<CompanyEn
 int RunCompanies(CliContext& context, const QStringList& args)
 {
     if (!args.isEmpty())
-        return ExitUsage;
+        return UsageError(
+            context,
+            QCoreApplication::translate("Cli", "unexpected argument %1").arg(args.first()));
     const QList<CompanyEntry> entries =
         ReadCompanyEntries(OfferedCompanyFiles(CompanyFiles(BaseFolder::dbFolder())));
     for (const CompanyEntry& e : entries) {
@@ -46,9 +48,13 @@ int RunCreate(CliContext& context, const QStringList& args)
     QHash<QString, QString> options;
     const QStringList names{QStringLiteral("tax-no"), QStringLiteral("zip"), QStringLiteral("city"),
                             QStringLiteral("address"), QStringLiteral("file")};
-    if (!ParseVerbArgs(args, names, &positional, &options) || positional.size() != 1 ||
-        !options.contains(QStringLiteral("tax-no")))
+    if (!ParseVerbArgs(args, names, &positional, &options, &context.usageError))
         return ExitUsage;
+    if (positional.size() != 1)
+        return UsageError(context,
+                          QCoreApplication::translate("Cli", "give the company's name once"));
+    if (!options.contains(QStringLiteral("tax-no")))
+        return UsageError(context, QCoreApplication::translate("Cli", "--tax-no is missing"));
     NewCompany company;
     company.name = positional.first();
     company.taxNo = options.value(QStringLiteral("tax-no"));
@@ -70,9 +76,13 @@ int RunCheck(CliContext& context, const QStringList& args)
 {
     QStringList positional;
     QHash<QString, QString> options;
-    if (!ParseVerbArgs(args, {QStringLiteral("unpaid-methods")}, &positional, &options) ||
-        !positional.isEmpty())
+    if (!ParseVerbArgs(args, {QStringLiteral("unpaid-methods")}, &positional, &options,
+                       &context.usageError))
         return ExitUsage;
+    if (!positional.isEmpty())
+        return UsageError(
+            context,
+            QCoreApplication::translate("Cli", "unexpected argument %1").arg(positional.first()));
     if (auto* cli = dynamic_cast<CliInteraction*>(context.interaction)) {
         const QStringList methods =
             options.value(QStringLiteral("unpaid-methods")).split(u',', Qt::SkipEmptyParts);

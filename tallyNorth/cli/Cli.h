@@ -12,6 +12,8 @@ struct CliContext
 {
     QString dbPath; // --db FILE, empty when not given
     QString language;
+    // What was wrong when a verb returns ExitUsage; printed with the verb's usage.
+    QString usageError;
     Interaction* interaction = nullptr;
     QTextStream* out = nullptr;
     QTextStream* err = nullptr;
@@ -31,6 +33,9 @@ struct CliCommand
 void PrintMessage(CliContext& context, const QString& text);
 
 // Splits a verb's arguments into positional ones and "--name value" options of the given names;
-// false on an unknown option or a missing value (bad usage).
+// false on an unknown option or a missing value (bad usage), which is then told in error.
 bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,
-                   QHash<QString, QString>* options);
+                   QHash<QString, QString>* options, QString* error = nullptr);
+
+// Records what was wrong with a verb's arguments; returns ExitUsage.
+int UsageError(CliContext& context, const QString& what);

@@ -6,15 +6,15 @@
 #include "app/Backup.h"
 #include "base/Database.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
 
-int Usage(CliContext& context, const char* usage)
+int NeedsOneFile(CliContext& context)
 {
-    *context.err << "usage: tallynorth-cli [--db FILE] " << usage << Qt::endl;
-    return ExitUsage;
+    return UsageError(context, QCoreApplication::translate("Cli", "give exactly one backup file"));
 }
 
 // The restore may bring back a company file that has been lost, so --db names the file to
@@ -31,31 +31,26 @@ QString RestoreTarget(CliContext& context)
 int RunBackup(CliContext& context, const QStringList& args)
 {
     if (args.size() != 1)
-        return Usage(context, "backup FILE");
+        return NeedsOneFile(context);
     const QString database = ChooseCompany(context);
     if (database.isEmpty())
         return ExitFailure;
-    const Result opened = Database::open(database);
-    if (!opened) {
-        PrintMessage(context, opened.message());
-        return ExitFailure;
-    }
-    const bool done =
-        DoBackup(database, QFileInfo(args.first()).absoluteFilePath(), *context.interaction);
-    Database::close();
-    return done ? ExitOk : ExitFailure;
+    // The snapshot reads the file itself; a foreign or damaged file fails its check.
+    return DoBackup(database, QFileInfo(args.first()).absoluteFilePath(), *context.interaction)
+               ? ExitOk
+               : ExitFailure;
 }
 
 int RunRestore(CliContext& context, const QStringList& args)
 {
     if (args.size() != 1)
-        return Usage(context, "restore FILE");
+        return NeedsOneFile(context);
     const QString database = RestoreTarget(context);
     if (database.isEmpty())
         return ExitFailure;
     // With the company's file open the restored file is opened (and upgraded) at once.
-    if (QFile::exists(database))
-        Database::open(database);
+    if (QFile::exists(database) && !Database::open(database))
+        Database::close();
     const bool done =
         RestoreBackup(database, QFileInfo(args.first()).absoluteFilePath(), *context.interaction);
     Database::close();

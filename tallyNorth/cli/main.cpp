@@ -54,7 +54,7 @@ void PrintMessage(CliContext& context, const QString& text)
 }
 
 bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStringList* positional,
-                   QHash<QString, QString>* options)
+                   QHash<QString, QString>* options, QString* error)
 {
     for (qsizetype i = 0; i < args.size(); ++i) {
         const QString& arg = args.at(i);
@@ -63,18 +63,36 @@ bool ParseVerbArgs(const QStringList& args, const QStringList& optionNames, QStr
             continue;
         }
         const QString name = arg.mid(2);
-        if (!optionNames.contains(name) || i + 1 >= args.size())
+        QString problem;
+        if (!optionNames.contains(name))
+            problem = QCoreApplication::translate("Cli", "unknown option %1").arg(arg);
+        else if (i + 1 >= args.size())
+            problem = QCoreApplication::translate("Cli", "%1 needs a value").arg(arg);
+        if (!problem.isEmpty()) {
+            if (error)
+                *error = problem;
             return false;
+        }
         options->insert(name, args.at(++i));
     }
     return true;
 }
 
+int UsageError(CliContext& context, const QString& what)
+{
+    context.usageError = what;
+    return ExitUsage;
+}
+
 namespace {
 
-int Usage(QTextStream& err)
+const char kGlobalUsage[] = "usage: tallynorth-cli [--base DIR] [--db FILE] [--lang hu|en] ";
+
+int Usage(QTextStream& err, const QString& what)
 {
-    err << "usage: tallynorth-cli [--base DIR] [--db FILE] [--lang hu|en] COMMAND [ARGS]\n";
+    if (!what.isEmpty())
+        err << "tallynorth-cli: " << what << '\n';
+    err << kGlobalUsage << "COMMAND [ARGS]\n";
     for (const CliCommand& c : kCommands)
         err << "  " << c.usage << '\n';
     err.flush();
@@ -107,21 +125,34 @@ int main(int argc, char* argv[])
     QStringList args = QCoreApplication::arguments().mid(1);
     QString base;
     CliContext context;
+    bool languageGiven = false;
     while (!args.isEmpty() && args.first().startsWith(QLatin1String("--"))) {
         const QString option = args.takeFirst();
+        const QStringList known{QStringLiteral("--base"), QStringLiteral("--db"),
+                                QStringLiteral("--lang")};
+        if (!known.contains(option))
+            return Usage(err, QCoreApplication::translate("Cli", "unknown option %1").arg(option));
         if (args.isEmpty())
-            return Usage(err);
-        if (option == QLatin1String("--base"))
-            base = args.takeFirst();
-        else if (option == QLatin1String("--db"))
-            context.dbPath = args.takeFirst();
-        else if (option == QLatin1String("--lang"))
-            context.language = args.takeFirst();
-        else
-            return Usage(err);
+            return Usage(err, QCoreApplication::translate("Cli", "%1 needs a value").arg(option));
+        const QString value = args.takeFirst();
+        // An empty value would quietly mean "the default" and work on another folder or file.
+        if (value.trimmed().isEmpty())
+            return Usage(err, QCoreApplication::translate("Cli", "%1 needs a value").arg(option));
+        if (option == QLatin1String("--base")) {
+            base = value;
+        } else if (option == QLatin1String("--db")) {
+            context.dbPath = value;
+        } else {
+            context.language = value;
+            languageGiven = true;
+        }
     }
+    if (languageGiven && context.language != QLatin1String("hu") &&
+        context.language != QLatin1String("en"))
+        return Usage(err, QCoreApplication::translate("Cli", "unknown language %1 (hu or en)")
+                              .arg(context.language));
     if (args.isEmpty())
-        return Usage(err);
+        return Usage(err, QCoreApplication::translate("Cli", "no command given"));
     BaseFolder::set(ResolveBaseFolder(base));
     context.language = ChooseLanguage(context.language);
     InstallLanguage(context.language);
@@ -133,8 +164,13 @@ int main(int argc, char* argv[])
     context.err = &err;
     const QString verb = args.takeFirst();
     for (const CliCommand& c : kCommands) {
-        if (verb == QLatin1String(c.name))
-            return c.run(context, args);
+        if (verb != QLatin1String(c.name))
+            continue;
+        const int status = c.run(context, args);
+        if (status == ExitUsage && !context.usageError.isEmpty())
+            err << "tallynorth-cli: " << context.usageError << '\n'
+                << kGlobalUsage << c.usage << Qt::endl;
+        return status;
     }
-    return Usage(err);
+    return Usage(err, QCoreApplication::translate("Cli", "unknown command %1").arg(verb));
 }

@@ -177,7 +177,7 @@ Result TableStore::save(Record& row, std::optional<qint64>& id,
         if (Result r = writeChildren(i, *written, children.at(i)); !r)
             return r;
     }
-    if (transaction.active() && !transaction.commit())
+    if (!transaction.commit())
         return Result::failure(QCoreApplication::translate("TableStore", "Unable to save data."));
     id = written;
     row.insert(Name(m_info.idColumn), *id);
@@ -343,7 +343,7 @@ Result TableStore::remove(qint64 id) const
                              {id}, failed);
     if (!r)
         return r;
-    if (transaction.active() && !transaction.commit())
+    if (!transaction.commit())
         return Result::failure(failed);
     return Result::success();
 }

@@ -293,7 +293,7 @@ Result ConvertToLocal(qint64 orderId, double rate, const LineTotals& orderTotals
 
 Result CalcLocalCurrencyTotals(qint64 orderId)
 {
-    // Not active when the caller has a transaction open: the writes then belong to that one.
+    // Nested in the caller's transaction when there is one: the writes then belong to that one.
     SqlTransaction transaction;
     SqlStatement order(Sql("select %1, %2, %3, %4, %5 from %6 where %7 = ?",
                            {Col::ORDERHEAD_CURRENCY_ID, Col::ORDERHEAD_CURRENCY_RATE,
@@ -313,7 +313,7 @@ Result CalcLocalCurrencyTotals(qint64 orderId)
     const Result r = forint ? CopyToLocal(orderId) : ConvertToLocal(orderId, rate, totals);
     if (!r)
         return r;
-    if (transaction.active() && !transaction.commit())
+    if (!transaction.commit())
         return Result::failure(QCoreApplication::translate("OrderCalc", "Database error:&") +
                                Database::session().lastError().text());
     return Result::success();

@@ -73,7 +73,15 @@
             <source>Database/company changed successfully to:&amp;%s</source>
             <translation>Az adatbázis/cég sikeresen átváltva erre:&amp;%s</translation>
         </message>
-    </context>
+        <message>
+        <source>A restore of the company file was interrupted. The previous file has been put back:&amp;%s</source>
+        <translation>A cégadatbázis visszaállítása megszakadt. Az előző fájl vissza lett téve a helyére:&amp;%s</translation>
+    </message>
+    <message>
+        <source>The company file is read-only:&amp;%s</source>
+        <translation>A cégadatbázis fájlja csak olvasható:&amp;%s</translation>
+    </message>
+</context>
     <context>
         <name>CompanyCreate</name>
         <message>
@@ -2046,4 +2054,80 @@ Folytatja?</translation>
             <translation>A rendelést nem sikerült létrehozni az adatbázisban.</translation>
         </message>
     </context>
+<context>
+    <name>Cli</name>
+    <message>
+        <source>unexpected argument %1</source>
+        <translation>váratlan argumentum: %1</translation>
+    </message>
+    <message>
+        <source>give the company&apos;s name once</source>
+        <translation>a cég nevét pontosan egyszer adja meg</translation>
+    </message>
+    <message>
+        <source>--tax-no is missing</source>
+        <translation>hiányzik a --tax-no</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>ismeretlen kapcsoló: %1</translation>
+    </message>
+    <message>
+        <source>%1 needs a value</source>
+        <translation>a(z) %1 kapcsolónak értéket kell adni</translation>
+    </message>
+    <message>
+        <source>unknown language %1 (hu or en)</source>
+        <translation>ismeretlen nyelv: %1 (hu vagy en)</translation>
+    </message>
+    <message>
+        <source>no command given</source>
+        <translation>nincs megadva parancs</translation>
+    </message>
+    <message>
+        <source>unknown command %1</source>
+        <translation>ismeretlen parancs: %1</translation>
+    </message>
+    <message>
+        <source>give exactly one backup file</source>
+        <translation>pontosan egy biztonsági mentés fájlt adjon meg</translation>
+    </message>
+</context>
+<context>
+    <name>CompanyFile</name>
+    <message>
+        <source>The file is not a company database:&amp;%s</source>
+        <translation>A fájl nem cégadatbázis:&amp;%s</translation>
+    </message>
+    <message>
+        <source>The company database file is damaged:&amp;%s</source>
+        <translation>A cégadatbázis fájlja sérült:&amp;%s</translation>
+    </message>
+    <message>
+        <source>The company database file is in use by another program:&amp;%s&amp;Try again later.</source>
+        <translation>A cégadatbázis fájlját egy másik program használja:&amp;%s&amp;Próbálja újra később.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read:&amp;%s</source>
+        <translation>A fájl nem olvasható:&amp;%s</translation>
+    </message>
+    <message>
+        <source>The file cannot be written:&amp;%s</source>
+        <translation>A fájl nem írható:&amp;%s</translation>
+    </message>
+</context>
+<context>
+    <name>CompanyLock</name>
+    <message>
+        <source>The company file is being upgraded, restored or backed up by another program:&amp;%s&amp;Try again when it has finished.</source>
+        <translation>A cégadatbázis fájlját egy másik program éppen frissíti, visszaállítja vagy menti:&amp;%s&amp;Próbálja újra, ha az befejeződött.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlScript</name>
+    <message>
+        <source>Missing SQL script.</source>
+        <translation>Hiányzó SQL-parancsfájl.</translation>
+    </message>
+</context>
 </TS>

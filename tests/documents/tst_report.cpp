@@ -321,7 +321,7 @@ void TestReport::shiftMovesTheContent()
 {
     // The PDF places the shifted text 25.4 mm (72 pt) further right.
     const auto wordX = [this](const Report& r) {
-        r.exportPdf(m_pdf);
+        [&] { QVERIFY(r.exportPdf(m_pdf)); }();
         static const QRegularExpression re(u"xMin=\"([0-9.]+)\""_s);
         return re.match(Run(u"pdftotext"_s, {u"-bbox"_s, m_pdf, u"-"_s})).captured(1).toDouble();
     };

@@ -265,7 +265,8 @@ void MainWindow::companyChanged()
 {
     Setup& setup = Setup::current();
     if (Database::isOpen()) {
-        setup.load();
+        // A settings row that cannot be read leaves the defaults; the lists show what is there.
+        (void)setup.load();
         m_companyFile = Database::path();
     }
     setWindowTitle(MainWindowTitle(setup.text(Col::SETUP_NAME), setup.text(Col::SETUP_TAX_NO)));

@@ -8,18 +8,20 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
-namespace {
-
 class DialogProgress : public Progress
 {
 public:
-    DialogProgress(const QString& text, QWidget* parent)
-        : m_dialog(text, QApplication::translate("GuiInteraction", "Cancel"), 0, 0, parent)
+    DialogProgress(const QString& text, GuiInteraction& owner)
+        : m_owner(owner), m_dialog(text, QApplication::translate("GuiInteraction", "Cancel"), 0, 0,
+                                   owner.topWindow())
     {
+        m_dialog.setObjectName(QStringLiteral("m_progress"));
         m_dialog.setWindowModality(Qt::ApplicationModal);
         m_dialog.setMinimumDuration(300);
         m_dialog.setValue(0);
+        m_owner.m_progressWindows.append(&m_dialog);
     }
+    ~DialogProgress() override { m_owner.m_progressWindows.removeAll(&m_dialog); }
     void setText(const QString& text) override { m_dialog.setLabelText(text); }
     void setTotal(int total) override { m_dialog.setMaximum(total); }
     void setPos(int pos) override { m_dialog.setValue(pos); }
@@ -30,8 +32,11 @@ public:
     }
 
 private:
+    GuiInteraction& m_owner;
     QProgressDialog m_dialog;
 };
+
+namespace {
 
 GuiInteraction::MessageFormatter& Formatter()
 {
@@ -51,6 +56,15 @@ QString Formatted(const QString& text)
 }
 
 } // namespace
+
+QWidget* GuiInteraction::topWindow() const
+{
+    for (auto it = m_progressWindows.crbegin(); it != m_progressWindows.crend(); ++it) {
+        if (*it)
+            return *it;
+    }
+    return m_parent;
+}
 
 void GuiInteraction::setMessageFormatter(MessageFormatter formatter)
 {
@@ -74,20 +88,20 @@ void GuiInteraction::message(MessageKind kind, const QString& text)
     const QString title = ProgramName();
     switch (kind) {
     case MessageKind::Info:
-        QMessageBox::information(m_parent, title, Formatted(text));
+        QMessageBox::information(topWindow(), title, Formatted(text));
         break;
     case MessageKind::Exclamation:
-        QMessageBox::warning(m_parent, title, Formatted(text));
+        QMessageBox::warning(topWindow(), title, Formatted(text));
         break;
     case MessageKind::Error:
-        QMessageBox::critical(m_parent, title, Formatted(text));
+        QMessageBox::critical(topWindow(), title, Formatted(text));
         break;
     }
 }
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(m_parent, ProgramName(), Formatted(text),
+    return QMessageBox::question(topWindow(), ProgramName(), Formatted(text),
                                  QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
@@ -95,7 +109,7 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
                                             const QString& second, const QString& third)
 {
     QMessageBox box(QMessageBox::Question, ProgramName(), Formatted(text), QMessageBox::NoButton,
-                    m_parent);
+                    topWindow());
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);
@@ -110,8 +124,8 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
 bool GuiInteraction::sqlError(const QString& error, const QString& statement)
 {
     if (ErrorDialog())
-        return ErrorDialog()(error, statement, m_parent);
-    QMessageBox::critical(m_parent, ProgramName(),
+        return ErrorDialog()(error, statement, topWindow());
+    QMessageBox::critical(topWindow(), ProgramName(),
                           QString(error + u'\n' + statement).toHtmlEscaped());
     return false;
 }
@@ -121,7 +135,7 @@ std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,
                                                       const QString& checkCaption,
                                                       const QStringList& items)
 {
-    CheckItemsDlg dlg(title, itemCaption, checkCaption, items, m_parent);
+    CheckItemsDlg dlg(title, itemCaption, checkCaption, items, topWindow());
     if (dlg.exec() != QDialog::Accepted)
         return std::nullopt;
     return dlg.checked();
@@ -129,5 +143,5 @@ std::optional<QList<bool>> GuiInteraction::checkItems(const QString& title,
 
 std::unique_ptr<Progress> GuiInteraction::progress(const QString& text)
 {
-    return std::make_unique<DialogProgress>(text, m_parent);
+    return std::make_unique<DialogProgress>(text, *this);
 }

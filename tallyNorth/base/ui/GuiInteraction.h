@@ -3,9 +3,11 @@
 
 #include "base/Interaction.h"
 
-#include <functional>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
 
-class QWidget;
+#include <functional>
 
 class GuiInteraction : public Interaction
 {
@@ -32,6 +34,13 @@ public:
     // The message as a message box shows it.
     static QString formatMessage(const QString& text);
 
+    // The window a message, question or dialog is shown over: the newest progress window while
+    // one is open (a modal progress window would otherwise cover it and take its clicks).
+    QWidget* topWindow() const;
+
 private:
+    friend class DialogProgress;
+
     QWidget* m_parent;
+    QList<QPointer<QWidget>> m_progressWindows;
 };

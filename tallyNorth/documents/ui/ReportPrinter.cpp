@@ -46,7 +46,7 @@ std::unique_ptr<QPrintPreviewDialog> MakeReportPreview(const Report& report, QPr
     dialog->setWindowTitle(
         title.isEmpty() ? QCoreApplication::translate("ReportPrinter", "Print Preview") : title);
     QObject::connect(dialog.get(), &QPrintPreviewDialog::paintRequested,
-                     [&report](QPrinter* p) { report.print(*p); });
+                     [&report](QPrinter* p) { (void)report.print(*p); });
     return dialog;
 }
 

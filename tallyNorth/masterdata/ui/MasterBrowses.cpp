@@ -323,7 +323,7 @@ const BrowseInfo& PartnerBrowse()
                 QT_TRANSLATE_NOOP(
                     "PartnerTable",
                     "There are more matching partners then displayed. Try more specific filter.")},
-        .beforeLoad = [] { PaymentMethodStore().names(PaymentMethodNames()); },
+        .beforeLoad = [] { (void)PaymentMethodStore().names(PaymentMethodNames()); },
     };
     return info;
 }
@@ -382,7 +382,7 @@ ListTab* CreateMasterTab(MasterTable table, QWidget* parent)
 
 void FillMasterCombo(QComboBox* combo, MasterTable table, bool allowEmpty)
 {
-    FillCombo(combo, *MasterBrowseInfo(table).store, allowEmpty);
+    (void)FillCombo(combo, *MasterBrowseInfo(table).store, allowEmpty);
 }
 
 void LinkChooser(QPushButton* button, QComboBox* combo, MasterTable table, bool allowEmpty)

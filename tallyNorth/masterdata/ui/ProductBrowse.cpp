@@ -22,7 +22,7 @@ CurrencyPrices& ListPrices()
 void LoadListPrices()
 {
     if (const std::optional<qint64> currency = ListPriceCurrency())
-        ListPrices().load(*currency);
+        (void)ListPrices().load(*currency);
     else
         ListPrices() = CurrencyPrices();
 }

@@ -25,7 +25,7 @@ ProductEdit::ProductEdit(std::optional<qint64> id, QWidget* parent)
                     {{"ProductEdit", QT_TRANSLATE_NOOP("ProductEdit", "Product Name Translations")},
                      {"ProductEdit", QT_TRANSLATE_NOOP("ProductEdit", "Comment Translations")},
                      {"ProductEdit", QT_TRANSLATE_NOOP("ProductEdit", "Unit Translations")}});
-    m_prices->loadCurrencies();
+    (void)m_prices->loadCurrencies();
     m_ui->m_prices->setModel(m_prices);
     m_ui->m_prices->verticalHeader()->hide();
     m_ui->m_prices->horizontalHeader()->setStretchLastSection(true);

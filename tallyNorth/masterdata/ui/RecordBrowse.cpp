@@ -151,7 +151,7 @@ void RecordBrowse::selectId(qint64 id)
 void RecordBrowse::newRow()
 {
     if (const std::optional<qint64> id = m_info.edit(this, std::nullopt, {})) {
-        reload();
+        (void)reload();
         selectId(*id);
     }
 }
@@ -165,7 +165,7 @@ void RecordBrowse::editRow()
     }
     // A row deleted meanwhile is reported by the dialog and drops out of the list here.
     m_info.edit(this, id, {});
-    reload();
+    (void)reload();
 }
 
 void RecordBrowse::deleteRow()
@@ -183,7 +183,7 @@ void RecordBrowse::deleteRow()
         return;
     if (const Result r = m_info.store->remove(*id); !r)
         interaction().error(r.message());
-    reload();
+    (void)reload();
 }
 
 void RecordBrowse::choose()

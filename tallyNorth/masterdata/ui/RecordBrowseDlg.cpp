@@ -15,7 +15,7 @@ RecordBrowseDlg::RecordBrowseDlg(const BrowseInfo& info, RecordBrowse::Mode mode
         m_chosen = id;
         accept();
     });
-    m_browse->reload();
+    (void)m_browse->reload();
 }
 
 RecordBrowseTab::RecordBrowseTab(const BrowseInfo& info, QWidget* parent)

@@ -28,7 +28,7 @@ class RecordBrowseTab : public ListTab
 public:
     RecordBrowseTab(const BrowseInfo& info, QWidget* parent = nullptr);
 
-    void reload() override { m_browse->reload(); }
+    void reload() override { (void)m_browse->reload(); }
     RecordBrowse* browse() const { return m_browse; }
 
 private:

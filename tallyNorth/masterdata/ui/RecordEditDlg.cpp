@@ -53,7 +53,7 @@ void RecordEditDlg::bindFields(TrText addTitle, TrText editTitle, bool nameInEdi
 void RecordEditDlg::addTranslations(QTableView* view, QList<TrText> headers)
 {
     m_translations = new TranslationModel(m_store.info().children.at(0), std::move(headers), this);
-    m_translations->loadLanguages();
+    (void)m_translations->loadLanguages();
     view->setModel(m_translations);
     view->verticalHeader()->hide();
     // The language keeps its width; the texts share the rest, so none is squeezed to a stub.

@@ -58,7 +58,7 @@ void RecordFinder::search()
     prepareSearch();
     const qint64 limit = Setup::current().integer(Col::SETUP_RECORD_LIMIT);
     RecordPage page;
-    m_store.list(page, {typed, limit > 0 ? static_cast<int>(limit) : kDefaultLimit});
+    (void)m_store.list(page, {typed, limit > 0 ? static_cast<int>(limit) : kDefaultLimit});
     m_model->setRows(page.rows);
     if (page.rows.isEmpty()) {
         m_completer->popup()->hide();
@@ -119,5 +119,5 @@ void ProductFinder::setCurrency(qint64 currencyId)
 
 void ProductFinder::prepareSearch()
 {
-    m_prices->load(m_currencyId);
+    (void)m_prices->load(m_currencyId);
 }

@@ -1,0 +1,285 @@
+// A company file is never lost or silently corrupted: transactions whose commit fails, files that
+// are not what they claim to be, and what an interrupted restore or upgrade leaves behind.
+#include "OldCompanyFile.h"
+#include "ScriptedInteraction.h"
+#include "TestCompany.h"
+#include "TestData.h"
+
+#include "app/Backup.h"
+#include "app/CompanyChoice.h"
+#include "app/CompanyFile.h"
+#include "app/DatabasePrepare.h"
+#include "app/ScopedConnection.h"
+#include "base/Database.h"
+#include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
+
+#include <QSqlQuery>
+#include <QtTest>
+
+namespace {
+
+bool WriteFile(const QString& path, const QByteArray& data)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly) && f.write(data) == data.size();
+}
+
+// Kinds of files found where a company file was expected.
+bool MakeFile(const QString& kind, const QString& path, const QString& company)
+{
+    if (kind == "text")
+        return WriteFile(path, "CREATE TABLE is not what this file holds\n");
+    if (kind == "truncated")
+        return WriteFile(path, FileBytes(company).left(FileBytes(company).size() / 2));
+    if (kind == "newer" || kind == "company") {
+        if (!QFile::copy(company, path))
+            return false;
+        if (kind == "company")
+            return true;
+        ScopedConnection c(path, ScopedConnection::Mode::ReadWrite);
+        return QSqlQuery(c.db()).exec("update DBVERSION set VERSION = 303");
+    }
+    ScopedConnection c(path, ScopedConnection::Mode::ReadWrite);
+    if (kind == "sqlite without tables")
+        return QSqlQuery(c.db()).exec("pragma user_version = 7");
+    return QSqlQuery(c.db()).exec("create table NOTES (ID integer, TEXT text)"); // "foreign"
+}
+
+QString MarkersOf(const QString& path)
+{
+    ScopedConnection c(path, ScopedConnection::Mode::ReadOnly);
+    SqlStatement st("select STATNO_NAME from STATNO order by STATNO_ID", {}, c.db());
+    QStringList names;
+    if (!st.exec())
+        return "<" + st.errorText() + ">";
+    while (st.next())
+        names << st.value(0).toString();
+    return names.join("; ");
+}
+
+} // namespace
+
+class TestFileSafety : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_company.reset(); }
+    void failedCommitIsRolledBack();
+    void savepointsNest();
+    void openingRefuses_data();
+    void openingRefuses();
+    void lockedFileIsInUseNotNew();
+    void readOnlyFileKeepsItsMode();
+    void restoreRefuses_data();
+    void restoreRefuses();
+    void backupIsASnapshot();
+    void interruptedRestoreIsPutBack();
+    void interruptedUpgradeKeepsItsOriginal_data();
+    void interruptedUpgradeKeepsItsOriginal();
+
+private:
+    QString path() const { return m_company->path(); }
+    std::optional<TestCompany> m_company;
+    ScriptedInteraction m_ui;
+};
+
+void TestFileSafety::init()
+{
+    m_company.emplace();
+    QVERIFY(m_company->isValid());
+    QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('own')"));
+    m_ui = {};
+}
+
+// A reader's lock outlasting the busy time-out makes COMMIT fail: the rows must not stay in an
+// open transaction that every later one takes for its outer one.
+void TestFileSafety::failedCommitIsRolledBack()
+{
+    ScopedConnection reader(path(), ScopedConnection::Mode::ReadOnly);
+    QSqlQuery read(reader.db());
+    QVERIFY(read.exec("begin"));
+    QVERIFY(read.exec("select count(*) from STATNO") && read.next());
+    {
+        SqlTransaction t;
+        QVERIFY(t.active());
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('lost')"));
+        QVERIFY(!t.commit());
+        QVERIFY(!t.errorText().isEmpty());
+    }
+    QCOMPARE(SqlTransaction::depth(), 0);
+    read.finish();
+    QVERIFY(read.exec("commit"));
+    {
+        SqlTransaction t;
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('kept')"));
+        QVERIFY(t.commit());
+    }
+    Database::close();
+    QCOMPARE(MarkersOf(path()), "own; kept");
+}
+
+void TestFileSafety::savepointsNest()
+{
+    SqlTransaction outer;
+    QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('outer')"));
+    {
+        SqlTransaction inner;
+        QVERIFY(inner.active() && inner.nested());
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('inner rolled back')"));
+    }
+    {
+        SqlTransaction inner;
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('inner')"));
+        QVERIFY(inner.commit());
+    }
+    QVERIFY(outer.commit());
+    QCOMPARE(SqlTransaction::depth(), 0);
+    QCOMPARE(QueryText("select STATNO_NAME from STATNO order by STATNO_ID"), "own; outer; inner");
+}
+
+void TestFileSafety::openingRefuses_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("message");
+    AddRow("foreign SQLite file", "foreign", "The file is not a company database:&%1");
+    AddRow("text file", "text", "The file is not a company database:&%1");
+    AddRow("truncated company", "truncated", "The company database file is damaged:&%1");
+    AddRow("newer version", "newer",
+           "The database version is newer, than the version of the billing software.&Upgrade "
+           "the software to a newer version.");
+}
+
+// Refused with a message naming the file, and nothing written to it.
+void TestFileSafety::openingRefuses()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, message);
+    Database::close();
+    const QString file = m_company->dir() + "/other.db";
+    QVERIFY(MakeFile(kind, file, path()));
+    const QByteArray before = FileBytes(file);
+    QVERIFY(!OpenCompany(file, m_ui));
+    QCOMPARE(m_ui.lastMessage(), message.arg(file));
+    QVERIFY(m_ui.sqlErrors.isEmpty());
+    QVERIFY(!Database::isOpen());
+    QCOMPARE(FileBytes(file), before);
+    QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(file)));
+}
+
+// A lock held by another connection was read as "no schema" and ended in a CREATE TABLE error.
+void TestFileSafety::lockedFileIsInUseNotNew()
+{
+    Database::close();
+    qputenv("TALLYNORTH_LOCK_WAIT_MS", "0");
+    ScopedConnection other(path(), ScopedConnection::Mode::ReadWrite);
+    QVERIFY(QSqlQuery(other.db()).exec("begin exclusive"));
+    QVERIFY(!OpenCompany(path(), m_ui));
+    QVERIFY2(m_ui.lastMessage().startsWith("The company database file is in use by another"),
+             qPrintable(m_ui.lastMessage()));
+    QVERIFY(m_ui.sqlErrors.isEmpty());
+    QVERIFY(QSqlQuery(other.db()).exec("rollback"));
+    QVERIFY(OpenCompany(path(), m_ui));
+    qunsetenv("TALLYNORTH_LOCK_WAIT_MS");
+}
+
+void TestFileSafety::readOnlyFileKeepsItsMode()
+{
+    Database::close();
+    const auto mode = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    QVERIFY(QFile::setPermissions(path(), mode));
+    QVERIFY(!OpenCompany(path(), m_ui));
+    QCOMPARE(m_ui.lastMessage(), "The company file is read-only:&" + path());
+    QCOMPARE(QFile::permissions(path()) & 0x7077, mode);
+}
+
+void TestFileSafety::restoreRefuses_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("message");
+    AddRow("foreign SQLite file", "foreign", "The file is not a company database:&%1");
+    AddRow("SQLite file without tables", "sqlite without tables",
+           "The file is not a company database:&%1");
+    AddRow("truncated backup", "truncated", "The company database file is damaged:&%1");
+    AddRow("newer version", "newer",
+           "The database version is newer, than the version of the billing software.&Upgrade "
+           "the software to a newer version.");
+}
+
+// Only a complete company database replaces the company's; its own file stays, in use.
+void TestFileSafety::restoreRefuses()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, message);
+    QTemporaryDir folder;
+    const QString backup = folder.filePath("company.dbk");
+    QVERIFY(MakeFile(kind, backup, path()));
+    const QByteArray before = FileBytes(path());
+    QVERIFY(!RestoreBackup(path(), backup, m_ui));
+    QCOMPARE(m_ui.lastMessage(), message.arg(backup));
+    QVERIFY(Database::isOpen());
+    QCOMPARE(FileBytes(path()), before);
+    QVERIFY(!QFile::exists(RestoreAsidePath(path())));
+    QCOMPARE(QDir(m_company->dir()).entryList({"*.tmp"}, QDir::Files), {});
+}
+
+// Another connection's uncommitted write is not in the backup, and the backup passes its check.
+void TestFileSafety::backupIsASnapshot()
+{
+    ScopedConnection writer(path(), ScopedConnection::Mode::ReadWrite);
+    QSqlQuery write(writer.db());
+    QVERIFY(write.exec("begin immediate"));
+    QVERIFY(write.exec("insert into STATNO (STATNO_NAME) values ('uncommitted')"));
+    QTemporaryDir folder;
+    const QString backup = folder.filePath("company.dbk");
+    QVERIFY(DoBackup(path(), backup, m_ui));
+    QVERIFY(write.exec("commit"));
+    QCOMPARE(MarkersOf(backup), "own");
+    QVERIFY(CompanyFile::checkRestorable(backup));
+}
+
+// A restore that died after moving the file aside (an older program's way) left no company file.
+void TestFileSafety::interruptedRestoreIsPutBack()
+{
+    Database::close();
+    const QString aside = RestoreAsidePath(path());
+    QVERIFY(QFile::rename(path(), aside));
+    const QString chosen = ChooseStartupDatabase(
+        {}, m_company->dir(), m_ui, [](const auto&) { return std::optional<QString>(); });
+    QCOMPARE(chosen, path());
+    QVERIFY(m_ui.lastMessage().startsWith("A restore of the company file was interrupted."));
+    QVERIFY(!QFile::exists(aside));
+    QCOMPARE(MarkersOf(path()), "own");
+}
+
+void TestFileSafety::interruptedUpgradeKeepsItsOriginal_data()
+{
+    QTest::addColumn<bool>("interrupted");
+    AddRow("copy of an interrupted run is the original", true);
+    AddRow("copy of an earlier finished upgrade is replaced", false);
+}
+
+// A killed upgrade must not let the next start take the file it finds for the original.
+void TestFileSafety::interruptedUpgradeKeepsItsOriginal()
+{
+    QFETCH(bool, interrupted);
+    Database::close();
+    QVERIFY(QFile::remove(path()));
+    QVERIFY(OldCompanyFile{3}.build(path()));
+    const QString copy = DatabasePrepare::safetyCopyPath(path());
+    QVERIFY(OldCompanyFile{-1}.build(copy));
+    if (interrupted)
+        QVERIFY(WriteFile(DatabasePrepare::upgradeMarkerPath(path()), "x"));
+    const QByteArray original = FileBytes(interrupted ? copy : path());
+    QVERIFY(Database::open(path()));
+    DatabasePrepare prepare(m_ui);
+    prepare.setFailingStep(5);
+    m_ui.checkAnswers.enqueue(QList<bool>{false, false, false});
+    QVERIFY(!prepare.run());
+    QCOMPARE(FileBytes(path()), original);
+    QVERIFY(!QFile::exists(DatabasePrepare::upgradeMarkerPath(path())));
+}
+
+QTEST_GUILESS_MAIN(TestFileSafety)
+#include "tst_filesafety.moc"
