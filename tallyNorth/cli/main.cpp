@@ -3,6 +3,7 @@
 #include "Cli.h"
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
+#include "InvoiceCommands.h"
 #include "OrderCommands.h"
 #include "ShellCommands.h"
 
@@ -45,6 +46,12 @@ const CliCommand kCommands[] = {
      "orders [--kind N] [--from D --to D --date shipped|created|due] [--partner TEXT] "
      "[--format txt|csv]",
      RunOrdersCommand},
+    {"issue", "issue ORDER_ID [--pdf FILE] [--copies N]", RunIssueCommand},
+    {"print", "print INVOICE_NO_STR --pdf FILE [--copies N]", RunPrintCommand},
+    {"cancel",
+     "cancel INVOICE_NO_STR [--pdf FILE] [--copies N] [--shipped D] [--due D] [--payment ID]",
+     RunCancelCommand},
+    {"sample", "sample --pdf FILE", RunSampleCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
@@ -90,8 +97,8 @@ int main(int argc, char* argv[])
     // Without a desktop session Qt warns on every run that it picks a runtime folder itself;
     // pick it here, quietly, so standard error carries only the program's messages.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-"
-            + QByteArray::number(qulonglong(getuid()));
+        const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/runtime-tallynorth-" +
+                               QByteArray::number(qulonglong(getuid()));
         if (QDir().mkpath(QString::fromLocal8Bit(dir)))
             QFile::setPermissions(QString::fromLocal8Bit(dir),
                                   QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
