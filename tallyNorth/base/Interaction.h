@@ -42,6 +42,9 @@ public:
                                                   const QString& checkCaption,
                                                   const QStringList& items) = 0;
     virtual std::unique_ptr<Progress> progress(const QString& text) = 0;
+    // A whole number with its proposed value (the copies to print); nothing when cancelled.
+    // Without a person to ask, the proposal stands.
+    virtual std::optional<int> askNumber(const QString& /*title*/, int value) { return value; }
 
     void info(const QString& text) { message(MessageKind::Info, text); }
     void exclamation(const QString& text) { message(MessageKind::Exclamation, text); }

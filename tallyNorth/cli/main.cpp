@@ -3,6 +3,7 @@
 #include "Cli.h"
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
+#include "InvoiceCommands.h"
 #include "OrderCommands.h"
 #include "ShellCommands.h"
 
@@ -46,6 +47,12 @@ const CliCommand kCommands[] = {
      "orders [--kind N] [--from D --to D --date shipped|created|due] [--partner TEXT] "
      "[--format txt|csv]",
      RunOrdersCommand},
+    {"issue", "issue ORDER_ID [--pdf FILE] [--copies N]", RunIssueCommand},
+    {"print", "print INVOICE_NO_STR --pdf FILE [--copies N]", RunPrintCommand},
+    {"cancel",
+     "cancel INVOICE_NO_STR [--pdf FILE] [--copies N] [--shipped D] [--due D] [--payment ID]",
+     RunCancelCommand},
+    {"sample", "sample --pdf FILE", RunSampleCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

@@ -2130,4 +2130,156 @@ Folytatja?</translation>
         <translation>Hiányzó SQL-parancsfájl.</translation>
     </message>
 </context>
+    <context>
+        <name>InvoiceNumbering</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Maybe an other user changed this order.</source>
+            <translation>Lehet, hogy egy másik felhasználó módosította ezt a rendelést.</translation>
+        </message>
+        <message>
+            <source>Printing date of invoice No. %s is in the future.&amp;Printing this invoice with No. %s would be against the law.</source>
+            <translation>A(z) %s sorszámú számla kelte a jövőben van.&amp;Ennek a számlának a kinyomtatása %s sorszámmal törvénybe ütközne.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Cancelled invoice can not be cancelled.</source>
+            <translation>Sztornózott számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>The invoice of this order is missing from the database.</source>
+            <translation>A rendelés számlája hiányzik az adatbázisból.</translation>
+        </message>
+        <message>
+            <source>There is no invoice with No. %s.</source>
+            <translation>Nincs %s sorszámú számla.</translation>
+        </message>
+    </context>
+    <context>
+        <name>CancelInvoice</name>
+        <message>
+            <source>Can't create Cancel Invoice.</source>
+            <translation>A sztornó számlát nem sikerült létrehozni.</translation>
+        </message>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Only an issued invoice can be cancelled.</source>
+            <translation>Csak kiállított számla sztornózható.</translation>
+        </message>
+        <message>
+            <source>Cancelled invoice can not be cancelled.</source>
+            <translation>Sztornózott számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>A cancelling invoice can not be cancelled.</source>
+            <translation>Sztornó számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>This invoice already has a cancelling invoice waiting to be printed.</source>
+            <translation>Ennek a számlának már van nyomtatásra váró sztornó számlája.</translation>
+        </message>
+        <message>
+            <source>Unable to create cancel invoice in database.</source>
+            <translation>A sztornó számlát nem sikerült létrehozni az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>Unable to create items of cancel invoice in database.</source>
+            <translation>A sztornó számla tételeit nem sikerült létrehozni az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>This is the cancel invoice of No %s</source>
+            <translation>Ez a(z) %s sorszámú számla sztornó számlája</translation>
+        </message>
+    </context>
+    <context>
+        <name>InvoiceRender</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>By Items</source>
+            <translation>Tételenként</translation>
+        </message>
+        <message>
+            <source>This is an invoice sample. You can not get VAT back on this.</source>
+            <translation>Ez egy számlaminta. Az ÁFA nem igényelhető vissza rá.</translation>
+        </message>
+        <message>
+            <source>The comment of the invoice is printed here: the payment terms, a word of thanks.</source>
+            <translation>Itt jelenik meg a számla megjegyzése: a fizetési feltételek, egy köszönő szó.</translation>
+        </message>
+        <message>
+            <source>Current invoice template in setup doesn't support consolidated invoice.&amp;Setup an other template.</source>
+            <translation>A beállított számlasablon nem támogatja a gyűjtőszámlát.&amp;Állítson be másik sablont.</translation>
+        </message>
+        <message>
+            <source>Tetelek nelkuli szamla nem nyomtathato.</source>
+            <translation>Tételek nélküli számla nem nyomtatható.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>The logo set up for invoices is not a picture.&amp;Choose another one in Setup or do not print a logo.</source>
+            <translation>A számlákhoz beállított logó nem kép.&amp;Válasszon másikat a Beállításokban, vagy ne nyomtasson logót.</translation>
+        </message>
+        <message>
+            <source>Original copy</source>
+            <translation>eredeti</translation>
+        </message>
+        <message>
+            <source>Invoice Sample</source>
+            <translation>Számlaminta</translation>
+        </message>
+    </context>
+    <context>
+        <name>InvoiceIssue</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>It is not allowed to print an invoice without items.</source>
+            <translation>Tételek nélküli számlát nem szabad nyomtatni.</translation>
+        </message>
+        <message>
+            <source>Invoice copies to print</source>
+            <translation>Nyomtatandó számlapéldányok</translation>
+        </message>
+        <message>
+            <source>Printing invoices. Please wait.</source>
+            <translation>Számlák nyomtatása. Kérem, várjon.</translation>
+        </message>
+        <message>
+            <source>Invoice template currently set up is not certified.&amp;Change it to a certified one in Setup</source>
+            <translation>A jelenleg beállított számlasablon nem hitelesített.&amp;Cserélje hitelesítettre a Beállításokban</translation>
+        </message>
+        <message>
+            <source>Can't print invoice</source>
+            <translation>A számlát nem sikerült kinyomtatni</translation>
+        </message>
+        <message>
+            <source>Invoice Sample</source>
+            <translation>Számlaminta</translation>
+        </message>
+    </context>
 </TS>
