@@ -1,1764 +1,1942 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="hu_HU">
-    <context>
-        <name>AppCommands</name>
-        <message>
-            <source>Choose one with --db FILE.</source>
-            <translation>Válasszon egyet a --db FILE kapcsolóval.</translation>
-        </message>
-        <message>
-            <source>Demonstration company created: %s</source>
-            <translation>A bemutató cég létrejött: %s</translation>
-        </message>
-    </context>
-    <context>
-        <name>Backup</name>
-        <message>
-            <source>The previous database file is kept here:&amp;%s</source>
-            <translation>Az előző adatbázisfájl itt található:&amp;%s</translation>
-        </message>
-        <message>
-            <source>Backup file saved successfully.</source>
-            <translation>A biztonsági mentés sikeresen elkészült.</translation>
-        </message>
-        <message>
-            <source>Error backing up database file.</source>
-            <translation>Hiba történt az adatbázisfájl biztonsági mentése közben.</translation>
-        </message>
-        <message>
-            <source>The content of current database will be overwritten&amp;by the backup file you select to restore.&amp;Do you want to continue?</source>
-            <translation>A jelenlegi adatbázis tartalmát felülírja&amp;a visszaállításra kiválasztott biztonsági mentés.&amp;Folytatja?</translation>
-        </message>
-        <message>
-            <source>The selected file is not a backup of currently active database/company.</source>
-            <translation>A kiválasztott fájl nem a jelenleg használt adatbázis/cég biztonsági mentése.</translation>
-        </message>
-        <message>
-            <source>Error restoring backup database file.</source>
-            <translation>Hiba történt a biztonsági mentés visszaállítása közben.</translation>
-        </message>
-        <message>
-            <source>Database restored successfully.&amp;Do you want to open it now?</source>
-            <translation>Az adatbázis visszaállítása sikerült.&amp;Megnyitja most?</translation>
-        </message>
-        <message>
-            <source>Unable to open restored database file.</source>
-            <translation>A visszaállított adatbázisfájl nem nyitható meg.</translation>
-        </message>
-        <message>
-            <source>Backup file restored successfully.</source>
-            <translation>A biztonsági mentés visszaállítása sikerült.</translation>
-        </message>
-    </context>
-    <context>
-        <name>CompanyChoice</name>
-        <message>
-            <source>%s does not exists.</source>
-            <translation>%s nem létezik.</translation>
-        </message>
-        <message>
-            <source>Missing database files. Maybe you have to reinstall the application.</source>
-            <translation>Hiányoznak az adatbázisfájlok. Lehet, hogy újra kell telepítenie a programot.</translation>
-        </message>
-        <message>
-            <source>Error: there are no databases.</source>
-            <translation>Hiba: nincsenek adatbázisok.</translation>
-        </message>
-        <message>
-            <source>There is only one database.</source>
-            <translation>Csak egy adatbázis van.</translation>
-        </message>
-        <message>
-            <source>Database/company changed successfully to:&amp;%s</source>
-            <translation>Az adatbázis/cég sikeresen átváltva erre:&amp;%s</translation>
-        </message>
-    </context>
-    <context>
-        <name>CompanyCreate</name>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A Név mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Tax No field must have a value.</source>
-            <translation>Az Adószám mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>The file name must end with ".db", be longer than three characters and must not begin with ".".</source>
-            <translation>A fájlnév ".db" végződésű, háromnál több karakter hosszú legyen, és nem kezdődhet "." karakterrel.</translation>
-        </message>
-        <message>
-            <source>%s already exists.</source>
-            <translation>%s már létezik.</translation>
-        </message>
-        <message>
-            <source>It is not possible to create a new database with an existing tax no.</source>
-            <translation>Már meglévő adószámmal nem hozható létre új adatbázis.</translation>
-        </message>
-    </context>
-    <context>
-        <name>CompanyListModel</name>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Város</translation>
-        </message>
-        <message>
-            <source>Address</source>
-            <translation>Cím</translation>
-        </message>
-        <message>
-            <source>Tax No</source>
-            <translation>Adószám</translation>
-        </message>
-    </context>
-    <context>
-        <name>ConvertOrderType</name>
-        <message>
-            <source>Unverified</source>
-            <translation>Nem ellenőrzött</translation>
-        </message>
-        <message>
-            <source>Unprinted</source>
-            <translation>Nem nyomtatott</translation>
-        </message>
-        <message>
-            <source>Cancelled Invoice (consolidated)</source>
-            <translation>Sztornózott számla (gyűjtő)</translation>
-        </message>
-        <message>
-            <source>Cancelled Invoice</source>
-            <translation>Sztornózott számla</translation>
-        </message>
-        <message>
-            <source>Consolidated Invoice</source>
-            <translation>Gyűjtőszámla</translation>
-        </message>
-        <message>
-            <source>Invoice</source>
-            <translation>Számla</translation>
-        </message>
-        <message>
-            <source>Cancel Invoice (consolidated)</source>
-            <translation>Sztornó számla (gyűjtő)</translation>
-        </message>
-        <message>
-            <source>Cancel Invoice</source>
-            <translation>Sztornó számla</translation>
-        </message>
-    </context>
-    <context>
-        <name>CountryEditLayout</name>
-        <message>
-            <source>Country Name (In English)</source>
-            <translation>Ország neve</translation>
-        </message>
-        <message>
-            <source>International Country Code (e.g. US, DE)</source>
-            <translation>Nemzetközi országkód (pl. US, DE)</translation>
-        </message>
-        <message>
-            <source>Country Name In Mailing Addresses</source>
-            <translation>Ország neve a postai címekben</translation>
-        </message>
-        <message>
-            <source>Second Invoice Language</source>
-            <translation>A számla második nyelve</translation>
-        </message>
-        <message>
-            <source>Languages...</source>
-            <translation>Nyelvek...</translation>
-        </message>
-        <message>
-            <source>Default Currency</source>
-            <translation>Alapértelmezett pénznem</translation>
-        </message>
-        <message>
-            <source>Currencies...</source>
-            <translation>Pénznemek...</translation>
-        </message>
-    </context>
-    <context>
-        <name>CountryTable</name>
-        <message>
-            <source>Country Name field must have a value.</source>
-            <translation>Az ország neve mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>International Country Code field must have a value.</source>
-            <translation>A nemzetközi országkód mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>This country can not be deleted.</source>
-            <translation>Ez az ország nem törölhető.</translation>
-        </message>
-        <message>
-            <source>Add Country</source>
-            <translation>Új ország</translation>
-        </message>
-        <message>
-            <source>Edit Country:</source>
-            <translation>Ország szerkesztése:</translation>
-        </message>
-        <message>
-            <source>Countries</source>
-            <translation>Országok</translation>
-        </message>
-        <message>
-            <source>&amp;New Country</source>
-            <translation>Ú&amp;j ország</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected Country?</source>
-            <translation>Biztosan törli a kijelölt országot?</translation>
-        </message>
-        <message>
-            <source>You have to select a country.</source>
-            <translation>Ki kell választania egy országot.</translation>
-        </message>
-        <message>
-            <source>Country Name</source>
-            <translation>Ország neve</translation>
-        </message>
-        <message>
-            <source>International Code</source>
-            <translation>Nemzetközi kód</translation>
-        </message>
-        <message>
-            <source>Name In Addresses</source>
-            <translation>Név a postai címben</translation>
-        </message>
-    </context>
-    <context>
-        <name>CurrencyEditLayout</name>
-        <message>
-            <source>Currency</source>
-            <translation>Pénznem</translation>
-        </message>
-        <message>
-            <source>Currency Name</source>
-            <translation>Pénznem neve</translation>
-        </message>
-        <message>
-            <source>Abbreviation (e.g. USD, EUR)</source>
-            <translation>Rövidítés (pl. USD, EUR)</translation>
-        </message>
-        <message>
-            <source>Arfolyam (1 %s ennyi HUF)</source>
-            <translation>Árfolyam (1 %s ennyi HUF)</translation>
-        </message>
-        <message>
-            <source>Use default bank account data</source>
-            <translation>A cég alapértelmezett bankszámlájának használata</translation>
-        </message>
-        <message>
-            <source>Bank Name</source>
-            <translation>Bank neve</translation>
-        </message>
-        <message>
-            <source>Bank Account No</source>
-            <translation>Bankszámlaszám</translation>
-        </message>
-        <message>
-            <source>SWIFT</source>
-            <translation>SWIFT</translation>
-        </message>
-        <message>
-            <source>IBAN</source>
-            <translation>IBAN</translation>
-        </message>
-        <message>
-            <source>Rounding</source>
-            <translation>Kerekítés</translation>
-        </message>
-    </context>
-    <context>
-        <name>CurrencyRoundingLayout</name>
-        <message>
-            <source>Round Calculated Unit Price To</source>
-            <translation>Számított egységár kerekítése (tizedesjegy)</translation>
-        </message>
-        <message>
-            <source>Round Line Totals To</source>
-            <translation>Tételösszegek kerekítése (tizedesjegy)</translation>
-        </message>
-        <message>
-            <source>Print Line Totals With</source>
-            <translation>Tételösszegek nyomtatása (tizedesjegy)</translation>
-        </message>
-        <message>
-            <source>Round Invoice Totals To</source>
-            <translation>Számlaösszegek kerekítése (tizedesjegy)</translation>
-        </message>
-        <message>
-            <source>Print Invoice Totals With</source>
-            <translation>Számlaösszegek nyomtatása (tizedesjegy)</translation>
-        </message>
-    </context>
-    <context>
-        <name>CurrencyTable</name>
-        <message>
-            <source>Currency Name field must have a value.</source>
-            <translation>A pénznem neve mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Currency Abbreviation field must have a value.</source>
-            <translation>A pénznem rövidítése mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Exchange Rate field must have a value.</source>
-            <translation>Az árfolyam mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>This currency can not be deleted.</source>
-            <translation>Ez a pénznem nem törölhető.</translation>
-        </message>
-        <message>
-            <source>Add Currency</source>
-            <translation>Új pénznem</translation>
-        </message>
-        <message>
-            <source>Edit Currency:</source>
-            <translation>Pénznem szerkesztése:</translation>
-        </message>
-        <message>
-            <source>Currencies</source>
-            <translation>Pénznemek</translation>
-        </message>
-        <message>
-            <source>&amp;New Currency</source>
-            <translation>Ú&amp;j pénznem</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected Currency?</source>
-            <translation>Biztosan törli a kijelölt pénznemet?</translation>
-        </message>
-        <message>
-            <source>You have to select a currency.</source>
-            <translation>Ki kell választania egy pénznemet.</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Abbreviation</source>
-            <translation>Rövidítés</translation>
-        </message>
-        <message>
-            <source>Rate</source>
-            <translation>Árfolyam</translation>
-        </message>
-    </context>
-    <context>
-        <name>Database</name>
-        <message>
-            <source>Missing filename opening database.</source>
-            <translation>Hiányzik az adatbázis fájlneve.</translation>
-        </message>
-        <message>
-            <source>Can't create or open database file:
+<context>
+    <name>AppCommands</name>
+    <message>
+        <source>Choose one with --db FILE.</source>
+        <translation>Válasszon egyet a --db FILE kapcsolóval.</translation>
+    </message>
+    <message>
+        <source>Demonstration company created: %s</source>
+        <translation>A bemutató cég létrejött: %s</translation>
+    </message>
+</context>
+<context>
+    <name>Backup</name>
+    <message>
+        <source>The previous database file is kept here:&amp;%s</source>
+        <translation>Az előző adatbázisfájl itt található:&amp;%s</translation>
+    </message>
+    <message>
+        <source>Backup file saved successfully.</source>
+        <translation>A biztonsági mentés sikeresen elkészült.</translation>
+    </message>
+    <message>
+        <source>Error backing up database file.</source>
+        <translation>Hiba történt az adatbázisfájl biztonsági mentése közben.</translation>
+    </message>
+    <message>
+        <source>The content of current database will be overwritten&amp;by the backup file you select to restore.&amp;Do you want to continue?</source>
+        <translation>A jelenlegi adatbázis tartalmát felülírja&amp;a visszaállításra kiválasztott biztonsági mentés.&amp;Folytatja?</translation>
+    </message>
+    <message>
+        <source>The selected file is not a backup of currently active database/company.</source>
+        <translation>A kiválasztott fájl nem a jelenleg használt adatbázis/cég biztonsági mentése.</translation>
+    </message>
+    <message>
+        <source>Error restoring backup database file.</source>
+        <translation>Hiba történt a biztonsági mentés visszaállítása közben.</translation>
+    </message>
+    <message>
+        <source>Database restored successfully.&amp;Do you want to open it now?</source>
+        <translation>Az adatbázis visszaállítása sikerült.&amp;Megnyitja most?</translation>
+    </message>
+    <message>
+        <source>Unable to open restored database file.</source>
+        <translation>A visszaállított adatbázisfájl nem nyitható meg.</translation>
+    </message>
+    <message>
+        <source>Backup file restored successfully.</source>
+        <translation>A biztonsági mentés visszaállítása sikerült.</translation>
+    </message>
+</context>
+<context>
+    <name>CompanyChoice</name>
+    <message>
+        <source>%s does not exists.</source>
+        <translation>%s nem létezik.</translation>
+    </message>
+    <message>
+        <source>Missing database files. Maybe you have to reinstall the application.</source>
+        <translation>Hiányoznak az adatbázisfájlok. Lehet, hogy újra kell telepítenie a programot.</translation>
+    </message>
+    <message>
+        <source>Error: there are no databases.</source>
+        <translation>Hiba: nincsenek adatbázisok.</translation>
+    </message>
+    <message>
+        <source>There is only one database.</source>
+        <translation>Csak egy adatbázis van.</translation>
+    </message>
+    <message>
+        <source>Database/company changed successfully to:&amp;%s</source>
+        <translation>Az adatbázis/cég sikeresen átváltva erre:&amp;%s</translation>
+    </message>
+</context>
+<context>
+    <name>CompanyCreate</name>
+    <message>
+        <source>Name field must have a value.</source>
+        <translation>A Név mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Tax No field must have a value.</source>
+        <translation>Az Adószám mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>The file name must end with &quot;.db&quot;, be longer than three characters and must not begin with &quot;.&quot;.</source>
+        <translation>A fájlnév &quot;.db&quot; végződésű, háromnál több karakter hosszú legyen, és nem kezdődhet &quot;.&quot; karakterrel.</translation>
+    </message>
+    <message>
+        <source>%s already exists.</source>
+        <translation>%s már létezik.</translation>
+    </message>
+    <message>
+        <source>It is not possible to create a new database with an existing tax no.</source>
+        <translation>Már meglévő adószámmal nem hozható létre új adatbázis.</translation>
+    </message>
+</context>
+<context>
+    <name>CompanyListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
+        <source>ZIP</source>
+        <translation>Irányítószám</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Város</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Cím</translation>
+    </message>
+    <message>
+        <source>Tax No</source>
+        <translation>Adószám</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertOrderType</name>
+    <message>
+        <source>Unverified</source>
+        <translation>Nem ellenőrzött</translation>
+    </message>
+    <message>
+        <source>Unprinted</source>
+        <translation>Nem nyomtatott</translation>
+    </message>
+    <message>
+        <source>Cancelled Invoice (consolidated)</source>
+        <translation>Sztornózott számla (gyűjtő)</translation>
+    </message>
+    <message>
+        <source>Cancelled Invoice</source>
+        <translation>Sztornózott számla</translation>
+    </message>
+    <message>
+        <source>Consolidated Invoice</source>
+        <translation>Gyűjtőszámla</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Számla</translation>
+    </message>
+    <message>
+        <source>Cancel Invoice (consolidated)</source>
+        <translation>Sztornó számla (gyűjtő)</translation>
+    </message>
+    <message>
+        <source>Cancel Invoice</source>
+        <translation>Sztornó számla</translation>
+    </message>
+</context>
+<context>
+    <name>CountryEditLayout</name>
+    <message>
+        <source>Country Name (In English)</source>
+        <translation>Ország neve</translation>
+    </message>
+    <message>
+        <source>International Country Code (e.g. US, DE)</source>
+        <translation>Nemzetközi országkód (pl. US, DE)</translation>
+    </message>
+    <message>
+        <source>Country Name In Mailing Addresses</source>
+        <translation>Ország neve a postai címekben</translation>
+    </message>
+    <message>
+        <source>Second Invoice Language</source>
+        <translation>A számla második nyelve</translation>
+    </message>
+    <message>
+        <source>Languages...</source>
+        <translation>Nyelvek...</translation>
+    </message>
+    <message>
+        <source>Default Currency</source>
+        <translation>Alapértelmezett pénznem</translation>
+    </message>
+    <message>
+        <source>Currencies...</source>
+        <translation>Pénznemek...</translation>
+    </message>
+</context>
+<context>
+    <name>CountryTable</name>
+    <message>
+        <source>Country Name field must have a value.</source>
+        <translation>Az ország neve mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>International Country Code field must have a value.</source>
+        <translation>A nemzetközi országkód mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>This country can not be deleted.</source>
+        <translation>Ez az ország nem törölhető.</translation>
+    </message>
+    <message>
+        <source>Add Country</source>
+        <translation>Új ország</translation>
+    </message>
+    <message>
+        <source>Edit Country:</source>
+        <translation>Ország szerkesztése:</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Országok</translation>
+    </message>
+    <message>
+        <source>&amp;New Country</source>
+        <translation>Ú&amp;j ország</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected Country?</source>
+        <translation>Biztosan törli a kijelölt országot?</translation>
+    </message>
+    <message>
+        <source>You have to select a country.</source>
+        <translation>Ki kell választania egy országot.</translation>
+    </message>
+    <message>
+        <source>Country Name</source>
+        <translation>Ország neve</translation>
+    </message>
+    <message>
+        <source>International Code</source>
+        <translation>Nemzetközi kód</translation>
+    </message>
+    <message>
+        <source>Name In Addresses</source>
+        <translation>Név a postai címben</translation>
+    </message>
+    <message numerus="yes">
+        <source>This country is used by %n partner(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This country is the mailing country of %n partner(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This country is used by %n order(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This country is the default of the settings.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CurrencyEditLayout</name>
+    <message>
+        <source>Currency</source>
+        <translation>Pénznem</translation>
+    </message>
+    <message>
+        <source>Currency Name</source>
+        <translation>Pénznem neve</translation>
+    </message>
+    <message>
+        <source>Abbreviation (e.g. USD, EUR)</source>
+        <translation>Rövidítés (pl. USD, EUR)</translation>
+    </message>
+    <message>
+        <source>Arfolyam (1 %s ennyi HUF)</source>
+        <translation>Árfolyam (1 %s ennyi HUF)</translation>
+    </message>
+    <message>
+        <source>Use default bank account data</source>
+        <translation>A cég alapértelmezett bankszámlájának használata</translation>
+    </message>
+    <message>
+        <source>Bank Name</source>
+        <translation>Bank neve</translation>
+    </message>
+    <message>
+        <source>Bank Account No</source>
+        <translation>Bankszámlaszám</translation>
+    </message>
+    <message>
+        <source>SWIFT</source>
+        <translation>SWIFT</translation>
+    </message>
+    <message>
+        <source>IBAN</source>
+        <translation>IBAN</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>Kerekítés</translation>
+    </message>
+</context>
+<context>
+    <name>CurrencyRoundingLayout</name>
+    <message>
+        <source>Round Calculated Unit Price To</source>
+        <translation>Számított egységár kerekítése (tizedesjegy)</translation>
+    </message>
+    <message>
+        <source>Round Line Totals To</source>
+        <translation>Tételösszegek kerekítése (tizedesjegy)</translation>
+    </message>
+    <message>
+        <source>Print Line Totals With</source>
+        <translation>Tételösszegek nyomtatása (tizedesjegy)</translation>
+    </message>
+    <message>
+        <source>Round Invoice Totals To</source>
+        <translation>Számlaösszegek kerekítése (tizedesjegy)</translation>
+    </message>
+    <message>
+        <source>Print Invoice Totals With</source>
+        <translation>Számlaösszegek nyomtatása (tizedesjegy)</translation>
+    </message>
+</context>
+<context>
+    <name>CurrencyTable</name>
+    <message>
+        <source>Currency Name field must have a value.</source>
+        <translation>A pénznem neve mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Currency Abbreviation field must have a value.</source>
+        <translation>A pénznem rövidítése mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Exchange Rate field must have a value.</source>
+        <translation>Az árfolyam mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>This currency can not be deleted.</source>
+        <translation>Ez a pénznem nem törölhető.</translation>
+    </message>
+    <message>
+        <source>Add Currency</source>
+        <translation>Új pénznem</translation>
+    </message>
+    <message>
+        <source>Edit Currency:</source>
+        <translation>Pénznem szerkesztése:</translation>
+    </message>
+    <message>
+        <source>Currencies</source>
+        <translation>Pénznemek</translation>
+    </message>
+    <message>
+        <source>&amp;New Currency</source>
+        <translation>Ú&amp;j pénznem</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected Currency?</source>
+        <translation>Biztosan törli a kijelölt pénznemet?</translation>
+    </message>
+    <message>
+        <source>You have to select a currency.</source>
+        <translation>Ki kell választania egy pénznemet.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Rövidítés</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Árfolyam</translation>
+    </message>
+    <message numerus="yes">
+        <source>This currency is used by %n partner(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This currency is used by %n country(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This currency is used by %n product price(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This currency is used by %n order(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This currency is the default of the settings.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Database</name>
+    <message>
+        <source>Missing filename opening database.</source>
+        <translation>Hiányzik az adatbázis fájlneve.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t create or open database file:
 %s</source>
-            <translation>Az adatbázisfájl nem hozható létre, vagy nem nyitható meg:
+        <translation>Az adatbázisfájl nem hozható létre, vagy nem nyitható meg:
 %s</translation>
-        </message>
-    </context>
-    <context>
-        <name>DatabasePrepare</name>
-        <message>
-            <source>The database version is newer, than the version of the billing software.&amp;Upgrade the software to a newer version.</source>
-            <translation>Az adatbázis verziója újabb, mint a számlázó programé.&amp;Frissítse a programot újabb verzióra.</translation>
-        </message>
-        <message>
-            <source>Upgrading database.</source>
-            <translation>Adatbázis frissítése.</translation>
-        </message>
-        <message>
-            <source>Error backing up database file before upgrade.</source>
-            <translation>Hiba az adatbázisfájl frissítés előtti biztonsági mentésekor.</translation>
-        </message>
-        <message>
-            <source>Unable to upgrade database.</source>
-            <translation>Az adatbázis nem frissíthető.</translation>
-        </message>
-        <message>
-            <source>Upgrading database aborted.</source>
-            <translation>Az adatbázis frissítése megszakítva.</translation>
-        </message>
-        <message>
-            <source>Error restoring database file after failed upgrade.&amp;The saved original database file is here:&amp;&amp;%s</source>
-            <translation>Hiba az adatbázisfájl visszaállításakor a sikertelen frissítés után.&amp;Az eredeti adatbázisfájl mentett példánya itt található:&amp;&amp;%s</translation>
-        </message>
-        <message>
-            <source>Error upgrading database.&amp;You can uninstall current version of the software&amp;and reinstall the previously used version to continue your work.&amp;&amp;Please report this problem to the developers.</source>
-            <translation>Hiba az adatbázis frissítésekor.&amp;Eltávolíthatja a program jelenlegi verzióját,&amp;és a korábban használt verzió újratelepítésével folytathatja a munkát.&amp;&amp;Kérjük, jelezze a hibát a fejlesztőknek.</translation>
-        </message>
-        <message>
-            <source>Error in finding invoices in database.</source>
-            <translation>Hiba a számlák keresésekor az adatbázisban.</translation>
-        </message>
-        <message>
-            <source>Select Payment Methods To Set Unpaid</source>
-            <translation>Kifizetetlenre állítandó fizetési módok kiválasztása</translation>
-        </message>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Set To Unpaid</source>
-            <translation>Kifizetetlenre állít</translation>
-        </message>
-        <message>
-            <source>Operation aborted.</source>
-            <translation>A művelet megszakítva.</translation>
-        </message>
-        <message>
-            <source>Unable to set paid states.</source>
-            <translation>A fizetettségi állapotok nem állíthatók be.</translation>
-        </message>
-        <message>
-            <source>Unable to load rounding setup.</source>
-            <translation>A kerekítési beállítás nem tölthető be.</translation>
-        </message>
-        <message>
-            <source>Unable to setup rounding.</source>
-            <translation>A kerekítés nem állítható be.</translation>
-        </message>
-    </context>
-    <context>
-        <name>DatabaseSelectLayout</name>
-        <message>
-            <source>Select Database/Company</source>
-            <translation>Adatbázis/cég kiválasztása</translation>
-        </message>
-        <message>
-            <source>Select the database/company you want to use</source>
-            <translation>Válassza ki a használni kívánt adatbázist/céget</translation>
-        </message>
-        <message>
-            <source>New company...</source>
-            <translation>Új cég...</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-        <message>
-            <source>Help</source>
-            <translation>Súgó</translation>
-        </message>
-    </context>
-    <context>
-        <name>DateEdit</name>
-        <message>
-            <source>yyyy.mm.dd.</source>
-            <translation>éééé.hh.nn.</translation>
-        </message>
-        <message>
-            <source>Choose a date from the calendar</source>
-            <translation>Dátum választása a naptárból</translation>
-        </message>
-    </context>
-    <context>
-        <name>DiscountType</name>
-        <message>
-            <source>No discount</source>
-            <translation>Nincs kedvezmény</translation>
-        </message>
-        <message>
-            <source>Percent from List Price</source>
-            <translation>Százalékos kedvezmény a listaárból</translation>
-        </message>
-        <message>
-            <source>Special Price</source>
-            <translation>Egyedi ár</translation>
-        </message>
-    </context>
-    <context>
-        <name>DocumentCommands</name>
-        <message>
-            <source>Unable to read file %s.</source>
-            <translation>Nem sikerült a(z) %s fájlt beolvasni.</translation>
-        </message>
-        <message>
-            <source>Computed digest: %s</source>
-            <translation>Számított ellenőrzőkód: %s</translation>
-        </message>
-        <message>
-            <source>Digest in invoice.cfg: %s</source>
-            <translation>Ellenőrzőkód az invoice.cfg fájlban: %s</translation>
-        </message>
-        <message>
-            <source>Certified: yes</source>
-            <translation>Hitelesített: igen</translation>
-        </message>
-        <message>
-            <source>Certified: no</source>
-            <translation>Hitelesített: nem</translation>
-        </message>
-        <message>
-            <source>Give an existing company database with --db FILE.</source>
-            <translation>Adjon meg egy létező cégadatbázist a --db FÁJL kapcsolóval.</translation>
-        </message>
-        <message>
-            <source>Unable to save data.</source>
-            <translation>Nem sikerült az adatokat menteni.</translation>
-        </message>
-        <message>
-            <source>The template is installed, but it is not certified: invoices can't be printed with it.</source>
-            <translation>A sablon telepítése megtörtént, de nem hitelesített: számlát nem lehet vele nyomtatni.</translation>
-        </message>
-        <message>
-            <source>Template directory %s does not exist.</source>
-            <translation>A(z) %s sablonkönyvtár nem létezik.</translation>
-        </message>
-    </context>
-    <context>
-        <name>FileCommands</name>
-        <message>
-            <source>Database backup files (*.dbk)</source>
-            <translation>Adatbázis biztonsági mentések (*.dbk)</translation>
-        </message>
-        <message>
-            <source>Do backup</source>
-            <translation>Biztonsági mentés készítése</translation>
-        </message>
-        <message>
-            <source>Restore backup</source>
-            <translation>Biztonsági mentés visszaállítása</translation>
-        </message>
-        <message>
-            <source>The new company database has been created.&amp;Do you want to work with it now?</source>
-            <translation>Az új cég adatbázisa elkészült.&amp;Szeretne most ezzel a céggel dolgozni?</translation>
-        </message>
-    </context>
-    <context>
-        <name>GuiInteraction</name>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-    </context>
-    <context>
-        <name>LabelTranslations</name>
-        <message>
-            <source>Unable to load invoice label translations.</source>
-            <translation>Nem sikerült betölteni a számlafeliratok fordításait.</translation>
-        </message>
-    </context>
-    <context>
-        <name>LangEditLayout</name>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-    </context>
-    <context>
-        <name>LangTable</name>
-        <message>
-            <source>Language field must have a value.</source>
-            <translation>A nyelv mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Languages</source>
-            <translation>Nyelvek</translation>
-        </message>
-        <message>
-            <source>&amp;New Language</source>
-            <translation>Ú&amp;j nyelv</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected Language?</source>
-            <translation>Biztosan törli a kijelölt nyelvet?</translation>
-        </message>
-        <message>
-            <source>You have to select a language.</source>
-            <translation>Ki kell választania egy nyelvet.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Add Language</source>
-            <translation>Új nyelv</translation>
-        </message>
-        <message>
-            <source>Edit Language:</source>
-            <translation>Nyelv szerkesztése:</translation>
-        </message>
-    </context>
-    <context>
-        <name>MainWindow</name>
-        <message>
-            <source>This list is not available yet.</source>
-            <translation>Ez a lista még nem érhető el.</translation>
-        </message>
-        <message>
-            <source>File</source>
-            <translation>Fájl</translation>
-        </message>
-        <message>
-            <source>New Order / Invoice...</source>
-            <translation>Új rendelés / számla...</translation>
-        </message>
-        <message>
-            <source>Create new order / invoice</source>
-            <translation>Új rendelés / számla készítése</translation>
-        </message>
-        <message>
-            <source>Setup...</source>
-            <translation>Beállítások...</translation>
-        </message>
-        <message>
-            <source>Setup your company's data and application defaults</source>
-            <translation>A cég adatainak és a program alapbeállításainak megadása</translation>
-        </message>
-        <message>
-            <source>Backup</source>
-            <translation>Biztonsági mentés</translation>
-        </message>
-        <message>
-            <source>Do or restore backup</source>
-            <translation>Biztonsági mentés készítése vagy visszaállítása</translation>
-        </message>
-        <message>
-            <source>Do backup...</source>
-            <translation>Mentés készítése...</translation>
-        </message>
-        <message>
-            <source>Do backup of your database</source>
-            <translation>Biztonsági mentés készítése az adatbázisról</translation>
-        </message>
-        <message>
-            <source>Restore backup...</source>
-            <translation>Mentés visszaállítása...</translation>
-        </message>
-        <message>
-            <source>Restore backup of your database</source>
-            <translation>Az adatbázis visszaállítása biztonsági mentésből</translation>
-        </message>
-        <message>
-            <source>Change database/company...</source>
-            <translation>Adatbázis/cég váltása...</translation>
-        </message>
-        <message>
-            <source>Change database to an other one if you want to work with an other company</source>
-            <translation>Váltás másik adatbázisra, ha egy másik cég adataival szeretne dolgozni</translation>
-        </message>
-        <message>
-            <source>Exit</source>
-            <translation>Kilépés</translation>
-        </message>
-        <message>
-            <source>Finish editing and close this window</source>
-            <translation>A munka befejezése és az ablak bezárása</translation>
-        </message>
-        <message>
-            <source>Basic Data</source>
-            <translation>Alapadatok</translation>
-        </message>
-        <message>
-            <source>VAT Keys</source>
-            <translation>ÁFA-kulcsok</translation>
-        </message>
-        <message>
-            <source>Change VAT keys</source>
-            <translation>Az ÁFA-kulcsok módosítása</translation>
-        </message>
-        <message>
-            <source>No VAT Reasons</source>
-            <translation>ÁFA-mentesség okai</translation>
-        </message>
-        <message>
-            <source>Manage No VAT Reasons</source>
-            <translation>Az ÁFA-mentesség okainak kezelése</translation>
-        </message>
-        <message>
-            <source>Payment methods</source>
-            <translation>Fizetési módok</translation>
-        </message>
-        <message>
-            <source>Change payment methods</source>
-            <translation>A fizetési módok módosítása</translation>
-        </message>
-        <message>
-            <source>Stat Numbers</source>
-            <translation>VTSZ/SZJ számok</translation>
-        </message>
-        <message>
-            <source>Change often used stat numbers</source>
-            <translation>A gyakran használt VTSZ/SZJ számok módosítása</translation>
-        </message>
-        <message>
-            <source>Languages</source>
-            <translation>Nyelvek</translation>
-        </message>
-        <message>
-            <source>Change languages</source>
-            <translation>A nyelvek módosítása</translation>
-        </message>
-        <message>
-            <source>Countries</source>
-            <translation>Országok</translation>
-        </message>
-        <message>
-            <source>Manage countries</source>
-            <translation>Az országok kezelése</translation>
-        </message>
-        <message>
-            <source>Currencies, Bank Accounts and Rates</source>
-            <translation>Pénznemek, bankszámlák és árfolyamok</translation>
-        </message>
-        <message>
-            <source>Manage currencies, bank accounts and rates</source>
-            <translation>A pénznemek, bankszámlák és árfolyamok kezelése</translation>
-        </message>
-        <message>
-            <source>Invoice Label Translations</source>
-            <translation>Számlafeliratok fordításai</translation>
-        </message>
-        <message>
-            <source>Manage invoice label translations</source>
-            <translation>A számlán megjelenő feliratok fordításainak kezelése</translation>
-        </message>
-        <message>
-            <source>Webshop</source>
-            <translation>Webáruház</translation>
-        </message>
-        <message>
-            <source>Download orders</source>
-            <translation>Rendelések letöltése</translation>
-        </message>
-        <message>
-            <source>Download external orders from web, based on Setup</source>
-            <translation>Külső rendelések letöltése a webről a beállítások alapján</translation>
-        </message>
-        <message>
-            <source>Download products</source>
-            <translation>Termékek letöltése</translation>
-        </message>
-        <message>
-            <source>Download external products from web, based on Setup</source>
-            <translation>Külső termékek letöltése a webről a beállítások alapján</translation>
-        </message>
-        <message>
-            <source>Download partners</source>
-            <translation>Partnerek letöltése</translation>
-        </message>
-        <message>
-            <source>Download external partners from web, based on Setup</source>
-            <translation>Külső partnerek letöltése a webről a beállítások alapján</translation>
-        </message>
-        <message>
-            <source>Reports</source>
-            <translation>Kimutatások</translation>
-        </message>
-        <message>
-            <source>Outgoing Invoices</source>
-            <translation>Kimenő számlák</translation>
-        </message>
-        <message>
-            <source>Print or export list of invoices</source>
-            <translation>A számlák listájának nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Outgoing Invoice Items</source>
-            <translation>Kimenő számlák tételei</translation>
-        </message>
-        <message>
-            <source>Print or export list of invoice items</source>
-            <translation>A számlatételek listájának nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Customers Report</source>
-            <translation>Vevők szerinti kimutatás</translation>
-        </message>
-        <message>
-            <source>Print or export sum of sales grouped by partners</source>
-            <translation>Az eladások partnerenkénti összesítésének nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Products Sold Report</source>
-            <translation>Eladott termékek kimutatása</translation>
-        </message>
-        <message>
-            <source>Print or export sum of sales grouped by products</source>
-            <translation>Az eladások termékenkénti összesítésének nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Receivables</source>
-            <translation>Kintlévőségek</translation>
-        </message>
-        <message>
-            <source>Receivables by invoices</source>
-            <translation>Kintlévőségek számlánként</translation>
-        </message>
-        <message>
-            <source>Print or export unpaid invoices</source>
-            <translation>A kifizetetlen számlák nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Receivables by partners</source>
-            <translation>Kintlévőségek partnerenként</translation>
-        </message>
-        <message>
-            <source>Print or export unpaid invoices grouped by partners</source>
-            <translation>A kifizetetlen számlák partnerenkénti nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Help</source>
-            <translation>Súgó</translation>
-        </message>
-        <message>
-            <source>Help Topics</source>
-            <translation>Súgótémakörök</translation>
-        </message>
-        <message>
-            <source>Show the list of Help topics</source>
-            <translation>A súgótémakörök listájának megjelenítése</translation>
-        </message>
-        <message>
-            <source>About</source>
-            <translation>Névjegy</translation>
-        </message>
-        <message>
-            <source>Information about the program, its version and developer</source>
-            <translation>Tájékoztatás a programról, a verziójáról és a fejlesztőjéről</translation>
-        </message>
-        <message>
-            <source>Main toolbar</source>
-            <translation>Fő eszköztár</translation>
-        </message>
-        <message>
-            <source>Orders/Invoices</source>
-            <translation>Rendelések/számlák</translation>
-        </message>
-        <message>
-            <source>Products</source>
-            <translation>Termékek</translation>
-        </message>
-        <message>
-            <source>Partners</source>
-            <translation>Partnerek</translation>
-        </message>
-        <message>
-            <source>New company...</source>
-            <translation>Új cég...</translation>
-        </message>
-        <message>
-            <source>Create a new company database</source>
-            <translation>Új cégadatbázis létrehozása</translation>
-        </message>
-    </context>
-    <context>
-        <name>NewCompanyLayout</name>
-        <message>
-            <source>New company</source>
-            <translation>Új cég</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>Tax No</source>
-            <translation>Adószám</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Város</translation>
-        </message>
-        <message>
-            <source>Address</source>
-            <translation>Cím</translation>
-        </message>
-    </context>
-    <context>
-        <name>NoVatReasonEditLayout</name>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>No VAT Reason Code</source>
-            <translation>ÁFA-mentességi ok kódja</translation>
-        </message>
-        <message>
-            <source>Text To Invoice</source>
-            <translation>Számlára kerülő szöveg</translation>
-        </message>
-        <message>
-            <source>Text To Invoice Translations</source>
-            <translation>A számlára kerülő szöveg fordításai</translation>
-        </message>
-    </context>
-    <context>
-        <name>NoVatReasonTable</name>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>No VAT Reasons</source>
-            <translation>ÁFA-mentesség okai</translation>
-        </message>
-        <message>
-            <source>&amp;New</source>
-            <translation>Ú&amp;j</translation>
-        </message>
-        <message>
-            <source>Select a no vat reason to edit.</source>
-            <translation>Válassza ki a szerkesztendő ÁFA-mentességi okot.</translation>
-        </message>
-        <message>
-            <source>Select a no vat reason to delete.</source>
-            <translation>Válassza ki a törlendő ÁFA-mentességi okot.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the no vat reason?</source>
-            <translation>Biztosan törli az ÁFA-mentességi okot?</translation>
-        </message>
-        <message>
-            <source>You have to select a no vat reason.</source>
-            <translation>Ki kell választania egy ÁFA-mentességi okot.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Text To Invoice</source>
-            <translation>Számlára kerülő szöveg</translation>
-        </message>
-        <message>
-            <source>Add No VAT Reason</source>
-            <translation>Új ÁFA-mentességi ok</translation>
-        </message>
-        <message>
-            <source>Edit No VAT Reason</source>
-            <translation>ÁFA-mentességi ok szerkesztése</translation>
-        </message>
-    </context>
-    <context>
-        <name>OrderCalc</name>
-        <message>
-            <source>Database error:&amp;</source>
-            <translation>Adatbázishiba:&amp;</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
-        </message>
-        <message>
-            <source>The forint (currency 0) is missing from the currencies.</source>
-            <translation>A forint (0-s pénznem) hiányzik a pénznemek közül.</translation>
-        </message>
-    </context>
-    <context>
-        <name>PartnerEditLayout</name>
-        <message>
-            <source>Partner</source>
-            <translation>Partner</translation>
-        </message>
-        <message>
-            <source>Partner Code</source>
-            <translation>Partnerkód</translation>
-        </message>
-        <message>
-            <source>Partner ID number in webshop</source>
-            <translation>A partner azonosítója a webáruházban</translation>
-        </message>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-        <message>
-            <source>Address</source>
-            <translation>Cím</translation>
-        </message>
-        <message>
-            <source>Tax No</source>
-            <translation>Adószám</translation>
-        </message>
-        <message>
-            <source>e.g tax id or any other data</source>
-            <translation>pl. adóazonosító jel vagy egyéb adat</translation>
-        </message>
-        <message>
-            <source>EU Tax No</source>
-            <translation>Közösségi adószám</translation>
-        </message>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Payment Due Days</source>
-            <translation>Fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>If you leave it empty, default due days will be calculated, based on data in payment method window</source>
-            <translation>Ha üresen hagyja, a fizetési határidő a fizetési módnál megadott napok szerint számítódik</translation>
-        </message>
-        <message>
-            <source>Discount / Type Of Price</source>
-            <translation>Kedvezmény / ártípus</translation>
-        </message>
-        <message>
-            <source>Discount Percent</source>
-            <translation>Kedvezmény (%)</translation>
-        </message>
-        <message>
-            <source>Country</source>
-            <translation>Ország</translation>
-        </message>
-        <message>
-            <source>Countries...</source>
-            <translation>Országok...</translation>
-        </message>
-        <message>
-            <source>Second Invoice Language</source>
-            <translation>A számla második nyelve</translation>
-        </message>
-        <message>
-            <source>Languages...</source>
-            <translation>Nyelvek...</translation>
-        </message>
-        <message>
-            <source>Default Currency</source>
-            <translation>Alapértelmezett pénznem</translation>
-        </message>
-        <message>
-            <source>Currencies...</source>
-            <translation>Pénznemek...</translation>
-        </message>
-        <message>
-            <source>Other Billing Data</source>
-            <translation>Egyéb számlázási adatok</translation>
-        </message>
-        <message>
-            <source>Levelezesi cim</source>
-            <translation>Levelezési cím</translation>
-        </message>
-        <message>
-            <source>A levelezesi cim megegyezik a szamlazasi cimmel</source>
-            <translation>A levelezési cím megegyezik a számlázási címmel</translation>
-        </message>
-        <message>
-            <source>Partner Mail Name</source>
-            <translation>Név a levelezési címen</translation>
-        </message>
-        <message>
-            <source>Contact</source>
-            <translation>Kapcsolattartó</translation>
-        </message>
-        <message>
-            <source>Contact Name</source>
-            <translation>Kapcsolattartó neve</translation>
-        </message>
-        <message>
-            <source>Phone</source>
-            <translation>Telefon</translation>
-        </message>
-        <message>
-            <source>Mobile Phone</source>
-            <translation>Mobiltelefon</translation>
-        </message>
-        <message>
-            <source>Email</source>
-            <translation>E-mail</translation>
-        </message>
-        <message>
-            <source>Comment on Contact</source>
-            <translation>Megjegyzés a kapcsolattartóhoz</translation>
-        </message>
-        <message>
-            <source>Comment</source>
-            <translation>Megjegyzés</translation>
-        </message>
-        <message>
-            <source>Comments on Partner</source>
-            <translation>Megjegyzések a partnerről</translation>
-        </message>
-    </context>
-    <context>
-        <name>PartnerFinder</name>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-    </context>
-    <context>
-        <name>PartnerTable</name>
-        <message>
-            <source>Partner Name field must have a value.</source>
-            <translation>A partner neve mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
-            <translation>A partner levelezési címéhez tartozó nevet meg kell adni.</translation>
-        </message>
-        <message>
-            <source>Partners</source>
-            <translation>Partnerek</translation>
-        </message>
-        <message>
-            <source>&amp;New Partner</source>
-            <translation>Ú&amp;j partner</translation>
-        </message>
-        <message>
-            <source>Select a partner to edit.</source>
-            <translation>Válassza ki a szerkesztendő partnert.</translation>
-        </message>
-        <message>
-            <source>Select a partner to delete.</source>
-            <translation>Válassza ki a törlendő partnert.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected partner?</source>
-            <translation>Biztosan törli a kijelölt partnert?</translation>
-        </message>
-        <message>
-            <source>You have to select a partner.</source>
-            <translation>Ki kell választania egy partnert.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-        <message>
-            <source>Address</source>
-            <translation>Cím</translation>
-        </message>
-        <message>
-            <source>Other Data</source>
-            <translation>Egyéb adatok</translation>
-        </message>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Due Days</source>
-            <translation>Fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>Type in first characters of partner name and press Enter to find</source>
-            <translation>Írja be a partner nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
-        </message>
-        <message>
-            <source>There are more matching partners then displayed. Try more specific filter.</source>
-            <translation>A feltételnek több partner felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
-        </message>
-        <message>
-            <source>Add Partner</source>
-            <translation>Új partner</translation>
-        </message>
-        <message>
-            <source>Partner szerkesztese:</source>
-            <translation>Partner szerkesztése:</translation>
-        </message>
-    </context>
-    <context>
-        <name>PaymentMethodEditLayout</name>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Payment Method Code</source>
-            <translation>Fizetési mód kódja</translation>
-        </message>
-        <message>
-            <source>Default payment due days</source>
-            <translation>Alapértelmezett fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>Round Invoice Totals To 5</source>
-            <translation>Számlavégösszeg kerekítése 5 forintra</translation>
-        </message>
-        <message>
-            <source>Paid when invoice creataed</source>
-            <translation>Kiállításkor a számla kiegyenlítettnek számít</translation>
-        </message>
-        <message>
-            <source>Keszitsen csekket szamlanyomtatas utan</source>
-            <translation>Készítsen csekket számlanyomtatás után</translation>
-        </message>
-        <message>
-            <source>Comment on invoice when this method selected</source>
-            <translation>Megjegyzés a számlán e fizetési mód esetén</translation>
-        </message>
-        <message>
-            <source>Translations</source>
-            <translation>Fordítások</translation>
-        </message>
-        <message>
-            <source>You have to fill these below width both foreign and native language comments.</source>
-            <translation>Az alábbi megjegyzéseket idegen nyelven és magyarul is ki kell tölteni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>PaymentMethodTable</name>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Payment Methods</source>
-            <translation>Fizetési módok</translation>
-        </message>
-        <message>
-            <source>&amp;New Payment Method</source>
-            <translation>Ú&amp;j fizetési mód</translation>
-        </message>
-        <message>
-            <source>Select a payment metod to edit.</source>
-            <translation>Válassza ki a szerkesztendő fizetési módot.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected payment method?</source>
-            <translation>Biztosan törli a kijelölt fizetési módot?</translation>
-        </message>
-        <message>
-            <source>You have to select a payment method.</source>
-            <translation>Ki kell választania egy fizetési módot.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Due Days</source>
-            <translation>Fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>Comment</source>
-            <translation>Megjegyzés</translation>
-        </message>
-        <message>
-            <source>Add Payment Method</source>
-            <translation>Új fizetési mód</translation>
-        </message>
-        <message>
-            <source>Edit Payment Method</source>
-            <translation>Fizetési mód szerkesztése</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductEdit</name>
-        <message>
-            <source>Product Name Translations</source>
-            <translation>Terméknév fordításai</translation>
-        </message>
-        <message>
-            <source>Comment Translations</source>
-            <translation>Megjegyzés fordításai</translation>
-        </message>
-        <message>
-            <source>Unit Translations</source>
-            <translation>Mennyiségi egység fordításai</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductEditLayout</name>
-        <message>
-            <source>Product</source>
-            <translation>Termék</translation>
-        </message>
-        <message>
-            <source>Product Code</source>
-            <translation>Termékkód</translation>
-        </message>
-        <message>
-            <source>Product ID nuber in the webshop</source>
-            <translation>A termék azonosítója a webáruházban</translation>
-        </message>
-        <message>
-            <source>Product Name</source>
-            <translation>Termék neve</translation>
-        </message>
-        <message>
-            <source>Comment</source>
-            <translation>Megjegyzés</translation>
-        </message>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Find Stat No</source>
-            <translation>VTSZ/SZJ keresése</translation>
-        </message>
-        <message>
-            <source>Quantity Unit</source>
-            <translation>Mennyiségi egység</translation>
-        </message>
-        <message>
-            <source>VAT Key</source>
-            <translation>ÁFA-kulcs</translation>
-        </message>
-        <message>
-            <source>Find VAT Key</source>
-            <translation>ÁFA-kulcs keresése</translation>
-        </message>
-        <message>
-            <source>Net Price</source>
-            <translation>Nettó ár</translation>
-        </message>
-        <message>
-            <source>Gross Price</source>
-            <translation>Bruttó ár</translation>
-        </message>
-        <message>
-            <source>Translations</source>
-            <translation>Fordítások</translation>
-        </message>
-        <message>
-            <source>Prices In Foreign Currencies</source>
-            <translation>Árak idegen pénznemekben</translation>
-        </message>
-        <message>
-            <source>Prices In Different Currencies</source>
-            <translation>Árak különböző pénznemekben</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductFinder</name>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>Price</source>
-            <translation>Nettó ár</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductPriceModel</name>
-        <message>
-            <source>Currency</source>
-            <translation>Pénznem</translation>
-        </message>
-        <message>
-            <source>Rate</source>
-            <translation>Árfolyam</translation>
-        </message>
-        <message>
-            <source>Calculated Price</source>
-            <translation>Számított ár</translation>
-        </message>
-        <message>
-            <source>Overridden Price</source>
-            <translation>Felülírt ár</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductTable</name>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Error in deleting product.</source>
-            <translation>A termék törlése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Price (%s)</source>
-            <translation>Ár (%s)</translation>
-        </message>
-        <message>
-            <source>Products</source>
-            <translation>Termékek</translation>
-        </message>
-        <message>
-            <source>&amp;New Product</source>
-            <translation>Ú&amp;j termék</translation>
-        </message>
-        <message>
-            <source>Select a product to edit.</source>
-            <translation>Válassza ki a szerkesztendő terméket.</translation>
-        </message>
-        <message>
-            <source>Select a product to delete.</source>
-            <translation>Válassza ki a törlendő terméket.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected product?</source>
-            <translation>Biztosan törli a kijelölt terméket?</translation>
-        </message>
-        <message>
-            <source>You have to select a product.</source>
-            <translation>Ki kell választania egy terméket.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Unit</source>
-            <translation>Mennyiségi egység</translation>
-        </message>
-        <message>
-            <source>Price</source>
-            <translation>Nettó ár</translation>
-        </message>
-        <message>
-            <source>Type in first characters of product name and press Enter to find</source>
-            <translation>Írja be a termék nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
-        </message>
-        <message>
-            <source>There are more matching products then displayed. Try more specific filter.</source>
-            <translation>A feltételnek több termék felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
-        </message>
-        <message>
-            <source>Add Product</source>
-            <translation>Új termék</translation>
-        </message>
-        <message>
-            <source>Edit Product</source>
-            <translation>Termék szerkesztése</translation>
-        </message>
-    </context>
-    <context>
-        <name>RecordBrowse</name>
-        <message>
-            <source>Select a record to edit.</source>
-            <translation>Válassza ki a szerkesztendő sort.</translation>
-        </message>
-        <message>
-            <source>Select a record to delete.</source>
-            <translation>Válassza ki a törlendő sort.</translation>
-        </message>
-        <message>
-            <source>Insert</source>
-            <translation>Új sor</translation>
-        </message>
-        <message>
-            <source>Edit</source>
-            <translation>Szerkesztés</translation>
-        </message>
-        <message>
-            <source>Delete	Delete</source>
-            <translation>Törlés	Delete</translation>
-        </message>
-    </context>
-    <context>
-        <name>RecordBrowseLayout</name>
-        <message>
-            <source>&amp;Name</source>
-            <translation>&amp;Név</translation>
-        </message>
-        <message>
-            <source>&amp;Find</source>
-            <translation>&amp;Keresés</translation>
-        </message>
-        <message>
-            <source>&amp;Edit</source>
-            <translation>&amp;Szerkesztés</translation>
-        </message>
-        <message>
-            <source>Delete</source>
-            <translation>Törlés</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-        <message>
-            <source>Help</source>
-            <translation>Súgó</translation>
-        </message>
-    </context>
-    <context>
-        <name>Report</name>
-        <message>
-            <source>Unable to start printing.</source>
-            <translation>Nem sikerült elindítani a nyomtatást.</translation>
-        </message>
-        <message>
-            <source>Unable to write file %s.</source>
-            <translation>Nem sikerült a(z) %s fájlt írni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ReportPrinter</name>
-        <message>
-            <source>Print Preview</source>
-            <translation>Nyomtatási kép</translation>
-        </message>
-    </context>
-    <context>
-        <name>Schema</name>
-        <message>
-            <source>Creating database tables</source>
-            <translation>Adatbázistáblák létrehozása</translation>
-        </message>
-        <message>
-            <source>Creating database indexes</source>
-            <translation>Adatbázis-indexek létrehozása</translation>
-        </message>
-        <message>
-            <source>Unable to insert basic data to database.</source>
-            <translation>Nem sikerült az alapadatokat az adatbázisba írni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>Setup</name>
-        <message>
-            <source>Error loading setup data.</source>
-            <translation>Hiba a beállítások betöltésekor.</translation>
-        </message>
-        <message>
-            <source>Unable to update SETUP record.</source>
-            <translation>Nem sikerült a beállításokat menteni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>SqlErrorLayout</name>
-        <message>
-            <source>SQL error:</source>
-            <translation>SQL-hiba:</translation>
-        </message>
-        <message>
-            <source>Error statement:</source>
-            <translation>Hibás utasítás:</translation>
-        </message>
-        <message>
-            <source>SQL error</source>
-            <translation>SQL-hiba</translation>
-        </message>
-        <message>
-            <source>Retry</source>
-            <translation>Újra</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-    </context>
-    <context>
-        <name>StatNoEditLayout</name>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-    </context>
-    <context>
-        <name>StatNoTable</name>
-        <message>
-            <source>Stat No field must have a value.</source>
-            <translation>A VTSZ/SZJ szám mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Often Used Stat Numbers</source>
-            <translation>Gyakran használt VTSZ/SZJ számok</translation>
-        </message>
-        <message>
-            <source>&amp;New Stat No</source>
-            <translation>Ú&amp;j VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected Stat No?</source>
-            <translation>Biztosan törli a kijelölt VTSZ/SZJ számot?</translation>
-        </message>
-        <message>
-            <source>You have to select a stat no.</source>
-            <translation>Ki kell választania egy VTSZ/SZJ számot.</translation>
-        </message>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Add Stat No</source>
-            <translation>Új VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Edit Stat No:</source>
-            <translation>VTSZ/SZJ szám szerkesztése:</translation>
-        </message>
-    </context>
-    <context>
-        <name>TableStore</name>
-        <message>
-            <source>Unable to save translation data.</source>
-            <translation>A fordítások mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to save currency data.</source>
-            <translation>A pénznemenkénti árak mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.</source>
-            <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Az adatok betöltése az adatbázisból nem sikerült.&amp;Lehet, hogy egy másik felhasználó időközben törölte.</translation>
-        </message>
-        <message>
-            <source>Unable to save data.</source>
-            <translation>Az adatok mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to delete data.</source>
-            <translation>Az adatok törlése nem sikerült.</translation>
-        </message>
-    </context>
-    <context>
-        <name>TranslationModel</name>
-        <message>
-            <source>Language</source>
-            <translation>Nyelv</translation>
-        </message>
-    </context>
-    <context>
-        <name>VatEditLayout</name>
-        <message>
-            <source>Vat Code</source>
-            <translation>ÁFA-kód</translation>
-        </message>
-        <message>
-            <source>VAT Name</source>
-            <translation>ÁFA-kulcs neve</translation>
-        </message>
-        <message>
-            <source>Percent</source>
-            <translation>Százalék</translation>
-        </message>
-    </context>
-    <context>
-        <name>VatTable</name>
-        <message>
-            <source>VAT Name field must have a value.</source>
-            <translation>Az ÁFA-kulcs neve mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>VAT Percent field must have a value.</source>
-            <translation>Az ÁFA-kulcs százaléka mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>VAT keys</source>
-            <translation>ÁFA-kulcsok</translation>
-        </message>
-        <message>
-            <source>&amp;New VAT key</source>
-            <translation>Ú&amp;j ÁFA-kulcs</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected VAT key?</source>
-            <translation>Biztosan törli a kijelölt ÁFA-kulcsot?</translation>
-        </message>
-        <message>
-            <source>You have to select a VAT key.</source>
-            <translation>Ki kell választania egy ÁFA-kulcsot.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Percent</source>
-            <translation>Százalék</translation>
-        </message>
-        <message>
-            <source>Add VAT</source>
-            <translation>Új ÁFA-kulcs</translation>
-        </message>
-        <message>
-            <source>Edit VAT:</source>
-            <translation>ÁFA-kulcs szerkesztése:</translation>
-        </message>
-    </context>
+    </message>
+</context>
+<context>
+    <name>DatabasePrepare</name>
+    <message>
+        <source>The database version is newer, than the version of the billing software.&amp;Upgrade the software to a newer version.</source>
+        <translation>Az adatbázis verziója újabb, mint a számlázó programé.&amp;Frissítse a programot újabb verzióra.</translation>
+    </message>
+    <message>
+        <source>Upgrading database.</source>
+        <translation>Adatbázis frissítése.</translation>
+    </message>
+    <message>
+        <source>Error backing up database file before upgrade.</source>
+        <translation>Hiba az adatbázisfájl frissítés előtti biztonsági mentésekor.</translation>
+    </message>
+    <message>
+        <source>Unable to upgrade database.</source>
+        <translation>Az adatbázis nem frissíthető.</translation>
+    </message>
+    <message>
+        <source>Upgrading database aborted.</source>
+        <translation>Az adatbázis frissítése megszakítva.</translation>
+    </message>
+    <message>
+        <source>Error restoring database file after failed upgrade.&amp;The saved original database file is here:&amp;&amp;%s</source>
+        <translation>Hiba az adatbázisfájl visszaállításakor a sikertelen frissítés után.&amp;Az eredeti adatbázisfájl mentett példánya itt található:&amp;&amp;%s</translation>
+    </message>
+    <message>
+        <source>Error upgrading database.&amp;You can uninstall current version of the software&amp;and reinstall the previously used version to continue your work.&amp;&amp;Please report this problem to the developers.</source>
+        <translation>Hiba az adatbázis frissítésekor.&amp;Eltávolíthatja a program jelenlegi verzióját,&amp;és a korábban használt verzió újratelepítésével folytathatja a munkát.&amp;&amp;Kérjük, jelezze a hibát a fejlesztőknek.</translation>
+    </message>
+    <message>
+        <source>Error in finding invoices in database.</source>
+        <translation>Hiba a számlák keresésekor az adatbázisban.</translation>
+    </message>
+    <message>
+        <source>Select Payment Methods To Set Unpaid</source>
+        <translation>Kifizetetlenre állítandó fizetési módok kiválasztása</translation>
+    </message>
+    <message>
+        <source>Payment Method</source>
+        <translation>Fizetési mód</translation>
+    </message>
+    <message>
+        <source>Set To Unpaid</source>
+        <translation>Kifizetetlenre állít</translation>
+    </message>
+    <message>
+        <source>Operation aborted.</source>
+        <translation>A művelet megszakítva.</translation>
+    </message>
+    <message>
+        <source>Unable to set paid states.</source>
+        <translation>A fizetettségi állapotok nem állíthatók be.</translation>
+    </message>
+    <message>
+        <source>Unable to load rounding setup.</source>
+        <translation>A kerekítési beállítás nem tölthető be.</translation>
+    </message>
+    <message>
+        <source>Unable to setup rounding.</source>
+        <translation>A kerekítés nem állítható be.</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseSelectLayout</name>
+    <message>
+        <source>Select Database/Company</source>
+        <translation>Adatbázis/cég kiválasztása</translation>
+    </message>
+    <message>
+        <source>Select the database/company you want to use</source>
+        <translation>Válassza ki a használni kívánt adatbázist/céget</translation>
+    </message>
+    <message>
+        <source>New company...</source>
+        <translation>Új cég...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Súgó</translation>
+    </message>
+</context>
+<context>
+    <name>DateEdit</name>
+    <message>
+        <source>yyyy.mm.dd.</source>
+        <translation>éééé.hh.nn.</translation>
+    </message>
+    <message>
+        <source>Choose a date from the calendar</source>
+        <translation>Dátum választása a naptárból</translation>
+    </message>
+</context>
+<context>
+    <name>DiscountType</name>
+    <message>
+        <source>No discount</source>
+        <translation>Nincs kedvezmény</translation>
+    </message>
+    <message>
+        <source>Percent from List Price</source>
+        <translation>Százalékos kedvezmény a listaárból</translation>
+    </message>
+    <message>
+        <source>Special Price</source>
+        <translation>Egyedi ár</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentCommands</name>
+    <message>
+        <source>Unable to read file %s.</source>
+        <translation>Nem sikerült a(z) %s fájlt beolvasni.</translation>
+    </message>
+    <message>
+        <source>Computed digest: %s</source>
+        <translation>Számított ellenőrzőkód: %s</translation>
+    </message>
+    <message>
+        <source>Digest in invoice.cfg: %s</source>
+        <translation>Ellenőrzőkód az invoice.cfg fájlban: %s</translation>
+    </message>
+    <message>
+        <source>Certified: yes</source>
+        <translation>Hitelesített: igen</translation>
+    </message>
+    <message>
+        <source>Certified: no</source>
+        <translation>Hitelesített: nem</translation>
+    </message>
+    <message>
+        <source>Give an existing company database with --db FILE.</source>
+        <translation>Adjon meg egy létező cégadatbázist a --db FÁJL kapcsolóval.</translation>
+    </message>
+    <message>
+        <source>Unable to save data.</source>
+        <translation>Nem sikerült az adatokat menteni.</translation>
+    </message>
+    <message>
+        <source>The template is installed, but it is not certified: invoices can&apos;t be printed with it.</source>
+        <translation>A sablon telepítése megtörtént, de nem hitelesített: számlát nem lehet vele nyomtatni.</translation>
+    </message>
+    <message>
+        <source>Template directory %s does not exist.</source>
+        <translation>A(z) %s sablonkönyvtár nem létezik.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Database backup files (*.dbk)</source>
+        <translation>Adatbázis biztonsági mentések (*.dbk)</translation>
+    </message>
+    <message>
+        <source>Do backup</source>
+        <translation>Biztonsági mentés készítése</translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation>Biztonsági mentés visszaállítása</translation>
+    </message>
+    <message>
+        <source>The new company database has been created.&amp;Do you want to work with it now?</source>
+        <translation>Az új cég adatbázisa elkészült.&amp;Szeretne most ezzel a céggel dolgozni?</translation>
+    </message>
+</context>
+<context>
+    <name>GuiInteraction</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+</context>
+<context>
+    <name>LabelTranslations</name>
+    <message>
+        <source>Unable to load invoice label translations.</source>
+        <translation>Nem sikerült betölteni a számlafeliratok fordításait.</translation>
+    </message>
+</context>
+<context>
+    <name>LangEditLayout</name>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+</context>
+<context>
+    <name>LangTable</name>
+    <message>
+        <source>Language field must have a value.</source>
+        <translation>A nyelv mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Nyelvek</translation>
+    </message>
+    <message>
+        <source>&amp;New Language</source>
+        <translation>Ú&amp;j nyelv</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected Language?</source>
+        <translation>Biztosan törli a kijelölt nyelvet?</translation>
+    </message>
+    <message>
+        <source>You have to select a language.</source>
+        <translation>Ki kell választania egy nyelvet.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Add Language</source>
+        <translation>Új nyelv</translation>
+    </message>
+    <message>
+        <source>Edit Language:</source>
+        <translation>Nyelv szerkesztése:</translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n partner(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n country(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n order(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n product translation(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n payment method translation(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n no-VAT reason translation(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is used by %n invoice label(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This language is the default of the settings.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>This list is not available yet.</source>
+        <translation>Ez a lista még nem érhető el.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fájl</translation>
+    </message>
+    <message>
+        <source>New Order / Invoice...</source>
+        <translation>Új rendelés / számla...</translation>
+    </message>
+    <message>
+        <source>Create new order / invoice</source>
+        <translation>Új rendelés / számla készítése</translation>
+    </message>
+    <message>
+        <source>Setup...</source>
+        <translation>Beállítások...</translation>
+    </message>
+    <message>
+        <source>Setup your company&apos;s data and application defaults</source>
+        <translation>A cég adatainak és a program alapbeállításainak megadása</translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation>Biztonsági mentés</translation>
+    </message>
+    <message>
+        <source>Do or restore backup</source>
+        <translation>Biztonsági mentés készítése vagy visszaállítása</translation>
+    </message>
+    <message>
+        <source>Do backup...</source>
+        <translation>Mentés készítése...</translation>
+    </message>
+    <message>
+        <source>Do backup of your database</source>
+        <translation>Biztonsági mentés készítése az adatbázisról</translation>
+    </message>
+    <message>
+        <source>Restore backup...</source>
+        <translation>Mentés visszaállítása...</translation>
+    </message>
+    <message>
+        <source>Restore backup of your database</source>
+        <translation>Az adatbázis visszaállítása biztonsági mentésből</translation>
+    </message>
+    <message>
+        <source>Change database/company...</source>
+        <translation>Adatbázis/cég váltása...</translation>
+    </message>
+    <message>
+        <source>Change database to an other one if you want to work with an other company</source>
+        <translation>Váltás másik adatbázisra, ha egy másik cég adataival szeretne dolgozni</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Kilépés</translation>
+    </message>
+    <message>
+        <source>Finish editing and close this window</source>
+        <translation>A munka befejezése és az ablak bezárása</translation>
+    </message>
+    <message>
+        <source>Basic Data</source>
+        <translation>Alapadatok</translation>
+    </message>
+    <message>
+        <source>VAT Keys</source>
+        <translation>ÁFA-kulcsok</translation>
+    </message>
+    <message>
+        <source>Change VAT keys</source>
+        <translation>Az ÁFA-kulcsok módosítása</translation>
+    </message>
+    <message>
+        <source>No VAT Reasons</source>
+        <translation>ÁFA-mentesség okai</translation>
+    </message>
+    <message>
+        <source>Manage No VAT Reasons</source>
+        <translation>Az ÁFA-mentesség okainak kezelése</translation>
+    </message>
+    <message>
+        <source>Payment methods</source>
+        <translation>Fizetési módok</translation>
+    </message>
+    <message>
+        <source>Change payment methods</source>
+        <translation>A fizetési módok módosítása</translation>
+    </message>
+    <message>
+        <source>Stat Numbers</source>
+        <translation>VTSZ/SZJ számok</translation>
+    </message>
+    <message>
+        <source>Change often used stat numbers</source>
+        <translation>A gyakran használt VTSZ/SZJ számok módosítása</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Nyelvek</translation>
+    </message>
+    <message>
+        <source>Change languages</source>
+        <translation>A nyelvek módosítása</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Országok</translation>
+    </message>
+    <message>
+        <source>Manage countries</source>
+        <translation>Az országok kezelése</translation>
+    </message>
+    <message>
+        <source>Currencies, Bank Accounts and Rates</source>
+        <translation>Pénznemek, bankszámlák és árfolyamok</translation>
+    </message>
+    <message>
+        <source>Manage currencies, bank accounts and rates</source>
+        <translation>A pénznemek, bankszámlák és árfolyamok kezelése</translation>
+    </message>
+    <message>
+        <source>Invoice Label Translations</source>
+        <translation>Számlafeliratok fordításai</translation>
+    </message>
+    <message>
+        <source>Manage invoice label translations</source>
+        <translation>A számlán megjelenő feliratok fordításainak kezelése</translation>
+    </message>
+    <message>
+        <source>Webshop</source>
+        <translation>Webáruház</translation>
+    </message>
+    <message>
+        <source>Download orders</source>
+        <translation>Rendelések letöltése</translation>
+    </message>
+    <message>
+        <source>Download external orders from web, based on Setup</source>
+        <translation>Külső rendelések letöltése a webről a beállítások alapján</translation>
+    </message>
+    <message>
+        <source>Download products</source>
+        <translation>Termékek letöltése</translation>
+    </message>
+    <message>
+        <source>Download external products from web, based on Setup</source>
+        <translation>Külső termékek letöltése a webről a beállítások alapján</translation>
+    </message>
+    <message>
+        <source>Download partners</source>
+        <translation>Partnerek letöltése</translation>
+    </message>
+    <message>
+        <source>Download external partners from web, based on Setup</source>
+        <translation>Külső partnerek letöltése a webről a beállítások alapján</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Kimutatások</translation>
+    </message>
+    <message>
+        <source>Outgoing Invoices</source>
+        <translation>Kimenő számlák</translation>
+    </message>
+    <message>
+        <source>Print or export list of invoices</source>
+        <translation>A számlák listájának nyomtatása vagy exportálása</translation>
+    </message>
+    <message>
+        <source>Outgoing Invoice Items</source>
+        <translation>Kimenő számlák tételei</translation>
+    </message>
+    <message>
+        <source>Print or export list of invoice items</source>
+        <translation>A számlatételek listájának nyomtatása vagy exportálása</translation>
+    </message>
+    <message>
+        <source>Customers Report</source>
+        <translation>Vevők szerinti kimutatás</translation>
+    </message>
+    <message>
+        <source>Print or export sum of sales grouped by partners</source>
+        <translation>Az eladások partnerenkénti összesítésének nyomtatása vagy exportálása</translation>
+    </message>
+    <message>
+        <source>Products Sold Report</source>
+        <translation>Eladott termékek kimutatása</translation>
+    </message>
+    <message>
+        <source>Print or export sum of sales grouped by products</source>
+        <translation>Az eladások termékenkénti összesítésének nyomtatása vagy exportálása</translation>
+    </message>
+    <message>
+        <source>Receivables</source>
+        <translation>Kintlévőségek</translation>
+    </message>
+    <message>
+        <source>Receivables by invoices</source>
+        <translation>Kintlévőségek számlánként</translation>
+    </message>
+    <message>
+        <source>Print or export unpaid invoices</source>
+        <translation>A kifizetetlen számlák nyomtatása vagy exportálása</translation>
+    </message>
+    <message>
+        <source>Receivables by partners</source>
+        <translation>Kintlévőségek partnerenként</translation>
+    </message>
+    <message>
+        <source>Print or export unpaid invoices grouped by partners</source>
+        <translation>A kifizetetlen számlák partnerenkénti nyomtatása vagy exportálása</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Súgó</translation>
+    </message>
+    <message>
+        <source>Help Topics</source>
+        <translation>Súgótémakörök</translation>
+    </message>
+    <message>
+        <source>Show the list of Help topics</source>
+        <translation>A súgótémakörök listájának megjelenítése</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Névjegy</translation>
+    </message>
+    <message>
+        <source>Information about the program, its version and developer</source>
+        <translation>Tájékoztatás a programról, a verziójáról és a fejlesztőjéről</translation>
+    </message>
+    <message>
+        <source>Main toolbar</source>
+        <translation>Fő eszköztár</translation>
+    </message>
+    <message>
+        <source>Orders/Invoices</source>
+        <translation>Rendelések/számlák</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>Termékek</translation>
+    </message>
+    <message>
+        <source>Partners</source>
+        <translation>Partnerek</translation>
+    </message>
+    <message>
+        <source>New company...</source>
+        <translation>Új cég...</translation>
+    </message>
+    <message>
+        <source>Create a new company database</source>
+        <translation>Új cégadatbázis létrehozása</translation>
+    </message>
+    <message>
+        <source>Szamlak importalasa fajlbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Szamlakat tartalmazo fajl megnyitasa es importalasa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Termekek/szolgaltatasok importalasa fajlbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partnerek importalasa fajlbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partnereket tartalmazo fajl megnyitasa es importalasa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nyilatkozat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Csekkek</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NewCompanyLayout</name>
+    <message>
+        <source>New company</source>
+        <translation>Új cég</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
+        <source>Tax No</source>
+        <translation>Adószám</translation>
+    </message>
+    <message>
+        <source>ZIP</source>
+        <translation>Irányítószám</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Város</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Cím</translation>
+    </message>
+</context>
+<context>
+    <name>NoVatReasonEditLayout</name>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>No VAT Reason Code</source>
+        <translation>ÁFA-mentességi ok kódja</translation>
+    </message>
+    <message>
+        <source>Text To Invoice</source>
+        <translation>Számlára kerülő szöveg</translation>
+    </message>
+    <message>
+        <source>Text To Invoice Translations</source>
+        <translation>A számlára kerülő szöveg fordításai</translation>
+    </message>
+</context>
+<context>
+    <name>NoVatReasonTable</name>
+    <message>
+        <source>Name field must have a value.</source>
+        <translation>A megnevezés mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>No VAT Reasons</source>
+        <translation>ÁFA-mentesség okai</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>Ú&amp;j</translation>
+    </message>
+    <message>
+        <source>Select a no vat reason to edit.</source>
+        <translation>Válassza ki a szerkesztendő ÁFA-mentességi okot.</translation>
+    </message>
+    <message>
+        <source>Select a no vat reason to delete.</source>
+        <translation>Válassza ki a törlendő ÁFA-mentességi okot.</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the no vat reason?</source>
+        <translation>Biztosan törli az ÁFA-mentességi okot?</translation>
+    </message>
+    <message>
+        <source>You have to select a no vat reason.</source>
+        <translation>Ki kell választania egy ÁFA-mentességi okot.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Text To Invoice</source>
+        <translation>Számlára kerülő szöveg</translation>
+    </message>
+    <message>
+        <source>Add No VAT Reason</source>
+        <translation>Új ÁFA-mentességi ok</translation>
+    </message>
+    <message>
+        <source>Edit No VAT Reason</source>
+        <translation>ÁFA-mentességi ok szerkesztése</translation>
+    </message>
+    <message numerus="yes">
+        <source>This no-VAT reason is used by %n order(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>OrderCalc</name>
+    <message>
+        <source>Database error:&amp;</source>
+        <translation>Adatbázishiba:&amp;</translation>
+    </message>
+    <message>
+        <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+        <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+    </message>
+    <message>
+        <source>The forint (currency 0) is missing from the currencies.</source>
+        <translation>A forint (0-s pénznem) hiányzik a pénznemek közül.</translation>
+    </message>
+</context>
+<context>
+    <name>PartnerEditLayout</name>
+    <message>
+        <source>Partner</source>
+        <translation>Partner</translation>
+    </message>
+    <message>
+        <source>Partner Code</source>
+        <translation>Partnerkód</translation>
+    </message>
+    <message>
+        <source>Partner ID number in webshop</source>
+        <translation>A partner azonosítója a webáruházban</translation>
+    </message>
+    <message>
+        <source>Partner Name</source>
+        <translation>Partner neve</translation>
+    </message>
+    <message>
+        <source>ZIP</source>
+        <translation>Irányítószám</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Település</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Cím</translation>
+    </message>
+    <message>
+        <source>Tax No</source>
+        <translation>Adószám</translation>
+    </message>
+    <message>
+        <source>e.g tax id or any other data</source>
+        <translation>pl. adóazonosító jel vagy egyéb adat</translation>
+    </message>
+    <message>
+        <source>EU Tax No</source>
+        <translation>Közösségi adószám</translation>
+    </message>
+    <message>
+        <source>Payment Method</source>
+        <translation>Fizetési mód</translation>
+    </message>
+    <message>
+        <source>Payment Due Days</source>
+        <translation>Fizetési határidő (nap)</translation>
+    </message>
+    <message>
+        <source>If you leave it empty, default due days will be calculated, based on data in payment method window</source>
+        <translation>Ha üresen hagyja, a fizetési határidő a fizetési módnál megadott napok szerint számítódik</translation>
+    </message>
+    <message>
+        <source>Discount / Type Of Price</source>
+        <translation>Kedvezmény / ártípus</translation>
+    </message>
+    <message>
+        <source>Discount Percent</source>
+        <translation>Kedvezmény (%)</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Ország</translation>
+    </message>
+    <message>
+        <source>Countries...</source>
+        <translation>Országok...</translation>
+    </message>
+    <message>
+        <source>Second Invoice Language</source>
+        <translation>A számla második nyelve</translation>
+    </message>
+    <message>
+        <source>Languages...</source>
+        <translation>Nyelvek...</translation>
+    </message>
+    <message>
+        <source>Default Currency</source>
+        <translation>Alapértelmezett pénznem</translation>
+    </message>
+    <message>
+        <source>Currencies...</source>
+        <translation>Pénznemek...</translation>
+    </message>
+    <message>
+        <source>Other Billing Data</source>
+        <translation>Egyéb számlázási adatok</translation>
+    </message>
+    <message>
+        <source>Levelezesi cim</source>
+        <translation>Levelezési cím</translation>
+    </message>
+    <message>
+        <source>A levelezesi cim megegyezik a szamlazasi cimmel</source>
+        <translation>A levelezési cím megegyezik a számlázási címmel</translation>
+    </message>
+    <message>
+        <source>Partner Mail Name</source>
+        <translation>Név a levelezési címen</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Kapcsolattartó</translation>
+    </message>
+    <message>
+        <source>Contact Name</source>
+        <translation>Kapcsolattartó neve</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Mobile Phone</source>
+        <translation>Mobiltelefon</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Comment on Contact</source>
+        <translation>Megjegyzés a kapcsolattartóhoz</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Megjegyzés</translation>
+    </message>
+    <message>
+        <source>Comments on Partner</source>
+        <translation>Megjegyzések a partnerről</translation>
+    </message>
+</context>
+<context>
+    <name>PartnerFinder</name>
+    <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Település</translation>
+    </message>
+</context>
+<context>
+    <name>PartnerTable</name>
+    <message>
+        <source>Partner Name field must have a value.</source>
+        <translation>A partner neve mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
+        <translation>A partner levelezési címéhez tartozó nevet meg kell adni.</translation>
+    </message>
+    <message>
+        <source>Partners</source>
+        <translation>Partnerek</translation>
+    </message>
+    <message>
+        <source>&amp;New Partner</source>
+        <translation>Ú&amp;j partner</translation>
+    </message>
+    <message>
+        <source>Select a partner to edit.</source>
+        <translation>Válassza ki a szerkesztendő partnert.</translation>
+    </message>
+    <message>
+        <source>Select a partner to delete.</source>
+        <translation>Válassza ki a törlendő partnert.</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected partner?</source>
+        <translation>Biztosan törli a kijelölt partnert?</translation>
+    </message>
+    <message>
+        <source>You have to select a partner.</source>
+        <translation>Ki kell választania egy partnert.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
+        <source>ZIP</source>
+        <translation>Irányítószám</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Település</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Cím</translation>
+    </message>
+    <message>
+        <source>Other Data</source>
+        <translation>Egyéb adatok</translation>
+    </message>
+    <message>
+        <source>Payment Method</source>
+        <translation>Fizetési mód</translation>
+    </message>
+    <message>
+        <source>Due Days</source>
+        <translation>Fizetési határidő (nap)</translation>
+    </message>
+    <message>
+        <source>Type in first characters of partner name and press Enter to find</source>
+        <translation>Írja be a partner nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
+    </message>
+    <message>
+        <source>There are more matching partners then displayed. Try more specific filter.</source>
+        <translation>A feltételnek több partner felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
+    </message>
+    <message>
+        <source>Add Partner</source>
+        <translation>Új partner</translation>
+    </message>
+    <message>
+        <source>Partner szerkesztese:</source>
+        <translation>Partner szerkesztése:</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentMethodEditLayout</name>
+    <message>
+        <source>Payment Method</source>
+        <translation>Fizetési mód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Payment Method Code</source>
+        <translation>Fizetési mód kódja</translation>
+    </message>
+    <message>
+        <source>Default payment due days</source>
+        <translation>Alapértelmezett fizetési határidő (nap)</translation>
+    </message>
+    <message>
+        <source>Round Invoice Totals To 5</source>
+        <translation>Számlavégösszeg kerekítése 5 forintra</translation>
+    </message>
+    <message>
+        <source>Paid when invoice creataed</source>
+        <translation>Kiállításkor a számla kiegyenlítettnek számít</translation>
+    </message>
+    <message>
+        <source>Keszitsen csekket szamlanyomtatas utan</source>
+        <translation>Készítsen csekket számlanyomtatás után</translation>
+    </message>
+    <message>
+        <source>Comment on invoice when this method selected</source>
+        <translation>Megjegyzés a számlán e fizetési mód esetén</translation>
+    </message>
+    <message>
+        <source>Translations</source>
+        <translation>Fordítások</translation>
+    </message>
+    <message>
+        <source>You have to fill these below width both foreign and native language comments.</source>
+        <translation>Az alábbi megjegyzéseket idegen nyelven és magyarul is ki kell tölteni.</translation>
+    </message>
+</context>
+<context>
+    <name>PaymentMethodTable</name>
+    <message>
+        <source>Name field must have a value.</source>
+        <translation>A megnevezés mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Payment Methods</source>
+        <translation>Fizetési módok</translation>
+    </message>
+    <message>
+        <source>&amp;New Payment Method</source>
+        <translation>Ú&amp;j fizetési mód</translation>
+    </message>
+    <message>
+        <source>Select a payment metod to edit.</source>
+        <translation>Válassza ki a szerkesztendő fizetési módot.</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected payment method?</source>
+        <translation>Biztosan törli a kijelölt fizetési módot?</translation>
+    </message>
+    <message>
+        <source>You have to select a payment method.</source>
+        <translation>Ki kell választania egy fizetési módot.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Due Days</source>
+        <translation>Fizetési határidő (nap)</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Megjegyzés</translation>
+    </message>
+    <message>
+        <source>Add Payment Method</source>
+        <translation>Új fizetési mód</translation>
+    </message>
+    <message>
+        <source>Edit Payment Method</source>
+        <translation>Fizetési mód szerkesztése</translation>
+    </message>
+    <message numerus="yes">
+        <source>This payment method is used by %n partner(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This payment method is used by %n order(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProductEdit</name>
+    <message>
+        <source>Product Name Translations</source>
+        <translation>Terméknév fordításai</translation>
+    </message>
+    <message>
+        <source>Comment Translations</source>
+        <translation>Megjegyzés fordításai</translation>
+    </message>
+    <message>
+        <source>Unit Translations</source>
+        <translation>Mennyiségi egység fordításai</translation>
+    </message>
+</context>
+<context>
+    <name>ProductEditLayout</name>
+    <message>
+        <source>Product</source>
+        <translation>Termék</translation>
+    </message>
+    <message>
+        <source>Product Code</source>
+        <translation>Termékkód</translation>
+    </message>
+    <message>
+        <source>Product ID nuber in the webshop</source>
+        <translation>A termék azonosítója a webáruházban</translation>
+    </message>
+    <message>
+        <source>Product Name</source>
+        <translation>Termék neve</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Megjegyzés</translation>
+    </message>
+    <message>
+        <source>Stat No</source>
+        <translation>VTSZ/SZJ szám</translation>
+    </message>
+    <message>
+        <source>Find Stat No</source>
+        <translation>VTSZ/SZJ keresése</translation>
+    </message>
+    <message>
+        <source>Quantity Unit</source>
+        <translation>Mennyiségi egység</translation>
+    </message>
+    <message>
+        <source>VAT Key</source>
+        <translation>ÁFA-kulcs</translation>
+    </message>
+    <message>
+        <source>Find VAT Key</source>
+        <translation>ÁFA-kulcs keresése</translation>
+    </message>
+    <message>
+        <source>Net Price</source>
+        <translation>Nettó ár</translation>
+    </message>
+    <message>
+        <source>Gross Price</source>
+        <translation>Bruttó ár</translation>
+    </message>
+    <message>
+        <source>Translations</source>
+        <translation>Fordítások</translation>
+    </message>
+    <message>
+        <source>Prices In Foreign Currencies</source>
+        <translation>Árak idegen pénznemekben</translation>
+    </message>
+    <message>
+        <source>Prices In Different Currencies</source>
+        <translation>Árak különböző pénznemekben</translation>
+    </message>
+</context>
+<context>
+    <name>ProductFinder</name>
+    <message>
+        <source>Name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation>Nettó ár</translation>
+    </message>
+</context>
+<context>
+    <name>ProductPriceModel</name>
+    <message>
+        <source>Currency</source>
+        <translation>Pénznem</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Árfolyam</translation>
+    </message>
+    <message>
+        <source>Calculated Price</source>
+        <translation>Számított ár</translation>
+    </message>
+    <message>
+        <source>Overridden Price</source>
+        <translation>Felülírt ár</translation>
+    </message>
+</context>
+<context>
+    <name>ProductTable</name>
+    <message>
+        <source>Name field must have a value.</source>
+        <translation>A megnevezés mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Error in deleting product.</source>
+        <translation>A termék törlése nem sikerült.</translation>
+    </message>
+    <message>
+        <source>Price (%s)</source>
+        <translation>Ár (%s)</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation>Termékek</translation>
+    </message>
+    <message>
+        <source>&amp;New Product</source>
+        <translation>Ú&amp;j termék</translation>
+    </message>
+    <message>
+        <source>Select a product to edit.</source>
+        <translation>Válassza ki a szerkesztendő terméket.</translation>
+    </message>
+    <message>
+        <source>Select a product to delete.</source>
+        <translation>Válassza ki a törlendő terméket.</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected product?</source>
+        <translation>Biztosan törli a kijelölt terméket?</translation>
+    </message>
+    <message>
+        <source>You have to select a product.</source>
+        <translation>Ki kell választania egy terméket.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Stat No</source>
+        <translation>VTSZ/SZJ szám</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Mennyiségi egység</translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation>Nettó ár</translation>
+    </message>
+    <message>
+        <source>Type in first characters of product name and press Enter to find</source>
+        <translation>Írja be a termék nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
+    </message>
+    <message>
+        <source>There are more matching products then displayed. Try more specific filter.</source>
+        <translation>A feltételnek több termék felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
+    </message>
+    <message>
+        <source>Add Product</source>
+        <translation>Új termék</translation>
+    </message>
+    <message>
+        <source>Edit Product</source>
+        <translation>Termék szerkesztése</translation>
+    </message>
+</context>
+<context>
+    <name>RecordBrowse</name>
+    <message>
+        <source>Select a record to edit.</source>
+        <translation>Válassza ki a szerkesztendő sort.</translation>
+    </message>
+    <message>
+        <source>Select a record to delete.</source>
+        <translation>Válassza ki a törlendő sort.</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Új sor</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Szerkesztés</translation>
+    </message>
+    <message>
+        <source>Delete	Delete</source>
+        <translation>Törlés	Delete</translation>
+    </message>
+</context>
+<context>
+    <name>RecordBrowseLayout</name>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Név</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Keresés</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Szerkesztés</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Törlés</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Súgó</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Unable to start printing.</source>
+        <translation>Nem sikerült elindítani a nyomtatást.</translation>
+    </message>
+    <message>
+        <source>Unable to write file %s.</source>
+        <translation>Nem sikerült a(z) %s fájlt írni.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPrinter</name>
+    <message>
+        <source>Print Preview</source>
+        <translation>Nyomtatási kép</translation>
+    </message>
+</context>
+<context>
+    <name>Schema</name>
+    <message>
+        <source>Creating database tables</source>
+        <translation>Adatbázistáblák létrehozása</translation>
+    </message>
+    <message>
+        <source>Creating database indexes</source>
+        <translation>Adatbázis-indexek létrehozása</translation>
+    </message>
+    <message>
+        <source>Unable to insert basic data to database.</source>
+        <translation>Nem sikerült az alapadatokat az adatbázisba írni.</translation>
+    </message>
+</context>
+<context>
+    <name>Setup</name>
+    <message>
+        <source>Error loading setup data.</source>
+        <translation>Hiba a beállítások betöltésekor.</translation>
+    </message>
+    <message>
+        <source>Unable to update SETUP record.</source>
+        <translation>Nem sikerült a beállításokat menteni.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlErrorLayout</name>
+    <message>
+        <source>SQL error:</source>
+        <translation>SQL-hiba:</translation>
+    </message>
+    <message>
+        <source>Error statement:</source>
+        <translation>Hibás utasítás:</translation>
+    </message>
+    <message>
+        <source>SQL error</source>
+        <translation>SQL-hiba</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Újra</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+</context>
+<context>
+    <name>StatNoEditLayout</name>
+    <message>
+        <source>Stat No</source>
+        <translation>VTSZ/SZJ szám</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+</context>
+<context>
+    <name>StatNoTable</name>
+    <message>
+        <source>Stat No field must have a value.</source>
+        <translation>A VTSZ/SZJ szám mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Name field must have a value.</source>
+        <translation>A megnevezés mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Often Used Stat Numbers</source>
+        <translation>Gyakran használt VTSZ/SZJ számok</translation>
+    </message>
+    <message>
+        <source>&amp;New Stat No</source>
+        <translation>Ú&amp;j VTSZ/SZJ szám</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected Stat No?</source>
+        <translation>Biztosan törli a kijelölt VTSZ/SZJ számot?</translation>
+    </message>
+    <message>
+        <source>You have to select a stat no.</source>
+        <translation>Ki kell választania egy VTSZ/SZJ számot.</translation>
+    </message>
+    <message>
+        <source>Stat No</source>
+        <translation>VTSZ/SZJ szám</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Add Stat No</source>
+        <translation>Új VTSZ/SZJ szám</translation>
+    </message>
+    <message>
+        <source>Edit Stat No:</source>
+        <translation>VTSZ/SZJ szám szerkesztése:</translation>
+    </message>
+    <message numerus="yes">
+        <source>This stat number is used by %n product(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TableStore</name>
+    <message>
+        <source>Unable to save translation data.</source>
+        <translation>A fordítások mentése nem sikerült.</translation>
+    </message>
+    <message>
+        <source>Unable to save currency data.</source>
+        <translation>A pénznemenkénti árak mentése nem sikerült.</translation>
+    </message>
+    <message>
+        <source>Unable to load data from database.</source>
+        <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
+    </message>
+    <message>
+        <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+        <translation>Az adatok betöltése az adatbázisból nem sikerült.&amp;Lehet, hogy egy másik felhasználó időközben törölte.</translation>
+    </message>
+    <message>
+        <source>Unable to save data.</source>
+        <translation>Az adatok mentése nem sikerült.</translation>
+    </message>
+    <message>
+        <source>Unable to delete data.</source>
+        <translation>Az adatok törlése nem sikerült.</translation>
+    </message>
+    <message>
+        <source>The code &quot;%1&quot; is already used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TranslationModel</name>
+    <message>
+        <source>Language</source>
+        <translation>Nyelv</translation>
+    </message>
+</context>
+<context>
+    <name>VatEditLayout</name>
+    <message>
+        <source>Vat Code</source>
+        <translation>ÁFA-kód</translation>
+    </message>
+    <message>
+        <source>VAT Name</source>
+        <translation>ÁFA-kulcs neve</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Százalék</translation>
+    </message>
+</context>
+<context>
+    <name>VatTable</name>
+    <message>
+        <source>VAT Name field must have a value.</source>
+        <translation>Az ÁFA-kulcs neve mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>VAT Percent field must have a value.</source>
+        <translation>Az ÁFA-kulcs százaléka mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>VAT keys</source>
+        <translation>ÁFA-kulcsok</translation>
+    </message>
+    <message>
+        <source>&amp;New VAT key</source>
+        <translation>Ú&amp;j ÁFA-kulcs</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected VAT key?</source>
+        <translation>Biztosan törli a kijelölt ÁFA-kulcsot?</translation>
+    </message>
+    <message>
+        <source>You have to select a VAT key.</source>
+        <translation>Ki kell választania egy ÁFA-kulcsot.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kód</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Megnevezés</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Százalék</translation>
+    </message>
+    <message>
+        <source>Add VAT</source>
+        <translation>Új ÁFA-kulcs</translation>
+    </message>
+    <message>
+        <source>Edit VAT:</source>
+        <translation>ÁFA-kulcs szerkesztése:</translation>
+    </message>
+    <message numerus="yes">
+        <source>This VAT key is used by %n product(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>This VAT key is used by %n order item(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
 </TS>
