@@ -202,23 +202,23 @@
     </message>
     <message numerus="yes">
         <source>This country is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This country is used by %n partner.</numerusform>
+            <numerusform>This country is used by %n partners.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This country is the mailing country of %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This country is the mailing country of %n partner.</numerusform>
+            <numerusform>This country is the mailing country of %n partners.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This country is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This country is used by %n order.</numerusform>
+            <numerusform>This country is used by %n orders.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Arfolyam (1 %s ennyi HUF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exchange rate (1 %s in HUF)</translation>
     </message>
     <message>
         <source>Use default bank account data</source>
@@ -338,10 +338,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Currency Abbreviation field must have a value.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Exchange Rate field must have a value.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -351,30 +347,30 @@
     </message>
     <message numerus="yes">
         <source>This currency is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This currency is used by %n partner.</numerusform>
+            <numerusform>This currency is used by %n partners.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is used by %n country(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This currency is used by %n country.</numerusform>
+            <numerusform>This currency is used by %n countries.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is used by %n product price(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This currency is used by %n product price.</numerusform>
+            <numerusform>This currency is used by %n product prices.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This currency is used by %n order.</numerusform>
+            <numerusform>This currency is used by %n orders.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -418,6 +414,10 @@
     </message>
     <message>
         <source>Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abbreviation field must have a value.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -634,57 +634,53 @@
 </context>
 <context>
     <name>LangTable</name>
-    <message>
-        <source>Language field must have a value.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>This language is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n partner.</numerusform>
+            <numerusform>This language is used by %n partners.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n country(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n country.</numerusform>
+            <numerusform>This language is used by %n countries.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n order.</numerusform>
+            <numerusform>This language is used by %n orders.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n product translation(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n product translation.</numerusform>
+            <numerusform>This language is used by %n product translations.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n payment method translation(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n payment method translation.</numerusform>
+            <numerusform>This language is used by %n payment method translations.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n no-VAT reason translation(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n no-VAT reason translation.</numerusform>
+            <numerusform>This language is used by %n no-VAT reason translations.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n invoice label(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This language is used by %n invoice label.</numerusform>
+            <numerusform>This language is used by %n invoice labels.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -724,6 +720,14 @@
     </message>
     <message>
         <source>Edit Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code field must have a value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name field must have a value.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -899,27 +903,27 @@
     </message>
     <message>
         <source>Szamlak importalasa fajlbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Import invoices from file</translation>
     </message>
     <message>
         <source>Szamlakat tartalmazo fajl megnyitasa es importalasa</source>
-        <translation type="unfinished"></translation>
+        <translation>Open and import a file of invoices</translation>
     </message>
     <message>
         <source>Termekek/szolgaltatasok importalasa fajlbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Import products/services from file</translation>
     </message>
     <message>
         <source>Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa</source>
-        <translation type="unfinished"></translation>
+        <translation>Open and import a file of products/services</translation>
     </message>
     <message>
         <source>Partnerek importalasa fajlbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Import partners from file</translation>
     </message>
     <message>
         <source>Partnereket tartalmazo fajl megnyitasa es importalasa</source>
-        <translation type="unfinished"></translation>
+        <translation>Open and import a file of partners</translation>
     </message>
     <message>
         <source>Reports</source>
@@ -991,11 +995,11 @@
     </message>
     <message>
         <source>Nyilatkozat</source>
-        <translation type="unfinished"></translation>
+        <translation>Declaration</translation>
     </message>
     <message>
         <source>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese</source>
-        <translation type="unfinished"></translation>
+        <translation>Show the declaration under Ministry of Finance decree 24/1995. (XI. 22.)</translation>
     </message>
     <message>
         <source>About</source>
@@ -1023,7 +1027,7 @@
     </message>
     <message>
         <source>Csekkek</source>
-        <translation type="unfinished"></translation>
+        <translation>Cheques</translation>
     </message>
 </context>
 <context>
@@ -1080,9 +1084,9 @@
     </message>
     <message numerus="yes">
         <source>This no-VAT reason is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This no-VAT reason is used by %n order.</numerusform>
+            <numerusform>This no-VAT reason is used by %n orders.</numerusform>
         </translation>
     </message>
     <message>
@@ -1237,11 +1241,11 @@
     </message>
     <message>
         <source>Levelezesi cim</source>
-        <translation type="unfinished"></translation>
+        <translation>Mailing Address</translation>
     </message>
     <message>
         <source>A levelezesi cim megegyezik a szamlazasi cimmel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mailing address is the same as the billing address</translation>
     </message>
     <message>
         <source>Partner Mail Name</source>
@@ -1299,7 +1303,7 @@
     </message>
     <message>
         <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Partner Mail Name field must have a value.</translation>
     </message>
     <message>
         <source>Partners</source>
@@ -1371,7 +1375,7 @@
     </message>
     <message>
         <source>Partner szerkesztese:</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit Partner:</translation>
     </message>
 </context>
 <context>
@@ -1402,7 +1406,7 @@
     </message>
     <message>
         <source>Keszitsen csekket szamlanyomtatas utan</source>
-        <translation type="unfinished"></translation>
+        <translation>Make a cheque after printing the invoice</translation>
     </message>
     <message>
         <source>Comment on invoice when this method selected</source>
@@ -1425,16 +1429,16 @@
     </message>
     <message numerus="yes">
         <source>This payment method is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This payment method is used by %n partner.</numerusform>
+            <numerusform>This payment method is used by %n partners.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This payment method is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This payment method is used by %n order.</numerusform>
+            <numerusform>This payment method is used by %n orders.</numerusform>
         </translation>
     </message>
     <message>
@@ -1494,6 +1498,10 @@
     </message>
     <message>
         <source>Unit Translations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a price: type a number.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1593,10 +1601,6 @@
 <context>
     <name>ProductTable</name>
     <message>
-        <source>Name field must have a value.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Error in deleting product.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1662,6 +1666,10 @@
     </message>
     <message>
         <source>Edit Product</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product Name field must have a value.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1809,9 +1817,9 @@
     </message>
     <message numerus="yes">
         <source>This stat number is used by %n product(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This stat number is used by %n product.</numerusform>
+            <numerusform>This stat number is used by %n products.</numerusform>
         </translation>
     </message>
     <message>
@@ -1906,22 +1914,18 @@
         <source>VAT Name field must have a value.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>VAT Percent field must have a value.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>This VAT key is used by %n product(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This VAT key is used by %n product.</numerusform>
+            <numerusform>This VAT key is used by %n products.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This VAT key is used by %n order item(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This VAT key is used by %n order item.</numerusform>
+            <numerusform>This VAT key is used by %n order items.</numerusform>
         </translation>
     </message>
     <message>
@@ -1958,6 +1962,10 @@
     </message>
     <message>
         <source>Edit VAT:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent field must have a value.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -238,26 +238,26 @@
     </message>
     <message numerus="yes">
         <source>This country is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt az országot %n partner használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This country is the mailing country of %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ez az ország %n partner levelezési címének országa.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This country is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt az országot %n rendelés használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This country is the default of the settings.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ez az ország a beállítások alapértelmezett országa.</numerusform>
         </translation>
     </message>
 </context>
@@ -334,10 +334,6 @@
         <translation>A pénznem neve mezőt ki kell tölteni.</translation>
     </message>
     <message>
-        <source>Currency Abbreviation field must have a value.</source>
-        <translation>A pénznem rövidítése mezőt ki kell tölteni.</translation>
-    </message>
-    <message>
         <source>Exchange Rate field must have a value.</source>
         <translation>Az árfolyam mezőt ki kell tölteni.</translation>
     </message>
@@ -383,33 +379,37 @@
     </message>
     <message numerus="yes">
         <source>This currency is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a pénznemet %n partner használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is used by %n country(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a pénznemet %n ország használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is used by %n product price(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a pénznemet %n termékár használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a pénznemet %n rendelés használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This currency is the default of the settings.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ez a pénznem a beállítások alapértelmezett pénzneme.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Abbreviation field must have a value.</source>
+        <translation>A rövidítés mezőt ki kell tölteni.</translation>
     </message>
 </context>
 <context>
@@ -627,10 +627,6 @@
 <context>
     <name>LangTable</name>
     <message>
-        <source>Language field must have a value.</source>
-        <translation>A nyelv mezőt ki kell tölteni.</translation>
-    </message>
-    <message>
         <source>Languages</source>
         <translation>Nyelvek</translation>
     </message>
@@ -664,51 +660,59 @@
     </message>
     <message numerus="yes">
         <source>This language is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n partner használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n country(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n ország használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n rendelés használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n product translation(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n termékfordítás használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n payment method translation(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n fizetésimód-fordítás használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n no-VAT reason translation(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n ÁFA-mentességi ok fordítása használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is used by %n invoice label(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a nyelvet %n számlafelirat használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This language is the default of the settings.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ez a nyelv a beállítások alapértelmezett nyelve.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Code field must have a value.</source>
+        <translation>A kód mezőt ki kell tölteni.</translation>
+    </message>
+    <message>
+        <source>Name field must have a value.</source>
+        <translation>A megnevezés mezőt ki kell tölteni.</translation>
     </message>
 </context>
 <context>
@@ -975,39 +979,39 @@
     </message>
     <message>
         <source>Szamlak importalasa fajlbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Számlák importálása fájlból</translation>
     </message>
     <message>
         <source>Szamlakat tartalmazo fajl megnyitasa es importalasa</source>
-        <translation type="unfinished"></translation>
+        <translation>Számlákat tartalmazó fájl megnyitása és importálása</translation>
     </message>
     <message>
         <source>Termekek/szolgaltatasok importalasa fajlbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Termékek/szolgáltatások importálása fájlból</translation>
     </message>
     <message>
         <source>Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa</source>
-        <translation type="unfinished"></translation>
+        <translation>Termékeket/szolgáltatásokat tartalmazó fájl megnyitása és importálása</translation>
     </message>
     <message>
         <source>Partnerek importalasa fajlbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Partnerek importálása fájlból</translation>
     </message>
     <message>
         <source>Partnereket tartalmazo fajl megnyitasa es importalasa</source>
-        <translation type="unfinished"></translation>
+        <translation>Partnereket tartalmazó fájl megnyitása és importálása</translation>
     </message>
     <message>
         <source>Nyilatkozat</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyilatkozat</translation>
     </message>
     <message>
         <source>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese</source>
-        <translation type="unfinished"></translation>
+        <translation>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenítése</translation>
     </message>
     <message>
         <source>Csekkek</source>
-        <translation type="unfinished"></translation>
+        <translation>Csekkek</translation>
     </message>
 </context>
 <context>
@@ -1108,8 +1112,8 @@
     </message>
     <message numerus="yes">
         <source>This no-VAT reason is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt az ÁFA-mentességi okot %n rendelés használja.</numerusform>
         </translation>
     </message>
 </context>
@@ -1282,7 +1286,7 @@
     </message>
     <message>
         <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
-        <translation>A partner levelezési címéhez tartozó nevet meg kell adni.</translation>
+        <translation>A név a levelezési címen mezőt ki kell tölteni.</translation>
     </message>
     <message>
         <source>Partners</source>
@@ -1452,14 +1456,14 @@
     </message>
     <message numerus="yes">
         <source>This payment method is used by %n partner(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a fizetési módot %n partner használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This payment method is used by %n order(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a fizetési módot %n rendelés használja.</numerusform>
         </translation>
     </message>
 </context>
@@ -1476,6 +1480,10 @@
     <message>
         <source>Unit Translations</source>
         <translation>Mennyiségi egység fordításai</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a price: type a number.</source>
+        <translation>„%1” nem ár: számot írjon be.</translation>
     </message>
 </context>
 <context>
@@ -1574,10 +1582,6 @@
 <context>
     <name>ProductTable</name>
     <message>
-        <source>Name field must have a value.</source>
-        <translation>A megnevezés mezőt ki kell tölteni.</translation>
-    </message>
-    <message>
         <source>Error in deleting product.</source>
         <translation>A termék törlése nem sikerült.</translation>
     </message>
@@ -1644,6 +1648,10 @@
     <message>
         <source>Edit Product</source>
         <translation>Termék szerkesztése</translation>
+    </message>
+    <message>
+        <source>Product Name field must have a value.</source>
+        <translation>A termék neve mezőt ki kell tölteni.</translation>
     </message>
 </context>
 <context>
@@ -1822,8 +1830,8 @@
     </message>
     <message numerus="yes">
         <source>This stat number is used by %n product(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt a VTSZ/SZJ számot %n termék használja.</numerusform>
         </translation>
     </message>
 </context>
@@ -1855,7 +1863,7 @@
     </message>
     <message>
         <source>The code &quot;%1&quot; is already used.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) „%1” kód már foglalt.</translation>
     </message>
 </context>
 <context>
@@ -1885,10 +1893,6 @@
     <message>
         <source>VAT Name field must have a value.</source>
         <translation>Az ÁFA-kulcs neve mezőt ki kell tölteni.</translation>
-    </message>
-    <message>
-        <source>VAT Percent field must have a value.</source>
-        <translation>Az ÁFA-kulcs százaléka mezőt ki kell tölteni.</translation>
     </message>
     <message>
         <source>VAT keys</source>
@@ -1928,15 +1932,19 @@
     </message>
     <message numerus="yes">
         <source>This VAT key is used by %n product(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt az ÁFA-kulcsot %n termék használja.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This VAT key is used by %n order item(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ezt az ÁFA-kulcsot %n rendelési tétel használja.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Percent field must have a value.</source>
+        <translation>A százalék mezőt ki kell tölteni.</translation>
     </message>
 </context>
 </TS>
