@@ -22,13 +22,6 @@
 
 using namespace Col;
 
-// A source text of context c, marked for translation.
-#define TN(c, text)                                                                                \
-    TrText                                                                                         \
-    {                                                                                              \
-        c, QT_TRANSLATE_NOOP(c, text)                                                              \
-    }
-
 namespace {
 
 const TrText kSelectToEdit =
