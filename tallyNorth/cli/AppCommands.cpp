@@ -73,7 +73,7 @@ int RunCheck(CliContext& context, const QStringList& args)
     if (!ParseVerbArgs(args, {QStringLiteral("unpaid-methods")}, &positional, &options) ||
         !positional.isEmpty())
         return ExitUsage;
-    if (auto* cli = dynamic_cast<CliInteraction*>(context.interaction)) {
+    if (CliInteraction* cli = context.cliInteraction) {
         const QStringList methods =
             options.value(QStringLiteral("unpaid-methods")).split(u',', Qt::SkipEmptyParts);
         for (const QString& m : methods)

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QTextStream>
 
+class CliInteraction;
 class Interaction;
 
 struct CliContext
@@ -13,6 +14,8 @@ struct CliContext
     QString dbPath; // --db FILE, empty when not given
     QString language;
     Interaction* interaction = nullptr;
+    // The same object, for what only the command line gives it (answers from options).
+    CliInteraction* cliInteraction = nullptr;
     QTextStream* out = nullptr;
     QTextStream* err = nullptr;
 };

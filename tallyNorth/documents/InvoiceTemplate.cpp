@@ -1,10 +1,13 @@
 #include "InvoiceTemplate.h"
 
 #include "base/Setup.h"
+#include "base/SqlTransaction.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -157,4 +160,18 @@ InvoiceTemplate LoadTemplateFromSetup(const Setup& setup)
 InvoiceTemplate LoadTemplateFromSetup()
 {
     return LoadTemplateFromSetup(Setup::current());
+}
+
+Result InstallTemplate(const QString& directory, InvoiceTemplate& installed)
+{
+    installed = LoadTemplateDir(directory);
+    SqlTransaction transaction;
+    Result r = SaveTemplateToSetup(installed);
+    if (r) {
+        r = Setup::write({{QStringLiteral("SETUP_INVOICE_CURR_TMPL_DIR"),
+                           QFileInfo(directory).absoluteFilePath()}});
+    }
+    if (r && !transaction.commit())
+        r = Result::failure(QCoreApplication::translate("TableStore", "Unable to save data."));
+    return r;
 }
