@@ -1,5 +1,7 @@
 #include "InvoiceTemplate.h"
 
+#include "Columns.h"
+
 #include "base/Setup.h"
 #include "base/SqlTransaction.h"
 
@@ -168,7 +170,7 @@ Result InstallTemplate(const QString& directory, InvoiceTemplate& installed)
     SqlTransaction transaction;
     Result r = SaveTemplateToSetup(installed);
     if (r) {
-        r = Setup::write({{QStringLiteral("SETUP_INVOICE_CURR_TMPL_DIR"),
+        r = Setup::write({{QString::fromLatin1(Col::SETUP_INVOICE_CURR_TMPL_DIR),
                            QFileInfo(directory).absoluteFilePath()}});
     }
     if (r && !transaction.commit())
