@@ -90,8 +90,6 @@ Interaction& RecordBrowse::interaction()
 Result RecordBrowse::reload()
 {
     const std::optional<qint64> selected = currentId();
-    if (m_info.beforeLoad)
-        m_info.beforeLoad();
     ListQuery query;
     if (m_info.searchTip) {
         query.namePrefix = m_ui->m_name->text().trimmed();
