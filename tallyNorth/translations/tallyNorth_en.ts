@@ -576,10 +576,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Unable to save data.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The template is installed, but it is not certified: invoices can&apos;t be printed with it.</source>
         <translation type="unfinished"></translation>
     </message>

@@ -568,10 +568,6 @@
         <translation>Adjon meg egy létező cégadatbázist a --db FÁJL kapcsolóval.</translation>
     </message>
     <message>
-        <source>Unable to save data.</source>
-        <translation>Nem sikerült az adatokat menteni.</translation>
-    </message>
-    <message>
         <source>The template is installed, but it is not certified: invoices can&apos;t be printed with it.</source>
         <translation>A sablon telepítése megtörtént, de nem hitelesített: számlát nem lehet vele nyomtatni.</translation>
     </message>
