@@ -18,8 +18,8 @@ QString ResolveBaseFolder(const QString& commandLineChoice)
     const QString env = qEnvironmentVariable("TALLYNORTH_BASE");
     if (!env.isEmpty())
         return QDir(env).absolutePath();
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-        + QLatin1String("/tallyNorth");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QLatin1String("/tallyNorth");
 }
 
 void BaseFolder::set(const QString& path)

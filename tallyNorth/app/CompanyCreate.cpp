@@ -1,11 +1,11 @@
 #include "CompanyCreate.h"
 
 #include "CompanyList.h"
-#include "base/MessageArgs.h"
 #include "Schema.h"
 #include "ScopedConnection.h"
-#include "base/SqlStatement.h"
 #include "base/FoldName.h"
+#include "base/MessageArgs.h"
+#include "base/SqlStatement.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -16,12 +16,17 @@ QString ChooseLanguage(const QString& commandLineChoice)
 
 bool InstallLanguage(const QString& language)
 {
+    auto* app = QCoreApplication::instance();
     if (language == QLatin1String("en")) {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        // Plural forms and the few source texts written in Hungarian.
+        auto* own = new QTranslator(app);
+        if (!own->load(QStringLiteral(":/i18n/tallyNorth_en.qm")))
+            return false;
+        QCoreApplication::installTranslator(own);
         return true;
     }
     QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
-    auto* app = QCoreApplication::instance();
     auto* qt = new QTranslator(app);
     if (qt->load(QLocale(QLocale::Hungarian), QStringLiteral("qtbase"), QStringLiteral("_"),
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -14,8 +14,8 @@ QString FormatDate(const QDate& date)
 
 QDate ParseDate(const QString& text)
 {
-    static const QRegularExpression re(
-        QStringLiteral("^\\s*(\\d{4})\\s*[.\\-]\\s*(\\d{1,2})\\s*[.\\-]\\s*(\\d{1,2})\\s*\\.?\\s*$"));
+    static const QRegularExpression re(QStringLiteral(
+        "^\\s*(\\d{4})\\s*[.\\-]\\s*(\\d{1,2})\\s*[.\\-]\\s*(\\d{1,2})\\s*\\.?\\s*$"));
     const QRegularExpressionMatch m = re.match(text);
     if (!m.hasMatch())
         return {};

@@ -30,8 +30,8 @@ double ToNumber(const QVariant& value, double fallback)
         return fallback;
     bool ok = false;
     const double d = value.typeId() == QMetaType::QString
-        ? value.toString().trimmed().replace(u',', u'.').toDouble(&ok)
-        : value.toDouble(&ok);
+                         ? value.toString().trimmed().replace(u',', u'.').toDouble(&ok)
+                         : value.toDouble(&ok);
     return ok && std::isfinite(d) ? d : fallback;
 }
 

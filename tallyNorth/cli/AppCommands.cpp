@@ -83,7 +83,7 @@ int RunCheck(CliContext& context, const QStringList& args)
         return UsageError(
             context,
             QCoreApplication::translate("Cli", "unexpected argument %1").arg(positional.first()));
-    if (auto* cli = dynamic_cast<CliInteraction*>(context.interaction)) {
+    if (CliInteraction* cli = context.cliInteraction) {
         const QStringList methods =
             options.value(QStringLiteral("unpaid-methods")).split(u',', Qt::SkipEmptyParts);
         for (const QString& m : methods)

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QTextStream>
 
+class CliInteraction;
 class Interaction;
 
 struct CliContext
@@ -15,6 +16,8 @@ struct CliContext
     // What was wrong when a verb returns ExitUsage; printed with the verb's usage.
     QString usageError;
     Interaction* interaction = nullptr;
+    // The same object, for what only the command line gives it (answers from options).
+    CliInteraction* cliInteraction = nullptr;
     QTextStream* out = nullptr;
     QTextStream* err = nullptr;
 };

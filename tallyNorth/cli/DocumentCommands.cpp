@@ -2,8 +2,6 @@
 
 #include "app/CompanyChoice.h"
 #include "base/MessageArgs.h"
-#include "base/Setup.h"
-#include "base/SqlTransaction.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/QtfReader.h"
 #include "documents/Report.h"
@@ -131,17 +129,9 @@ int TemplateInstall(CliContext& context, const QString& dir)
     // wrong is shown through the interaction.
     if (!OpenCompany(context.dbPath, *context.interaction))
         return ExitFailure;
-    const InvoiceTemplate t = LoadTemplateDir(dir);
-    SqlTransaction transaction;
-    Result r = SaveTemplateToSetup(t);
-    if (r) {
-        r = Setup::write(
-            {{QStringLiteral("SETUP_INVOICE_CURR_TMPL_DIR"), QFileInfo(dir).absoluteFilePath()}});
-    }
-    if (!r || !transaction.commit()) {
-        PrintMessage(context,
-                     r ? QCoreApplication::translate("DocumentCommands", "Unable to save data.")
-                       : r.message());
+    InvoiceTemplate t;
+    if (const Result r = InstallTemplate(dir, t); !r) {
+        PrintMessage(context, r.message());
         return ExitFailure;
     }
     if (!t.certified())

@@ -167,6 +167,7 @@ int main(int argc, char* argv[])
 
     CliInteraction interaction(err);
     context.interaction = &interaction;
+    context.cliInteraction = &interaction;
     context.out = &out;
     context.err = &err;
     const QString verb = args.takeFirst();

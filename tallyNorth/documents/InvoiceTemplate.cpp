@@ -1,14 +1,17 @@
 #include "InvoiceTemplate.h"
 
+#include "Columns.h"
 #include "QtfReader.h"
 
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
+#include "base/SqlTransaction.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -177,4 +180,18 @@ InvoiceTemplate LoadTemplateFromSetup(const Setup& setup)
 InvoiceTemplate LoadTemplateFromSetup()
 {
     return LoadTemplateFromSetup(Setup::current());
+}
+
+Result InstallTemplate(const QString& directory, InvoiceTemplate& installed)
+{
+    installed = LoadTemplateDir(directory);
+    SqlTransaction transaction;
+    Result r = SaveTemplateToSetup(installed);
+    if (r) {
+        r = Setup::write({{QString::fromLatin1(Col::SETUP_INVOICE_CURR_TMPL_DIR),
+                           QFileInfo(directory).absoluteFilePath()}});
+    }
+    if (r && !transaction.commit())
+        r = Result::failure(QCoreApplication::translate("TableStore", "Unable to save data."));
+    return r;
 }

@@ -65,6 +65,11 @@ private:
 InvoiceTemplate LoadTemplateDir(const QString& directory);
 // Writes the pieces and the digest into SETUP in one statement.
 Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate);
+
+// Makes the template of directory the open company's invoice template: its texts and its folder
+// are stored in the settings in one transaction. installed receives what was read, so the caller
+// can tell whether it is certified.
+Result InstallTemplate(const QString& directory, InvoiceTemplate& installed);
 InvoiceTemplate LoadTemplateFromSetup(const Setup& setup);
 // From the settings of the open company.
 InvoiceTemplate LoadTemplateFromSetup();

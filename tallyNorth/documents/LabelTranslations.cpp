@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-Result LabelTranslations::Load()
+Result LabelTranslations::load()
 {
     m_texts.clear();
     SqlStatement st(QStringLiteral("select %1, %2, %3 from %4")
@@ -22,25 +22,25 @@ Result LabelTranslations::Load()
     while (st.next()) {
         if (IsNullValue(st.value(0)) || IsNullValue(st.value(1)))
             continue;
-        Set(st.value(1).toString(), int(ToInteger(st.value(0))), st.value(2).toString());
+        set(st.value(1).toString(), int(ToInteger(st.value(0))), st.value(2).toString());
     }
     return Result::success();
 }
 
-QString LabelTranslations::Get(const QString& key, int language) const
+QString LabelTranslations::get(const QString& key, int language) const
 {
     return m_texts.value(key).value(language);
 }
 
-QString LabelTranslations::GetBilingual(const QString& key, const QVariant& language) const
+QString LabelTranslations::bilingual(const QString& key, const QVariant& language) const
 {
-    const QString hungarian = Get(key, Hungarian);
+    const QString hungarian = get(key, Hungarian);
     if (hungarian.isEmpty())
         return hungarian;
-    return Join(ForeignText(key, language), hungarian);
+    return join(foreignText(key, language), hungarian);
 }
 
-QList<std::pair<QString, QString>> LabelTranslations::Placeholders(const QVariant& language) const
+QList<std::pair<QString, QString>> LabelTranslations::placeholders(const QVariant& language) const
 {
     QList<std::pair<QString, QString>> out;
     for (auto it = m_texts.cbegin(); it != m_texts.cend(); ++it) {
@@ -49,34 +49,34 @@ QList<std::pair<QString, QString>> LabelTranslations::Placeholders(const QVarian
             continue;
         QString name = it.key();
         name.replace(u'_', u'.');
-        out.append({name, Join(ForeignText(it.key(), language), hungarian)});
+        out.append({name, join(foreignText(it.key(), language), hungarian)});
     }
     return out;
 }
 
-QString LabelTranslations::ForeignText(const QString& key, const QVariant& language) const
+QString LabelTranslations::foreignText(const QString& key, const QVariant& language) const
 {
     // Hungarian is printed once: its own text is never the translation beside it.
     if (IsNullValue(language) || ToInteger(language) == Hungarian)
         return {};
-    return Get(key, int(ToInteger(language)));
+    return get(key, int(ToInteger(language)));
 }
 
-QString LabelTranslations::Join(const QString& translation, const QString& hungarian)
+QString LabelTranslations::join(const QString& translation, const QString& hungarian)
 {
     if (translation.isEmpty())
         return hungarian;
     return translation + QStringLiteral(" / ") + hungarian;
 }
 
-void LabelTranslations::FillPlaceholders(QMap<QString, QString>& map,
+void LabelTranslations::fillPlaceholders(QMap<QString, QString>& map,
                                          const QVariant& language) const
 {
-    for (const auto& [name, value] : Placeholders(language))
+    for (const auto& [name, value] : placeholders(language))
         map.insert(name, value);
 }
 
-void LabelTranslations::Set(const QString& key, int language, const QString& text)
+void LabelTranslations::set(const QString& key, int language, const QString& text)
 {
     m_texts[key][language] = text;
 }
@@ -91,5 +91,5 @@ void InstallLabelLoading()
 {
     // Invoices are printed with the labels of the company they are issued in.
     SetCompanyOpenedHook(QStringLiteral("labels"),
-                         [] { return LabelTranslations::current().Load(); });
+                         [] { return LabelTranslations::current().load(); });
 }

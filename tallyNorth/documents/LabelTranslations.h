@@ -19,30 +19,30 @@ public:
     static constexpr int Hungarian = 0;
 
     // Reads every row of the current database; on failure the store is left empty.
-    Result Load();
+    Result load();
 
     // The text stored for exactly this key and language, else the empty text.
-    QString Get(const QString& key, int language) const;
+    QString get(const QString& key, int language) const;
     // "translation / Hungarian", or the Hungarian text alone when the language (NULL or
     // Hungarian itself) has none of its own; the empty text without a Hungarian text.
-    QString GetBilingual(const QString& key, const QVariant& language) const;
+    QString bilingual(const QString& key, const QVariant& language) const;
 
     // The TR.* placeholders of a template, in key order: TR_BILL_TO gives TR.BILL.TO. Keys
     // without a Hungarian text are left out.
-    QList<std::pair<QString, QString>> Placeholders(const QVariant& language) const;
+    QList<std::pair<QString, QString>> placeholders(const QVariant& language) const;
     // Sets those placeholders in map, replacing values already there.
-    void FillPlaceholders(QMap<QString, QString>& map, const QVariant& language) const;
+    void fillPlaceholders(QMap<QString, QString>& map, const QVariant& language) const;
 
-    QStringList Keys() const { return m_texts.keys(); }
-    void Set(const QString& key, int language, const QString& text);
+    QStringList keys() const { return m_texts.keys(); }
+    void set(const QString& key, int language, const QString& text);
 
     // The labels of the open company; to be reloaded when a database is opened and after the
     // label editor saves.
     static LabelTranslations& current();
 
 private:
-    QString ForeignText(const QString& key, const QVariant& language) const;
-    static QString Join(const QString& translation, const QString& hungarian);
+    QString foreignText(const QString& key, const QVariant& language) const;
+    static QString join(const QString& translation, const QString& hungarian);
 
     QMap<QString, QMap<int, QString>> m_texts;
 };

@@ -108,7 +108,7 @@ const TableStore& VatStore()
         .orderBy = QStringLiteral("VAT_PERCENT, VAT_ID"),
         .required = {{VAT_NAME, QT_TRANSLATE_NOOP("VatTable", "VAT Name field must have a value.")},
                      {VAT_PERCENT,
-                      QT_TRANSLATE_NOOP("VatTable", "VAT Percent field must have a value.")}},
+                      QT_TRANSLATE_NOOP("VatTable", "Percent field must have a value.")}},
         .codeColumns = {VAT_CODE},
         .usedBy =
             {
@@ -139,8 +139,7 @@ const TableStore& CurrencyStore()
         .required = {{CURRENCY_NAME,
                       QT_TRANSLATE_NOOP("CurrencyTable", "Currency Name field must have a value.")},
                      {CURRENCY_ABBREVIATION,
-                      QT_TRANSLATE_NOOP("CurrencyTable",
-                                        "Currency Abbreviation field must have a value.")},
+                      QT_TRANSLATE_NOOP("CurrencyTable", "Abbreviation field must have a value.")},
                      {CURRENCY_RATE, QT_TRANSLATE_NOOP("CurrencyTable",
                                                        "Exchange Rate field must have a value.")}},
         .homeId = 0,
@@ -259,10 +258,8 @@ const TableStore& LangStore()
         .columns = {LANG_CODE, LANG_NAME},
         .nameColumn = LANG_NAME,
         .orderBy = QStringLiteral("LANG_ID"),
-        .required = {{LANG_CODE,
-                      QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")},
-                     {LANG_NAME,
-                      QT_TRANSLATE_NOOP("LangTable", "Language field must have a value.")}},
+        .required = {{LANG_CODE, QT_TRANSLATE_NOOP("LangTable", "Code field must have a value.")},
+                     {LANG_NAME, QT_TRANSLATE_NOOP("LangTable", "Name field must have a value.")}},
         .usedBy =
             {
                 {Tbl::PARTNER, PARTNER_LANG_ID,
@@ -387,7 +384,7 @@ const TableStore& ProductStore()
         .nameColumn = PRODUCT_NAME,
         .orderBy = QStringLiteral("PRODUCT_NAME_ASCII, PRODUCT_ID"),
         .required = {{PRODUCT_NAME,
-                      QT_TRANSLATE_NOOP("ProductTable", "Name field must have a value.")}},
+                      QT_TRANSLATE_NOOP("ProductTable", "Product Name field must have a value.")}},
         .codeColumns = {PRODUCT_CODE},
         .foldColumn = PRODUCT_NAME_ASCII,
         .children = {{Tbl::PRODUCTTRANSLATION,

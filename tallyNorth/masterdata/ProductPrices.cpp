@@ -11,14 +11,27 @@
 
 namespace {
 
-const QString kCurrencySelect =
-    QStringLiteral("select CURRENCY_ID, CURRENCY_NAME, CURRENCY_ABBREVIATION, CURRENCY_RATE, "
-                   "CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS from CURRENCYY ");
+using namespace Col;
+
+QString Name(const char* column)
+{
+    return QString::fromLatin1(column);
+}
+
+QString CurrencySelect()
+{
+    return QStringLiteral("select %1, %2, %3, %4, %5 from %6 ")
+        .arg(Name(CURRENCY_ID), Name(CURRENCY_NAME), Name(CURRENCY_ABBREVIATION),
+             Name(CURRENCY_RATE), Name(CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS),
+             Name(Tbl::CURRENCYY));
+}
 
 CurrencyRate ReadCurrency(const SqlStatement& st)
 {
-    return {st.value(0).toLongLong(), st.value(1).toString(), st.value(2).toString(),
-            ToNumber(st.value(3)), static_cast<int>(ToInteger(st.value(4)))};
+    return {
+        st.value(CURRENCY_ID).toLongLong(), st.value(CURRENCY_NAME).toString(),
+        st.value(CURRENCY_ABBREVIATION).toString(), ToNumber(st.value(CURRENCY_RATE)),
+        static_cast<int>(ToInteger(st.value(CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS)))};
 }
 
 QString LoadError()
@@ -38,8 +51,8 @@ std::optional<double> CalculatedPrice(double netPrice, const CurrencyRate& curre
 Result LoadForeignCurrencies(QList<CurrencyRate>& currencies)
 {
     currencies.clear();
-    SqlStatement st(kCurrencySelect +
-                    QStringLiteral("where CURRENCY_ID <> 0 order by CURRENCY_ID"));
+    SqlStatement st(CurrencySelect() +
+                    QStringLiteral("where %1 <> 0 order by %1").arg(Name(CURRENCY_ID)));
     if (!st.exec())
         return st.failure(LoadError());
     while (st.next())
@@ -49,11 +62,11 @@ Result LoadForeignCurrencies(QList<CurrencyRate>& currencies)
 
 std::optional<qint64> ListPriceCurrency()
 {
-    const qint64 preferred = Setup::current().integer(Col::SETUP_INVOICE_CURRENCY_ID);
-    const QVariant id =
-        SelectValue(QStringLiteral("select CURRENCY_ID from CURRENCYY where CURRENCY_ID <> 0 "
-                                   "order by CURRENCY_ID <> ?, CURRENCY_ID limit 1"),
-                    {preferred});
+    const qint64 preferred = Setup::current().integer(SETUP_INVOICE_CURRENCY_ID);
+    const QVariant id = SelectValue(QStringLiteral("select %1 from %2 where %1 <> 0 "
+                                                   "order by %1 <> ?, %1 limit 1")
+                                        .arg(Name(CURRENCY_ID), Name(Tbl::CURRENCYY)),
+                                    {preferred});
     return RowId(id);
 }
 
@@ -61,18 +74,22 @@ Result CurrencyPrices::load(qint64 currencyId)
 {
     m_currency = {};
     m_overridden.clear();
-    SqlStatement currency(kCurrencySelect + QStringLiteral("where CURRENCY_ID = ?"), {currencyId});
+    SqlStatement currency(CurrencySelect() + QStringLiteral("where %1 = ?").arg(Name(CURRENCY_ID)),
+                          {currencyId});
     if (!currency.exec() || !currency.next())
         return currency.failure(LoadError());
     m_currency = ReadCurrency(currency);
-    SqlStatement prices(QStringLiteral("select PRODUCTPRICE_PRODUCT_ID, PRODUCTPRICE_PRICE from "
-                                       "PRODUCTPRICE where PRODUCTPRICE_CURRENCY_ID = ?"),
+    SqlStatement prices(QStringLiteral("select %1, %2 from %3 where %4 = ?")
+                            .arg(Name(PRODUCTPRICE_PRODUCT_ID), Name(PRODUCTPRICE_PRICE),
+                                 Name(Tbl::PRODUCTPRICE), Name(PRODUCTPRICE_CURRENCY_ID)),
                         {currencyId});
     if (!prices.exec())
         return prices.failure(LoadError());
     while (prices.next()) {
-        if (!IsNullValue(prices.value(1)))
-            m_overridden.insert(prices.value(0).toLongLong(), ToNumber(prices.value(1)));
+        const QVariant price = prices.value(PRODUCTPRICE_PRICE);
+        if (!IsNullValue(price))
+            m_overridden.insert(prices.value(PRODUCTPRICE_PRODUCT_ID).toLongLong(),
+                                ToNumber(price));
     }
     return Result::success();
 }

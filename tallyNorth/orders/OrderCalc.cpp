@@ -171,12 +171,14 @@ Result LoadVatDetail(qint64 orderId, QList<VatDetail>& groups)
     QList<VatDetail> items;
     while (st.next()) {
         VatDetail item;
-        if (!IsNullValue(st.value(0)))
-            item.vatId = ToInteger(st.value(0));
-        item.name = st.value(1).toString();
-        item.percent = ToNumber(st.value(2));
-        item.code = st.value(3).toString();
-        item.totals = LineTotals::fromValues(st.value(4), st.value(5), st.value(6));
+        if (!IsNullValue(st.value(Col::ORDERITEM_VAT_ID)))
+            item.vatId = ToInteger(st.value(Col::ORDERITEM_VAT_ID));
+        item.name = st.value(Col::ORDERITEM_VAT_NAME).toString();
+        item.percent = ToNumber(st.value(Col::ORDERITEM_VAT_PERCENT));
+        item.code = st.value(Col::ORDERITEM_VAT_CODE).toString();
+        item.totals = LineTotals::fromValues(st.value(Col::ORDERITEM_TOTAL_NET),
+                                             st.value(Col::ORDERITEM_TOTAL_VAT),
+                                             st.value(Col::ORDERITEM_TOTAL_GROSS));
         items.append(item);
     }
     groups = GroupVatDetail(items);
@@ -255,8 +257,10 @@ Result LoadItemTotals(qint64 orderId, QList<ItemTotals>& items)
     if (!st.exec())
         return DatabaseFailure(st);
     while (st.next())
-        items.append({ToInteger(st.value(0)),
-                      LineTotals::fromValues(st.value(1), st.value(2), st.value(3))});
+        items.append({ToInteger(st.value(Col::ORDERITEM_ID)),
+                      LineTotals::fromValues(st.value(Col::ORDERITEM_TOTAL_NET),
+                                             st.value(Col::ORDERITEM_TOTAL_VAT),
+                                             st.value(Col::ORDERITEM_TOTAL_GROSS))});
     return Result::success();
 }
 
@@ -274,8 +278,10 @@ Result ConvertToLocal(qint64 orderId, double rate, const LineTotals& orderTotals
     if (!local.next())
         return Result::failure(QCoreApplication::translate(
             "OrderCalc", "The forint (currency 0) is missing from the currencies."));
-    const int lineDecimals = int(ToInteger(local.value(0)));
-    const int invoiceDecimals = int(ToInteger(local.value(1)));
+    const int lineDecimals =
+        int(ToInteger(local.value(Col::CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS)));
+    const int invoiceDecimals =
+        int(ToInteger(local.value(Col::CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS)));
 
     QList<ItemTotals> items;
     if (Result r = LoadItemTotals(orderId, items); !r)
@@ -304,10 +310,11 @@ Result CalcLocalCurrencyTotals(qint64 orderId)
         return DatabaseFailure(order);
     if (!order.next())
         return OrderMissing();
-    const bool forint = ToInteger(order.value(0)) == 0;
-    const double rate = ToNumber(order.value(1));
-    const LineTotals totals =
-        LineTotals::fromValues(order.value(2), order.value(3), order.value(4));
+    const bool forint = ToInteger(order.value(Col::ORDERHEAD_CURRENCY_ID)) == 0;
+    const double rate = ToNumber(order.value(Col::ORDERHEAD_CURRENCY_RATE));
+    const LineTotals totals = LineTotals::fromValues(order.value(Col::ORDERHEAD_TOTAL_NET),
+                                                     order.value(Col::ORDERHEAD_TOTAL_VAT),
+                                                     order.value(Col::ORDERHEAD_TOTAL_GROSS));
     order.query().finish();
 
     const Result r = forint ? CopyToLocal(orderId) : ConvertToLocal(orderId, rate, totals);

@@ -52,6 +52,88 @@
         </message>
     </context>
     <context>
+        <name>CancelInvoice</name>
+        <message>
+            <source>Can't create Cancel Invoice.</source>
+            <translation>A sztornó számlát nem sikerült létrehozni.</translation>
+        </message>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Only an issued invoice can be cancelled.</source>
+            <translation>Csak kiállított számla sztornózható.</translation>
+        </message>
+        <message>
+            <source>Cancelled invoice can not be cancelled.</source>
+            <translation>Sztornózott számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>A cancelling invoice can not be cancelled.</source>
+            <translation>Sztornó számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>This invoice already has a cancelling invoice waiting to be printed.</source>
+            <translation>Ennek a számlának már van nyomtatásra váró sztornó számlája.</translation>
+        </message>
+        <message>
+            <source>Unable to create cancel invoice in database.</source>
+            <translation>A sztornó számlát nem sikerült létrehozni az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>Unable to create items of cancel invoice in database.</source>
+            <translation>A sztornó számla tételeit nem sikerült létrehozni az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>This is the cancel invoice of No %s</source>
+            <translation>Ez a(z) %s sorszámú számla sztornó számlája</translation>
+        </message>
+    </context>
+    <context>
+        <name>Cli</name>
+        <message>
+            <source>unexpected argument %1</source>
+            <translation>váratlan argumentum: %1</translation>
+        </message>
+        <message>
+            <source>give the company's name once</source>
+            <translation>a cég nevét pontosan egyszer adja meg</translation>
+        </message>
+        <message>
+            <source>--tax-no is missing</source>
+            <translation>hiányzik a --tax-no</translation>
+        </message>
+        <message>
+            <source>unknown option %1</source>
+            <translation>ismeretlen kapcsoló: %1</translation>
+        </message>
+        <message>
+            <source>%1 needs a value</source>
+            <translation>a(z) %1 kapcsolónak értéket kell adni</translation>
+        </message>
+        <message>
+            <source>unknown language %1 (hu or en)</source>
+            <translation>ismeretlen nyelv: %1 (hu vagy en)</translation>
+        </message>
+        <message>
+            <source>no command given</source>
+            <translation>nincs megadva parancs</translation>
+        </message>
+        <message>
+            <source>unknown command %1</source>
+            <translation>ismeretlen parancs: %1</translation>
+        </message>
+        <message>
+            <source>give exactly one backup file</source>
+            <translation>pontosan egy biztonsági mentés fájlt adjon meg</translation>
+        </message>
+    </context>
+    <context>
         <name>CompanyChoice</name>
         <message>
             <source>%s does not exists.</source>
@@ -74,14 +156,14 @@
             <translation>Az adatbázis/cég sikeresen átváltva erre:&amp;%s</translation>
         </message>
         <message>
-        <source>A restore of the company file was interrupted. The previous file has been put back:&amp;%s</source>
-        <translation>A cégadatbázis visszaállítása megszakadt. Az előző fájl vissza lett téve a helyére:&amp;%s</translation>
-    </message>
-    <message>
-        <source>The company file is read-only:&amp;%s</source>
-        <translation>A cégadatbázis fájlja csak olvasható:&amp;%s</translation>
-    </message>
-</context>
+            <source>A restore of the company file was interrupted. The previous file has been put back:&amp;%s</source>
+            <translation>A cégadatbázis visszaállítása megszakadt. Az előző fájl vissza lett téve a helyére:&amp;%s</translation>
+        </message>
+        <message>
+            <source>The company file is read-only:&amp;%s</source>
+            <translation>A cégadatbázis fájlja csak olvasható:&amp;%s</translation>
+        </message>
+    </context>
     <context>
         <name>CompanyCreate</name>
         <message>
@@ -106,6 +188,29 @@
         </message>
     </context>
     <context>
+        <name>CompanyFile</name>
+        <message>
+            <source>The file is not a company database:&amp;%s</source>
+            <translation>A fájl nem cégadatbázis:&amp;%s</translation>
+        </message>
+        <message>
+            <source>The company database file is damaged:&amp;%s</source>
+            <translation>A cégadatbázis fájlja sérült:&amp;%s</translation>
+        </message>
+        <message>
+            <source>The company database file is in use by another program:&amp;%s&amp;Try again later.</source>
+            <translation>A cégadatbázis fájlját egy másik program használja:&amp;%s&amp;Próbálja újra később.</translation>
+        </message>
+        <message>
+            <source>The file cannot be read:&amp;%s</source>
+            <translation>A fájl nem olvasható:&amp;%s</translation>
+        </message>
+        <message>
+            <source>The file cannot be written:&amp;%s</source>
+            <translation>A fájl nem írható:&amp;%s</translation>
+        </message>
+    </context>
+    <context>
         <name>CompanyListModel</name>
         <message>
             <source>Name</source>
@@ -126,6 +231,13 @@
         <message>
             <source>Tax No</source>
             <translation>Adószám</translation>
+        </message>
+    </context>
+    <context>
+        <name>CompanyLock</name>
+        <message>
+            <source>The company file is being upgraded, restored or backed up by another program:&amp;%s&amp;Try again when it has finished.</source>
+            <translation>A cégadatbázis fájlját egy másik program éppen frissíti, visszaállítja vagy menti:&amp;%s&amp;Próbálja újra, ha az befejeződött.</translation>
         </message>
     </context>
     <context>
@@ -244,6 +356,30 @@
             <source>Name In Addresses</source>
             <translation>Név a postai címben</translation>
         </message>
+        <message numerus="yes">
+            <source>This country is used by %n partner(s).</source>
+            <translation>
+                <numerusform>Ezt az országot %n partner használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This country is the mailing country of %n partner(s).</source>
+            <translation>
+                <numerusform>Ez az ország %n partner levelezési címének országa.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This country is used by %n order(s).</source>
+            <translation>
+                <numerusform>Ezt az országot %n rendelés használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This country is the default of the settings.</source>
+            <translation>
+                <numerusform>Ez az ország a beállítások alapértelmezett országa.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>CurrencyEditLayout</name>
@@ -318,10 +454,6 @@
             <translation>A pénznem neve mezőt ki kell tölteni.</translation>
         </message>
         <message>
-            <source>Currency Abbreviation field must have a value.</source>
-            <translation>A pénznem rövidítése mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
             <source>Exchange Rate field must have a value.</source>
             <translation>Az árfolyam mezőt ki kell tölteni.</translation>
         </message>
@@ -364,6 +496,40 @@
         <message>
             <source>Rate</source>
             <translation>Árfolyam</translation>
+        </message>
+        <message numerus="yes">
+            <source>This currency is used by %n partner(s).</source>
+            <translation>
+                <numerusform>Ezt a pénznemet %n partner használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This currency is used by %n country(s).</source>
+            <translation>
+                <numerusform>Ezt a pénznemet %n ország használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This currency is used by %n product price(s).</source>
+            <translation>
+                <numerusform>Ezt a pénznemet %n termékár használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This currency is used by %n order(s).</source>
+            <translation>
+                <numerusform>Ezt a pénznemet %n rendelés használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This currency is the default of the settings.</source>
+            <translation>
+                <numerusform>Ez a pénznem a beállítások alapértelmezett pénzneme.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Abbreviation field must have a value.</source>
+            <translation>A rövidítés mezőt ki kell tölteni.</translation>
         </message>
     </context>
     <context>
@@ -522,10 +688,6 @@
             <translation>Adjon meg egy létező cégadatbázist a --db FÁJL kapcsolóval.</translation>
         </message>
         <message>
-            <source>Unable to save data.</source>
-            <translation>Nem sikerült az adatokat menteni.</translation>
-        </message>
-        <message>
             <source>The template is installed, but it is not certified: invoices can't be printed with it.</source>
             <translation>A sablon telepítése megtörtént, de nem hitelesített: számlát nem lehet vele nyomtatni.</translation>
         </message>
@@ -565,10 +727,119 @@
         </message>
     </context>
     <context>
+        <name>InvoiceIssue</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>It is not allowed to print an invoice without items.</source>
+            <translation>Tételek nélküli számlát nem szabad nyomtatni.</translation>
+        </message>
+        <message>
+            <source>Invoice copies to print</source>
+            <translation>Nyomtatandó számlapéldányok</translation>
+        </message>
+        <message>
+            <source>Printing invoices. Please wait.</source>
+            <translation>Számlák nyomtatása. Kérem, várjon.</translation>
+        </message>
+        <message>
+            <source>Invoice template currently set up is not certified.&amp;Change it to a certified one in Setup</source>
+            <translation>A jelenleg beállított számlasablon nem hitelesített.&amp;Cserélje hitelesítettre a Beállításokban</translation>
+        </message>
+        <message>
+            <source>Can't print invoice</source>
+            <translation>A számlát nem sikerült kinyomtatni</translation>
+        </message>
+        <message>
+            <source>Invoice Sample</source>
+            <translation>Számlaminta</translation>
+        </message>
+    </context>
+    <context>
+        <name>InvoiceNumbering</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Maybe an other user changed this order.</source>
+            <translation>Lehet, hogy egy másik felhasználó módosította ezt a rendelést.</translation>
+        </message>
+        <message>
+            <source>Printing date of invoice No. %s is in the future.&amp;Printing this invoice with No. %s would be against the law.</source>
+            <translation>A(z) %s sorszámú számla kelte a jövőben van.&amp;Ennek a számlának a kinyomtatása %s sorszámmal törvénybe ütközne.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Cancelled invoice can not be cancelled.</source>
+            <translation>Sztornózott számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>The invoice of this order is missing from the database.</source>
+            <translation>A rendelés számlája hiányzik az adatbázisból.</translation>
+        </message>
+        <message>
+            <source>There is no invoice with No. %s.</source>
+            <translation>Nincs %s sorszámú számla.</translation>
+        </message>
+    </context>
+    <context>
+        <name>InvoiceRender</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>By Items</source>
+            <translation>Tételenként</translation>
+        </message>
+        <message>
+            <source>This is an invoice sample. You can not get VAT back on this.</source>
+            <translation>Ez egy számlaminta. Az ÁFA nem igényelhető vissza rá.</translation>
+        </message>
+        <message>
+            <source>The comment of the invoice is printed here: the payment terms, a word of thanks.</source>
+            <translation>Itt jelenik meg a számla megjegyzése: a fizetési feltételek, egy köszönő szó.</translation>
+        </message>
+        <message>
+            <source>Current invoice template in setup doesn't support consolidated invoice.&amp;Setup an other template.</source>
+            <translation>A beállított számlasablon nem támogatja a gyűjtőszámlát.&amp;Állítson be másik sablont.</translation>
+        </message>
+        <message>
+            <source>Tetelek nelkuli szamla nem nyomtathato.</source>
+            <translation>Tételek nélküli számla nem nyomtatható.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>The logo set up for invoices is not a picture.&amp;Choose another one in Setup or do not print a logo.</source>
+            <translation>A számlákhoz beállított logó nem kép.&amp;Válasszon másikat a Beállításokban, vagy ne nyomtasson logót.</translation>
+        </message>
+        <message>
+            <source>Original copy</source>
+            <translation>eredeti</translation>
+        </message>
+        <message>
+            <source>Invoice Sample</source>
+            <translation>Számlaminta</translation>
+        </message>
+    </context>
+    <context>
         <name>InvoiceTemplate</name>
         <message>
-            <source>%s, line %s: the paragraph codes of the block closed before &quot;&amp;&quot; are lost; put the &quot;&amp;&quot; inside the block.</source>
-            <translation>%s, %s. sor: a &quot;&amp;&quot; előtt lezárt blokk bekezdéskódjai elvesznek; tegye a &quot;&amp;&quot; jelet a blokkon belülre.</translation>
+            <source>%s, line %s: the paragraph codes of the block closed before "&amp;" are lost; put the "&amp;" inside the block.</source>
+            <translation>%s, %s. sor: a "&amp;" előtt lezárt blokk bekezdéskódjai elvesznek; tegye a "&amp;" jelet a blokkon belülre.</translation>
         </message>
     </context>
     <context>
@@ -591,10 +862,6 @@
     </context>
     <context>
         <name>LangTable</name>
-        <message>
-            <source>Language field must have a value.</source>
-            <translation>A nyelv mezőt ki kell tölteni.</translation>
-        </message>
         <message>
             <source>Languages</source>
             <translation>Nyelvek</translation>
@@ -626,6 +893,62 @@
         <message>
             <source>Edit Language:</source>
             <translation>Nyelv szerkesztése:</translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n partner(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n partner használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n country(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n ország használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n order(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n rendelés használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n product translation(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n termékfordítás használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n payment method translation(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n fizetésimód-fordítás használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n no-VAT reason translation(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n ÁFA-mentességi ok fordítása használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is used by %n invoice label(s).</source>
+            <translation>
+                <numerusform>Ezt a nyelvet %n számlafelirat használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This language is the default of the settings.</source>
+            <translation>
+                <numerusform>Ez a nyelv a beállítások alapértelmezett nyelve.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Code field must have a value.</source>
+            <translation>A kód mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Name field must have a value.</source>
+            <translation>A megnevezés mezőt ki kell tölteni.</translation>
         </message>
     </context>
     <context>
@@ -890,6 +1213,42 @@
             <source>Create a new company database</source>
             <translation>Új cégadatbázis létrehozása</translation>
         </message>
+        <message>
+            <source>Szamlak importalasa fajlbol</source>
+            <translation>Számlák importálása fájlból</translation>
+        </message>
+        <message>
+            <source>Szamlakat tartalmazo fajl megnyitasa es importalasa</source>
+            <translation>Számlákat tartalmazó fájl megnyitása és importálása</translation>
+        </message>
+        <message>
+            <source>Termekek/szolgaltatasok importalasa fajlbol</source>
+            <translation>Termékek/szolgáltatások importálása fájlból</translation>
+        </message>
+        <message>
+            <source>Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa</source>
+            <translation>Termékeket/szolgáltatásokat tartalmazó fájl megnyitása és importálása</translation>
+        </message>
+        <message>
+            <source>Partnerek importalasa fajlbol</source>
+            <translation>Partnerek importálása fájlból</translation>
+        </message>
+        <message>
+            <source>Partnereket tartalmazo fajl megnyitasa es importalasa</source>
+            <translation>Partnereket tartalmazó fájl megnyitása és importálása</translation>
+        </message>
+        <message>
+            <source>Nyilatkozat</source>
+            <translation>Nyilatkozat</translation>
+        </message>
+        <message>
+            <source>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese</source>
+            <translation>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenítése</translation>
+        </message>
+        <message>
+            <source>Csekkek</source>
+            <translation>Csekkek</translation>
+        </message>
     </context>
     <context>
         <name>NewCompanyLayout</name>
@@ -987,6 +1346,12 @@
             <source>Edit No VAT Reason</source>
             <translation>ÁFA-mentességi ok szerkesztése</translation>
         </message>
+        <message numerus="yes">
+            <source>This no-VAT reason is used by %n order(s).</source>
+            <translation>
+                <numerusform>Ezt az ÁFA-mentességi okot %n rendelés használja.</numerusform>
+            </translation>
+        </message>
     </context>
     <context>
         <name>OrderCalc</name>
@@ -1001,787 +1366,6 @@
         <message>
             <source>The forint (currency 0) is missing from the currencies.</source>
             <translation>A forint (0-s pénznem) hiányzik a pénznemek közül.</translation>
-        </message>
-    </context>
-    <context>
-        <name>PartnerEditLayout</name>
-        <message>
-            <source>Partner</source>
-            <translation>Partner</translation>
-        </message>
-        <message>
-            <source>Partner Code</source>
-            <translation>Partnerkód</translation>
-        </message>
-        <message>
-            <source>Partner ID number in webshop</source>
-            <translation>A partner azonosítója a webáruházban</translation>
-        </message>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-        <message>
-            <source>Address</source>
-            <translation>Cím</translation>
-        </message>
-        <message>
-            <source>Tax No</source>
-            <translation>Adószám</translation>
-        </message>
-        <message>
-            <source>e.g tax id or any other data</source>
-            <translation>pl. adóazonosító jel vagy egyéb adat</translation>
-        </message>
-        <message>
-            <source>EU Tax No</source>
-            <translation>Közösségi adószám</translation>
-        </message>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Payment Due Days</source>
-            <translation>Fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>If you leave it empty, default due days will be calculated, based on data in payment method window</source>
-            <translation>Ha üresen hagyja, a fizetési határidő a fizetési módnál megadott napok szerint számítódik</translation>
-        </message>
-        <message>
-            <source>Discount / Type Of Price</source>
-            <translation>Kedvezmény / ártípus</translation>
-        </message>
-        <message>
-            <source>Discount Percent</source>
-            <translation>Kedvezmény (%)</translation>
-        </message>
-        <message>
-            <source>Country</source>
-            <translation>Ország</translation>
-        </message>
-        <message>
-            <source>Countries...</source>
-            <translation>Országok...</translation>
-        </message>
-        <message>
-            <source>Second Invoice Language</source>
-            <translation>A számla második nyelve</translation>
-        </message>
-        <message>
-            <source>Languages...</source>
-            <translation>Nyelvek...</translation>
-        </message>
-        <message>
-            <source>Default Currency</source>
-            <translation>Alapértelmezett pénznem</translation>
-        </message>
-        <message>
-            <source>Currencies...</source>
-            <translation>Pénznemek...</translation>
-        </message>
-        <message>
-            <source>Other Billing Data</source>
-            <translation>Egyéb számlázási adatok</translation>
-        </message>
-        <message>
-            <source>Levelezesi cim</source>
-            <translation>Levelezési cím</translation>
-        </message>
-        <message>
-            <source>A levelezesi cim megegyezik a szamlazasi cimmel</source>
-            <translation>A levelezési cím megegyezik a számlázási címmel</translation>
-        </message>
-        <message>
-            <source>Partner Mail Name</source>
-            <translation>Név a levelezési címen</translation>
-        </message>
-        <message>
-            <source>Contact</source>
-            <translation>Kapcsolattartó</translation>
-        </message>
-        <message>
-            <source>Contact Name</source>
-            <translation>Kapcsolattartó neve</translation>
-        </message>
-        <message>
-            <source>Phone</source>
-            <translation>Telefon</translation>
-        </message>
-        <message>
-            <source>Mobile Phone</source>
-            <translation>Mobiltelefon</translation>
-        </message>
-        <message>
-            <source>Email</source>
-            <translation>E-mail</translation>
-        </message>
-        <message>
-            <source>Comment on Contact</source>
-            <translation>Megjegyzés a kapcsolattartóhoz</translation>
-        </message>
-        <message>
-            <source>Comment</source>
-            <translation>Megjegyzés</translation>
-        </message>
-        <message>
-            <source>Comments on Partner</source>
-            <translation>Megjegyzések a partnerről</translation>
-        </message>
-    </context>
-    <context>
-        <name>PartnerFinder</name>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-    </context>
-    <context>
-        <name>PartnerTable</name>
-        <message>
-            <source>Partner Name field must have a value.</source>
-            <translation>A partner neve mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
-            <translation>A partner levelezési címéhez tartozó nevet meg kell adni.</translation>
-        </message>
-        <message>
-            <source>Partners</source>
-            <translation>Partnerek</translation>
-        </message>
-        <message>
-            <source>&amp;New Partner</source>
-            <translation>Ú&amp;j partner</translation>
-        </message>
-        <message>
-            <source>Select a partner to edit.</source>
-            <translation>Válassza ki a szerkesztendő partnert.</translation>
-        </message>
-        <message>
-            <source>Select a partner to delete.</source>
-            <translation>Válassza ki a törlendő partnert.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected partner?</source>
-            <translation>Biztosan törli a kijelölt partnert?</translation>
-        </message>
-        <message>
-            <source>You have to select a partner.</source>
-            <translation>Ki kell választania egy partnert.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-        <message>
-            <source>Address</source>
-            <translation>Cím</translation>
-        </message>
-        <message>
-            <source>Other Data</source>
-            <translation>Egyéb adatok</translation>
-        </message>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Due Days</source>
-            <translation>Fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>Type in first characters of partner name and press Enter to find</source>
-            <translation>Írja be a partner nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
-        </message>
-        <message>
-            <source>There are more matching partners then displayed. Try more specific filter.</source>
-            <translation>A feltételnek több partner felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
-        </message>
-        <message>
-            <source>Add Partner</source>
-            <translation>Új partner</translation>
-        </message>
-        <message>
-            <source>Partner szerkesztese:</source>
-            <translation>Partner szerkesztése:</translation>
-        </message>
-    </context>
-    <context>
-        <name>PaymentMethodEditLayout</name>
-        <message>
-            <source>Payment Method</source>
-            <translation>Fizetési mód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Payment Method Code</source>
-            <translation>Fizetési mód kódja</translation>
-        </message>
-        <message>
-            <source>Default payment due days</source>
-            <translation>Alapértelmezett fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>Round Invoice Totals To 5</source>
-            <translation>Számlavégösszeg kerekítése 5 forintra</translation>
-        </message>
-        <message>
-            <source>Paid when invoice creataed</source>
-            <translation>Kiállításkor a számla kiegyenlítettnek számít</translation>
-        </message>
-        <message>
-            <source>Keszitsen csekket szamlanyomtatas utan</source>
-            <translation>Készítsen csekket számlanyomtatás után</translation>
-        </message>
-        <message>
-            <source>Comment on invoice when this method selected</source>
-            <translation>Megjegyzés a számlán e fizetési mód esetén</translation>
-        </message>
-        <message>
-            <source>Translations</source>
-            <translation>Fordítások</translation>
-        </message>
-        <message>
-            <source>You have to fill these below width both foreign and native language comments.</source>
-            <translation>Az alábbi megjegyzéseket idegen nyelven és magyarul is ki kell tölteni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>PaymentMethodTable</name>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Payment Methods</source>
-            <translation>Fizetési módok</translation>
-        </message>
-        <message>
-            <source>&amp;New Payment Method</source>
-            <translation>Ú&amp;j fizetési mód</translation>
-        </message>
-        <message>
-            <source>Select a payment metod to edit.</source>
-            <translation>Válassza ki a szerkesztendő fizetési módot.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected payment method?</source>
-            <translation>Biztosan törli a kijelölt fizetési módot?</translation>
-        </message>
-        <message>
-            <source>You have to select a payment method.</source>
-            <translation>Ki kell választania egy fizetési módot.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Due Days</source>
-            <translation>Fizetési határidő (nap)</translation>
-        </message>
-        <message>
-            <source>Comment</source>
-            <translation>Megjegyzés</translation>
-        </message>
-        <message>
-            <source>Add Payment Method</source>
-            <translation>Új fizetési mód</translation>
-        </message>
-        <message>
-            <source>Edit Payment Method</source>
-            <translation>Fizetési mód szerkesztése</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductEdit</name>
-        <message>
-            <source>Product Name Translations</source>
-            <translation>Terméknév fordításai</translation>
-        </message>
-        <message>
-            <source>Comment Translations</source>
-            <translation>Megjegyzés fordításai</translation>
-        </message>
-        <message>
-            <source>Unit Translations</source>
-            <translation>Mennyiségi egység fordításai</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductEditLayout</name>
-        <message>
-            <source>Product</source>
-            <translation>Termék</translation>
-        </message>
-        <message>
-            <source>Product Code</source>
-            <translation>Termékkód</translation>
-        </message>
-        <message>
-            <source>Product ID nuber in the webshop</source>
-            <translation>A termék azonosítója a webáruházban</translation>
-        </message>
-        <message>
-            <source>Product Name</source>
-            <translation>Termék neve</translation>
-        </message>
-        <message>
-            <source>Comment</source>
-            <translation>Megjegyzés</translation>
-        </message>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Find Stat No</source>
-            <translation>VTSZ/SZJ keresése</translation>
-        </message>
-        <message>
-            <source>Quantity Unit</source>
-            <translation>Mennyiségi egység</translation>
-        </message>
-        <message>
-            <source>VAT Key</source>
-            <translation>ÁFA-kulcs</translation>
-        </message>
-        <message>
-            <source>Find VAT Key</source>
-            <translation>ÁFA-kulcs keresése</translation>
-        </message>
-        <message>
-            <source>Net Price</source>
-            <translation>Nettó ár</translation>
-        </message>
-        <message>
-            <source>Gross Price</source>
-            <translation>Bruttó ár</translation>
-        </message>
-        <message>
-            <source>Translations</source>
-            <translation>Fordítások</translation>
-        </message>
-        <message>
-            <source>Prices In Foreign Currencies</source>
-            <translation>Árak idegen pénznemekben</translation>
-        </message>
-        <message>
-            <source>Prices In Different Currencies</source>
-            <translation>Árak különböző pénznemekben</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductFinder</name>
-        <message>
-            <source>Name</source>
-            <translation>Név</translation>
-        </message>
-        <message>
-            <source>Price</source>
-            <translation>Nettó ár</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductPriceModel</name>
-        <message>
-            <source>Currency</source>
-            <translation>Pénznem</translation>
-        </message>
-        <message>
-            <source>Rate</source>
-            <translation>Árfolyam</translation>
-        </message>
-        <message>
-            <source>Calculated Price</source>
-            <translation>Számított ár</translation>
-        </message>
-        <message>
-            <source>Overridden Price</source>
-            <translation>Felülírt ár</translation>
-        </message>
-    </context>
-    <context>
-        <name>ProductTable</name>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Error in deleting product.</source>
-            <translation>A termék törlése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Price (%s)</source>
-            <translation>Ár (%s)</translation>
-        </message>
-        <message>
-            <source>Products</source>
-            <translation>Termékek</translation>
-        </message>
-        <message>
-            <source>&amp;New Product</source>
-            <translation>Ú&amp;j termék</translation>
-        </message>
-        <message>
-            <source>Select a product to edit.</source>
-            <translation>Válassza ki a szerkesztendő terméket.</translation>
-        </message>
-        <message>
-            <source>Select a product to delete.</source>
-            <translation>Válassza ki a törlendő terméket.</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected product?</source>
-            <translation>Biztosan törli a kijelölt terméket?</translation>
-        </message>
-        <message>
-            <source>You have to select a product.</source>
-            <translation>Ki kell választania egy terméket.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Unit</source>
-            <translation>Mennyiségi egység</translation>
-        </message>
-        <message>
-            <source>Price</source>
-            <translation>Nettó ár</translation>
-        </message>
-        <message>
-            <source>Type in first characters of product name and press Enter to find</source>
-            <translation>Írja be a termék nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
-        </message>
-        <message>
-            <source>There are more matching products then displayed. Try more specific filter.</source>
-            <translation>A feltételnek több termék felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
-        </message>
-        <message>
-            <source>Add Product</source>
-            <translation>Új termék</translation>
-        </message>
-        <message>
-            <source>Edit Product</source>
-            <translation>Termék szerkesztése</translation>
-        </message>
-    </context>
-    <context>
-        <name>RecordBrowse</name>
-        <message>
-            <source>Select a record to edit.</source>
-            <translation>Válassza ki a szerkesztendő sort.</translation>
-        </message>
-        <message>
-            <source>Select a record to delete.</source>
-            <translation>Válassza ki a törlendő sort.</translation>
-        </message>
-        <message>
-            <source>Insert</source>
-            <translation>Új sor</translation>
-        </message>
-        <message>
-            <source>Edit</source>
-            <translation>Szerkesztés</translation>
-        </message>
-        <message>
-            <source>Delete	Delete</source>
-            <translation>Törlés	Delete</translation>
-        </message>
-    </context>
-    <context>
-        <name>RecordBrowseLayout</name>
-        <message>
-            <source>&amp;Name</source>
-            <translation>&amp;Név</translation>
-        </message>
-        <message>
-            <source>&amp;Find</source>
-            <translation>&amp;Keresés</translation>
-        </message>
-        <message>
-            <source>&amp;Edit</source>
-            <translation>&amp;Szerkesztés</translation>
-        </message>
-        <message>
-            <source>Delete</source>
-            <translation>Törlés</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-        <message>
-            <source>Help</source>
-            <translation>Súgó</translation>
-        </message>
-    </context>
-    <context>
-        <name>Report</name>
-        <message>
-            <source>Unable to start printing.</source>
-            <translation>Nem sikerült elindítani a nyomtatást.</translation>
-        </message>
-        <message>
-            <source>Unable to write file %s.</source>
-            <translation>Nem sikerült a(z) %s fájlt írni.</translation>
-        </message>
-        <message>
-            <source>The report cannot be laid out: a paragraph or table row in it is too long.</source>
-            <translation>A jelentés nem tördelhető: egy bekezdése vagy táblázatsora túl hosszú.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ReportPrinter</name>
-        <message>
-            <source>Print Preview</source>
-            <translation>Nyomtatási kép</translation>
-        </message>
-    </context>
-    <context>
-        <name>Schema</name>
-        <message>
-            <source>Creating database tables</source>
-            <translation>Adatbázistáblák létrehozása</translation>
-        </message>
-        <message>
-            <source>Creating database indexes</source>
-            <translation>Adatbázis-indexek létrehozása</translation>
-        </message>
-        <message>
-            <source>Unable to insert basic data to database.</source>
-            <translation>Nem sikerült az alapadatokat az adatbázisba írni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>Setup</name>
-        <message>
-            <source>Error loading setup data.</source>
-            <translation>Hiba a beállítások betöltésekor.</translation>
-        </message>
-        <message>
-            <source>Unable to update SETUP record.</source>
-            <translation>Nem sikerült a beállításokat menteni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>SqlErrorLayout</name>
-        <message>
-            <source>SQL error:</source>
-            <translation>SQL-hiba:</translation>
-        </message>
-        <message>
-            <source>Error statement:</source>
-            <translation>Hibás utasítás:</translation>
-        </message>
-        <message>
-            <source>SQL error</source>
-            <translation>SQL-hiba</translation>
-        </message>
-        <message>
-            <source>Retry</source>
-            <translation>Újra</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-    </context>
-    <context>
-        <name>StatNoEditLayout</name>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-    </context>
-    <context>
-        <name>StatNoTable</name>
-        <message>
-            <source>Stat No field must have a value.</source>
-            <translation>A VTSZ/SZJ szám mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Name field must have a value.</source>
-            <translation>A megnevezés mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>Often Used Stat Numbers</source>
-            <translation>Gyakran használt VTSZ/SZJ számok</translation>
-        </message>
-        <message>
-            <source>&amp;New Stat No</source>
-            <translation>Ú&amp;j VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected Stat No?</source>
-            <translation>Biztosan törli a kijelölt VTSZ/SZJ számot?</translation>
-        </message>
-        <message>
-            <source>You have to select a stat no.</source>
-            <translation>Ki kell választania egy VTSZ/SZJ számot.</translation>
-        </message>
-        <message>
-            <source>Stat No</source>
-            <translation>VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Add Stat No</source>
-            <translation>Új VTSZ/SZJ szám</translation>
-        </message>
-        <message>
-            <source>Edit Stat No:</source>
-            <translation>VTSZ/SZJ szám szerkesztése:</translation>
-        </message>
-    </context>
-    <context>
-        <name>TableStore</name>
-        <message>
-            <source>Unable to save translation data.</source>
-            <translation>A fordítások mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to save currency data.</source>
-            <translation>A pénznemenkénti árak mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.</source>
-            <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Az adatok betöltése az adatbázisból nem sikerült.&amp;Lehet, hogy egy másik felhasználó időközben törölte.</translation>
-        </message>
-        <message>
-            <source>Unable to save data.</source>
-            <translation>Az adatok mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Unable to delete data.</source>
-            <translation>Az adatok törlése nem sikerült.</translation>
-        </message>
-    </context>
-    <context>
-        <name>TranslationModel</name>
-        <message>
-            <source>Language</source>
-            <translation>Nyelv</translation>
-        </message>
-    </context>
-    <context>
-        <name>VatEditLayout</name>
-        <message>
-            <source>Vat Code</source>
-            <translation>ÁFA-kód</translation>
-        </message>
-        <message>
-            <source>VAT Name</source>
-            <translation>ÁFA-kulcs neve</translation>
-        </message>
-        <message>
-            <source>Percent</source>
-            <translation>Százalék</translation>
-        </message>
-    </context>
-    <context>
-        <name>VatTable</name>
-        <message>
-            <source>VAT Name field must have a value.</source>
-            <translation>Az ÁFA-kulcs neve mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>VAT Percent field must have a value.</source>
-            <translation>Az ÁFA-kulcs százaléka mezőt ki kell tölteni.</translation>
-        </message>
-        <message>
-            <source>VAT keys</source>
-            <translation>ÁFA-kulcsok</translation>
-        </message>
-        <message>
-            <source>&amp;New VAT key</source>
-            <translation>Ú&amp;j ÁFA-kulcs</translation>
-        </message>
-        <message>
-            <source>Do you really want to delete the selected VAT key?</source>
-            <translation>Biztosan törli a kijelölt ÁFA-kulcsot?</translation>
-        </message>
-        <message>
-            <source>You have to select a VAT key.</source>
-            <translation>Ki kell választania egy ÁFA-kulcsot.</translation>
-        </message>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Name</source>
-            <translation>Megnevezés</translation>
-        </message>
-        <message>
-            <source>Percent</source>
-            <translation>Százalék</translation>
-        </message>
-        <message>
-            <source>Add VAT</source>
-            <translation>Új ÁFA-kulcs</translation>
-        </message>
-        <message>
-            <source>Edit VAT:</source>
-            <translation>ÁFA-kulcs szerkesztése:</translation>
         </message>
     </context>
     <context>
@@ -2054,232 +1638,830 @@ Folytatja?</translation>
             <translation>A rendelést nem sikerült létrehozni az adatbázisban.</translation>
         </message>
     </context>
-<context>
-    <name>Cli</name>
-    <message>
-        <source>unexpected argument %1</source>
-        <translation>váratlan argumentum: %1</translation>
-    </message>
-    <message>
-        <source>give the company&apos;s name once</source>
-        <translation>a cég nevét pontosan egyszer adja meg</translation>
-    </message>
-    <message>
-        <source>--tax-no is missing</source>
-        <translation>hiányzik a --tax-no</translation>
-    </message>
-    <message>
-        <source>unknown option %1</source>
-        <translation>ismeretlen kapcsoló: %1</translation>
-    </message>
-    <message>
-        <source>%1 needs a value</source>
-        <translation>a(z) %1 kapcsolónak értéket kell adni</translation>
-    </message>
-    <message>
-        <source>unknown language %1 (hu or en)</source>
-        <translation>ismeretlen nyelv: %1 (hu vagy en)</translation>
-    </message>
-    <message>
-        <source>no command given</source>
-        <translation>nincs megadva parancs</translation>
-    </message>
-    <message>
-        <source>unknown command %1</source>
-        <translation>ismeretlen parancs: %1</translation>
-    </message>
-    <message>
-        <source>give exactly one backup file</source>
-        <translation>pontosan egy biztonsági mentés fájlt adjon meg</translation>
-    </message>
-</context>
-<context>
-    <name>CompanyFile</name>
-    <message>
-        <source>The file is not a company database:&amp;%s</source>
-        <translation>A fájl nem cégadatbázis:&amp;%s</translation>
-    </message>
-    <message>
-        <source>The company database file is damaged:&amp;%s</source>
-        <translation>A cégadatbázis fájlja sérült:&amp;%s</translation>
-    </message>
-    <message>
-        <source>The company database file is in use by another program:&amp;%s&amp;Try again later.</source>
-        <translation>A cégadatbázis fájlját egy másik program használja:&amp;%s&amp;Próbálja újra később.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read:&amp;%s</source>
-        <translation>A fájl nem olvasható:&amp;%s</translation>
-    </message>
-    <message>
-        <source>The file cannot be written:&amp;%s</source>
-        <translation>A fájl nem írható:&amp;%s</translation>
-    </message>
-</context>
-<context>
-    <name>CompanyLock</name>
-    <message>
-        <source>The company file is being upgraded, restored or backed up by another program:&amp;%s&amp;Try again when it has finished.</source>
-        <translation>A cégadatbázis fájlját egy másik program éppen frissíti, visszaállítja vagy menti:&amp;%s&amp;Próbálja újra, ha az befejeződött.</translation>
-    </message>
-</context>
-<context>
-    <name>SqlScript</name>
-    <message>
-        <source>Missing SQL script.</source>
-        <translation>Hiányzó SQL-parancsfájl.</translation>
-    </message>
-</context>
     <context>
-        <name>InvoiceNumbering</name>
+        <name>PartnerEditLayout</name>
         <message>
-            <source>Database error:&amp;</source>
-            <translation>Adatbázishiba:&amp;</translation>
+            <source>Partner</source>
+            <translation>Partner</translation>
         </message>
         <message>
-            <source>Maybe an other user changed this order.</source>
-            <translation>Lehet, hogy egy másik felhasználó módosította ezt a rendelést.</translation>
+            <source>Partner Code</source>
+            <translation>Partnerkód</translation>
         </message>
         <message>
-            <source>Printing date of invoice No. %s is in the future.&amp;Printing this invoice with No. %s would be against the law.</source>
-            <translation>A(z) %s sorszámú számla kelte a jövőben van.&amp;Ennek a számlának a kinyomtatása %s sorszámmal törvénybe ütközne.</translation>
+            <source>Partner ID number in webshop</source>
+            <translation>A partner azonosítója a webáruházban</translation>
         </message>
         <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
         </message>
         <message>
-            <source>Cancelled invoice can not be cancelled.</source>
-            <translation>Sztornózott számla nem sztornózható.</translation>
+            <source>ZIP</source>
+            <translation>Irányítószám</translation>
         </message>
         <message>
-            <source>The invoice of this order is missing from the database.</source>
-            <translation>A rendelés számlája hiányzik az adatbázisból.</translation>
+            <source>City</source>
+            <translation>Település</translation>
         </message>
         <message>
-            <source>There is no invoice with No. %s.</source>
-            <translation>Nincs %s sorszámú számla.</translation>
+            <source>Address</source>
+            <translation>Cím</translation>
+        </message>
+        <message>
+            <source>Tax No</source>
+            <translation>Adószám</translation>
+        </message>
+        <message>
+            <source>e.g tax id or any other data</source>
+            <translation>pl. adóazonosító jel vagy egyéb adat</translation>
+        </message>
+        <message>
+            <source>EU Tax No</source>
+            <translation>Közösségi adószám</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Payment Due Days</source>
+            <translation>Fizetési határidő (nap)</translation>
+        </message>
+        <message>
+            <source>If you leave it empty, default due days will be calculated, based on data in payment method window</source>
+            <translation>Ha üresen hagyja, a fizetési határidő a fizetési módnál megadott napok szerint számítódik</translation>
+        </message>
+        <message>
+            <source>Discount / Type Of Price</source>
+            <translation>Kedvezmény / ártípus</translation>
+        </message>
+        <message>
+            <source>Discount Percent</source>
+            <translation>Kedvezmény (%)</translation>
+        </message>
+        <message>
+            <source>Country</source>
+            <translation>Ország</translation>
+        </message>
+        <message>
+            <source>Countries...</source>
+            <translation>Országok...</translation>
+        </message>
+        <message>
+            <source>Second Invoice Language</source>
+            <translation>A számla második nyelve</translation>
+        </message>
+        <message>
+            <source>Languages...</source>
+            <translation>Nyelvek...</translation>
+        </message>
+        <message>
+            <source>Default Currency</source>
+            <translation>Alapértelmezett pénznem</translation>
+        </message>
+        <message>
+            <source>Currencies...</source>
+            <translation>Pénznemek...</translation>
+        </message>
+        <message>
+            <source>Other Billing Data</source>
+            <translation>Egyéb számlázási adatok</translation>
+        </message>
+        <message>
+            <source>Levelezesi cim</source>
+            <translation>Levelezési cím</translation>
+        </message>
+        <message>
+            <source>A levelezesi cim megegyezik a szamlazasi cimmel</source>
+            <translation>A levelezési cím megegyezik a számlázási címmel</translation>
+        </message>
+        <message>
+            <source>Partner Mail Name</source>
+            <translation>Név a levelezési címen</translation>
+        </message>
+        <message>
+            <source>Contact</source>
+            <translation>Kapcsolattartó</translation>
+        </message>
+        <message>
+            <source>Contact Name</source>
+            <translation>Kapcsolattartó neve</translation>
+        </message>
+        <message>
+            <source>Phone</source>
+            <translation>Telefon</translation>
+        </message>
+        <message>
+            <source>Mobile Phone</source>
+            <translation>Mobiltelefon</translation>
+        </message>
+        <message>
+            <source>Email</source>
+            <translation>E-mail</translation>
+        </message>
+        <message>
+            <source>Comment on Contact</source>
+            <translation>Megjegyzés a kapcsolattartóhoz</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
+        </message>
+        <message>
+            <source>Comments on Partner</source>
+            <translation>Megjegyzések a partnerről</translation>
         </message>
     </context>
     <context>
-        <name>CancelInvoice</name>
+        <name>PartnerFinder</name>
         <message>
-            <source>Can't create Cancel Invoice.</source>
-            <translation>A sztornó számlát nem sikerült létrehozni.</translation>
+            <source>Name</source>
+            <translation>Név</translation>
         </message>
         <message>
-            <source>Database error:&amp;</source>
-            <translation>Adatbázishiba:&amp;</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
-        </message>
-        <message>
-            <source>Only an issued invoice can be cancelled.</source>
-            <translation>Csak kiállított számla sztornózható.</translation>
-        </message>
-        <message>
-            <source>Cancelled invoice can not be cancelled.</source>
-            <translation>Sztornózott számla nem sztornózható.</translation>
-        </message>
-        <message>
-            <source>A cancelling invoice can not be cancelled.</source>
-            <translation>Sztornó számla nem sztornózható.</translation>
-        </message>
-        <message>
-            <source>This invoice already has a cancelling invoice waiting to be printed.</source>
-            <translation>Ennek a számlának már van nyomtatásra váró sztornó számlája.</translation>
-        </message>
-        <message>
-            <source>Unable to create cancel invoice in database.</source>
-            <translation>A sztornó számlát nem sikerült létrehozni az adatbázisban.</translation>
-        </message>
-        <message>
-            <source>Unable to create items of cancel invoice in database.</source>
-            <translation>A sztornó számla tételeit nem sikerült létrehozni az adatbázisban.</translation>
-        </message>
-        <message>
-            <source>This is the cancel invoice of No %s</source>
-            <translation>Ez a(z) %s sorszámú számla sztornó számlája</translation>
+            <source>City</source>
+            <translation>Település</translation>
         </message>
     </context>
     <context>
-        <name>InvoiceRender</name>
+        <name>PartnerTable</name>
         <message>
-            <source>Database error:&amp;</source>
-            <translation>Adatbázishiba:&amp;</translation>
+            <source>Partner Name field must have a value.</source>
+            <translation>A partner neve mezőt ki kell tölteni.</translation>
         </message>
         <message>
-            <source>By Items</source>
-            <translation>Tételenként</translation>
+            <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
+            <translation>A név a levelezési címen mezőt ki kell tölteni.</translation>
         </message>
         <message>
-            <source>This is an invoice sample. You can not get VAT back on this.</source>
-            <translation>Ez egy számlaminta. Az ÁFA nem igényelhető vissza rá.</translation>
+            <source>Partners</source>
+            <translation>Partnerek</translation>
         </message>
         <message>
-            <source>The comment of the invoice is printed here: the payment terms, a word of thanks.</source>
-            <translation>Itt jelenik meg a számla megjegyzése: a fizetési feltételek, egy köszönő szó.</translation>
+            <source>&amp;New Partner</source>
+            <translation>Ú&amp;j partner</translation>
         </message>
         <message>
-            <source>Current invoice template in setup doesn't support consolidated invoice.&amp;Setup an other template.</source>
-            <translation>A beállított számlasablon nem támogatja a gyűjtőszámlát.&amp;Állítson be másik sablont.</translation>
+            <source>Select a partner to edit.</source>
+            <translation>Válassza ki a szerkesztendő partnert.</translation>
         </message>
         <message>
-            <source>Tetelek nelkuli szamla nem nyomtathato.</source>
-            <translation>Tételek nélküli számla nem nyomtatható.</translation>
+            <source>Select a partner to delete.</source>
+            <translation>Válassza ki a törlendő partnert.</translation>
         </message>
         <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+            <source>Do you really want to delete the selected partner?</source>
+            <translation>Biztosan törli a kijelölt partnert?</translation>
         </message>
         <message>
-            <source>The logo set up for invoices is not a picture.&amp;Choose another one in Setup or do not print a logo.</source>
-            <translation>A számlákhoz beállított logó nem kép.&amp;Válasszon másikat a Beállításokban, vagy ne nyomtasson logót.</translation>
+            <source>You have to select a partner.</source>
+            <translation>Ki kell választania egy partnert.</translation>
         </message>
         <message>
-            <source>Original copy</source>
-            <translation>eredeti</translation>
+            <source>Code</source>
+            <translation>Kód</translation>
         </message>
         <message>
-            <source>Invoice Sample</source>
-            <translation>Számlaminta</translation>
+            <source>Name</source>
+            <translation>Név</translation>
+        </message>
+        <message>
+            <source>ZIP</source>
+            <translation>Irányítószám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Település</translation>
+        </message>
+        <message>
+            <source>Address</source>
+            <translation>Cím</translation>
+        </message>
+        <message>
+            <source>Other Data</source>
+            <translation>Egyéb adatok</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Due Days</source>
+            <translation>Fizetési határidő (nap)</translation>
+        </message>
+        <message>
+            <source>Type in first characters of partner name and press Enter to find</source>
+            <translation>Írja be a partner nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
+        </message>
+        <message>
+            <source>There are more matching partners then displayed. Try more specific filter.</source>
+            <translation>A feltételnek több partner felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
+        </message>
+        <message>
+            <source>Add Partner</source>
+            <translation>Új partner</translation>
+        </message>
+        <message>
+            <source>Partner szerkesztese:</source>
+            <translation>Partner szerkesztése:</translation>
         </message>
     </context>
     <context>
-        <name>InvoiceIssue</name>
+        <name>PaymentMethodEditLayout</name>
         <message>
-            <source>Database error:&amp;</source>
-            <translation>Adatbázishiba:&amp;</translation>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+        <message>
+            <source>Payment Method Code</source>
+            <translation>Fizetési mód kódja</translation>
+        </message>
+        <message>
+            <source>Default payment due days</source>
+            <translation>Alapértelmezett fizetési határidő (nap)</translation>
+        </message>
+        <message>
+            <source>Round Invoice Totals To 5</source>
+            <translation>Számlavégösszeg kerekítése 5 forintra</translation>
+        </message>
+        <message>
+            <source>Paid when invoice creataed</source>
+            <translation>Kiállításkor a számla kiegyenlítettnek számít</translation>
+        </message>
+        <message>
+            <source>Keszitsen csekket szamlanyomtatas utan</source>
+            <translation>Készítsen csekket számlanyomtatás után</translation>
+        </message>
+        <message>
+            <source>Comment on invoice when this method selected</source>
+            <translation>Megjegyzés a számlán e fizetési mód esetén</translation>
+        </message>
+        <message>
+            <source>Translations</source>
+            <translation>Fordítások</translation>
+        </message>
+        <message>
+            <source>You have to fill these below width both foreign and native language comments.</source>
+            <translation>Az alábbi megjegyzéseket idegen nyelven és magyarul is ki kell tölteni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>PaymentMethodTable</name>
+        <message>
+            <source>Name field must have a value.</source>
+            <translation>A megnevezés mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Payment Methods</source>
+            <translation>Fizetési módok</translation>
+        </message>
+        <message>
+            <source>&amp;New Payment Method</source>
+            <translation>Ú&amp;j fizetési mód</translation>
+        </message>
+        <message>
+            <source>Select a payment metod to edit.</source>
+            <translation>Válassza ki a szerkesztendő fizetési módot.</translation>
+        </message>
+        <message>
+            <source>Do you really want to delete the selected payment method?</source>
+            <translation>Biztosan törli a kijelölt fizetési módot?</translation>
+        </message>
+        <message>
+            <source>You have to select a payment method.</source>
+            <translation>Ki kell választania egy fizetési módot.</translation>
+        </message>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+        <message>
+            <source>Due Days</source>
+            <translation>Fizetési határidő (nap)</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
+        </message>
+        <message>
+            <source>Add Payment Method</source>
+            <translation>Új fizetési mód</translation>
+        </message>
+        <message>
+            <source>Edit Payment Method</source>
+            <translation>Fizetési mód szerkesztése</translation>
+        </message>
+        <message numerus="yes">
+            <source>This payment method is used by %n partner(s).</source>
+            <translation>
+                <numerusform>Ezt a fizetési módot %n partner használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This payment method is used by %n order(s).</source>
+            <translation>
+                <numerusform>Ezt a fizetési módot %n rendelés használja.</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>ProductEdit</name>
+        <message>
+            <source>Product Name Translations</source>
+            <translation>Terméknév fordításai</translation>
+        </message>
+        <message>
+            <source>Comment Translations</source>
+            <translation>Megjegyzés fordításai</translation>
+        </message>
+        <message>
+            <source>Unit Translations</source>
+            <translation>Mennyiségi egység fordításai</translation>
+        </message>
+        <message>
+            <source>"%1" is not a price: type a number.</source>
+            <translation>„%1” nem ár: számot írjon be.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ProductEditLayout</name>
+        <message>
+            <source>Product</source>
+            <translation>Termék</translation>
+        </message>
+        <message>
+            <source>Product Code</source>
+            <translation>Termékkód</translation>
+        </message>
+        <message>
+            <source>Product ID nuber in the webshop</source>
+            <translation>A termék azonosítója a webáruházban</translation>
+        </message>
+        <message>
+            <source>Product Name</source>
+            <translation>Termék neve</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
+        </message>
+        <message>
+            <source>Stat No</source>
+            <translation>VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Find Stat No</source>
+            <translation>VTSZ/SZJ keresése</translation>
+        </message>
+        <message>
+            <source>Quantity Unit</source>
+            <translation>Mennyiségi egység</translation>
+        </message>
+        <message>
+            <source>VAT Key</source>
+            <translation>ÁFA-kulcs</translation>
+        </message>
+        <message>
+            <source>Find VAT Key</source>
+            <translation>ÁFA-kulcs keresése</translation>
+        </message>
+        <message>
+            <source>Net Price</source>
+            <translation>Nettó ár</translation>
+        </message>
+        <message>
+            <source>Gross Price</source>
+            <translation>Bruttó ár</translation>
+        </message>
+        <message>
+            <source>Translations</source>
+            <translation>Fordítások</translation>
+        </message>
+        <message>
+            <source>Prices In Foreign Currencies</source>
+            <translation>Árak idegen pénznemekben</translation>
+        </message>
+        <message>
+            <source>Prices In Different Currencies</source>
+            <translation>Árak különböző pénznemekben</translation>
+        </message>
+    </context>
+    <context>
+        <name>ProductFinder</name>
+        <message>
+            <source>Name</source>
+            <translation>Név</translation>
+        </message>
+        <message>
+            <source>Price</source>
+            <translation>Nettó ár</translation>
+        </message>
+    </context>
+    <context>
+        <name>ProductPriceModel</name>
+        <message>
+            <source>Currency</source>
+            <translation>Pénznem</translation>
+        </message>
+        <message>
+            <source>Rate</source>
+            <translation>Árfolyam</translation>
+        </message>
+        <message>
+            <source>Calculated Price</source>
+            <translation>Számított ár</translation>
+        </message>
+        <message>
+            <source>Overridden Price</source>
+            <translation>Felülírt ár</translation>
+        </message>
+    </context>
+    <context>
+        <name>ProductTable</name>
+        <message>
+            <source>Error in deleting product.</source>
+            <translation>A termék törlése nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Price (%s)</source>
+            <translation>Ár (%s)</translation>
+        </message>
+        <message>
+            <source>Products</source>
+            <translation>Termékek</translation>
+        </message>
+        <message>
+            <source>&amp;New Product</source>
+            <translation>Ú&amp;j termék</translation>
+        </message>
+        <message>
+            <source>Select a product to edit.</source>
+            <translation>Válassza ki a szerkesztendő terméket.</translation>
+        </message>
+        <message>
+            <source>Select a product to delete.</source>
+            <translation>Válassza ki a törlendő terméket.</translation>
+        </message>
+        <message>
+            <source>Do you really want to delete the selected product?</source>
+            <translation>Biztosan törli a kijelölt terméket?</translation>
+        </message>
+        <message>
+            <source>You have to select a product.</source>
+            <translation>Ki kell választania egy terméket.</translation>
+        </message>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+        <message>
+            <source>Stat No</source>
+            <translation>VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Unit</source>
+            <translation>Mennyiségi egység</translation>
+        </message>
+        <message>
+            <source>Price</source>
+            <translation>Nettó ár</translation>
+        </message>
+        <message>
+            <source>Type in first characters of product name and press Enter to find</source>
+            <translation>Írja be a termék nevének első betűit, majd nyomja meg az Entert a kereséshez</translation>
+        </message>
+        <message>
+            <source>There are more matching products then displayed. Try more specific filter.</source>
+            <translation>A feltételnek több termék felel meg, mint amennyi megjeleníthető. Adjon meg pontosabb feltételt.</translation>
+        </message>
+        <message>
+            <source>Add Product</source>
+            <translation>Új termék</translation>
+        </message>
+        <message>
+            <source>Edit Product</source>
+            <translation>Termék szerkesztése</translation>
+        </message>
+        <message>
+            <source>Product Name field must have a value.</source>
+            <translation>A termék neve mezőt ki kell tölteni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>RecordBrowse</name>
+        <message>
+            <source>Select a record to edit.</source>
+            <translation>Válassza ki a szerkesztendő sort.</translation>
+        </message>
+        <message>
+            <source>Select a record to delete.</source>
+            <translation>Válassza ki a törlendő sort.</translation>
+        </message>
+        <message>
+            <source>Insert</source>
+            <translation>Új sor</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Delete	Delete</source>
+            <translation>Törlés	Delete</translation>
+        </message>
+    </context>
+    <context>
+        <name>RecordBrowseLayout</name>
+        <message>
+            <source>&amp;Name</source>
+            <translation>&amp;Név</translation>
+        </message>
+        <message>
+            <source>&amp;Find</source>
+            <translation>&amp;Keresés</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Törlés</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+        <message>
+            <source>Help</source>
+            <translation>Súgó</translation>
+        </message>
+    </context>
+    <context>
+        <name>Report</name>
+        <message>
+            <source>Unable to start printing.</source>
+            <translation>Nem sikerült elindítani a nyomtatást.</translation>
+        </message>
+        <message>
+            <source>Unable to write file %s.</source>
+            <translation>Nem sikerült a(z) %s fájlt írni.</translation>
+        </message>
+        <message>
+            <source>The report cannot be laid out: a paragraph or table row in it is too long.</source>
+            <translation>A jelentés nem tördelhető: egy bekezdése vagy táblázatsora túl hosszú.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ReportPrinter</name>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+    </context>
+    <context>
+        <name>Schema</name>
+        <message>
+            <source>Creating database tables</source>
+            <translation>Adatbázistáblák létrehozása</translation>
+        </message>
+        <message>
+            <source>Creating database indexes</source>
+            <translation>Adatbázis-indexek létrehozása</translation>
+        </message>
+        <message>
+            <source>Unable to insert basic data to database.</source>
+            <translation>Nem sikerült az alapadatokat az adatbázisba írni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup</name>
+        <message>
+            <source>Error loading setup data.</source>
+            <translation>Hiba a beállítások betöltésekor.</translation>
+        </message>
+        <message>
+            <source>Unable to update SETUP record.</source>
+            <translation>Nem sikerült a beállításokat menteni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>SqlErrorLayout</name>
+        <message>
+            <source>SQL error:</source>
+            <translation>SQL-hiba:</translation>
+        </message>
+        <message>
+            <source>Error statement:</source>
+            <translation>Hibás utasítás:</translation>
+        </message>
+        <message>
+            <source>SQL error</source>
+            <translation>SQL-hiba</translation>
+        </message>
+        <message>
+            <source>Retry</source>
+            <translation>Újra</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
+        <name>SqlScript</name>
+        <message>
+            <source>Missing SQL script.</source>
+            <translation>Hiányzó SQL-parancsfájl.</translation>
+        </message>
+    </context>
+    <context>
+        <name>StatNoEditLayout</name>
+        <message>
+            <source>Stat No</source>
+            <translation>VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+    </context>
+    <context>
+        <name>StatNoTable</name>
+        <message>
+            <source>Stat No field must have a value.</source>
+            <translation>A VTSZ/SZJ szám mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Name field must have a value.</source>
+            <translation>A megnevezés mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Often Used Stat Numbers</source>
+            <translation>Gyakran használt VTSZ/SZJ számok</translation>
+        </message>
+        <message>
+            <source>&amp;New Stat No</source>
+            <translation>Ú&amp;j VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Do you really want to delete the selected Stat No?</source>
+            <translation>Biztosan törli a kijelölt VTSZ/SZJ számot?</translation>
+        </message>
+        <message>
+            <source>You have to select a stat no.</source>
+            <translation>Ki kell választania egy VTSZ/SZJ számot.</translation>
+        </message>
+        <message>
+            <source>Stat No</source>
+            <translation>VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+        <message>
+            <source>Add Stat No</source>
+            <translation>Új VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Edit Stat No:</source>
+            <translation>VTSZ/SZJ szám szerkesztése:</translation>
+        </message>
+        <message numerus="yes">
+            <source>This stat number is used by %n product(s).</source>
+            <translation>
+                <numerusform>Ezt a VTSZ/SZJ számot %n termék használja.</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>TableStore</name>
+        <message>
+            <source>Unable to save translation data.</source>
+            <translation>A fordítások mentése nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Unable to save currency data.</source>
+            <translation>A pénznemenkénti árak mentése nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.</source>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.</translation>
         </message>
         <message>
             <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+            <translation>Az adatok betöltése az adatbázisból nem sikerült.&amp;Lehet, hogy egy másik felhasználó időközben törölte.</translation>
         </message>
         <message>
-            <source>It is not allowed to print an invoice without items.</source>
-            <translation>Tételek nélküli számlát nem szabad nyomtatni.</translation>
+            <source>Unable to save data.</source>
+            <translation>Az adatok mentése nem sikerült.</translation>
         </message>
         <message>
-            <source>Invoice copies to print</source>
-            <translation>Nyomtatandó számlapéldányok</translation>
+            <source>Unable to delete data.</source>
+            <translation>Az adatok törlése nem sikerült.</translation>
         </message>
         <message>
-            <source>Printing invoices. Please wait.</source>
-            <translation>Számlák nyomtatása. Kérem, várjon.</translation>
+            <source>The code "%1" is already used.</source>
+            <translation>A(z) „%1” kód már foglalt.</translation>
+        </message>
+    </context>
+    <context>
+        <name>TranslationModel</name>
+        <message>
+            <source>Language</source>
+            <translation>Nyelv</translation>
+        </message>
+    </context>
+    <context>
+        <name>VatEditLayout</name>
+        <message>
+            <source>Vat Code</source>
+            <translation>ÁFA-kód</translation>
         </message>
         <message>
-            <source>Invoice template currently set up is not certified.&amp;Change it to a certified one in Setup</source>
-            <translation>A jelenleg beállított számlasablon nem hitelesített.&amp;Cserélje hitelesítettre a Beállításokban</translation>
+            <source>VAT Name</source>
+            <translation>ÁFA-kulcs neve</translation>
         </message>
         <message>
-            <source>Can't print invoice</source>
-            <translation>A számlát nem sikerült kinyomtatni</translation>
+            <source>Percent</source>
+            <translation>Százalék</translation>
+        </message>
+    </context>
+    <context>
+        <name>VatTable</name>
+        <message>
+            <source>VAT Name field must have a value.</source>
+            <translation>Az ÁFA-kulcs neve mezőt ki kell tölteni.</translation>
         </message>
         <message>
-            <source>Invoice Sample</source>
-            <translation>Számlaminta</translation>
+            <source>VAT keys</source>
+            <translation>ÁFA-kulcsok</translation>
+        </message>
+        <message>
+            <source>&amp;New VAT key</source>
+            <translation>Ú&amp;j ÁFA-kulcs</translation>
+        </message>
+        <message>
+            <source>Do you really want to delete the selected VAT key?</source>
+            <translation>Biztosan törli a kijelölt ÁFA-kulcsot?</translation>
+        </message>
+        <message>
+            <source>You have to select a VAT key.</source>
+            <translation>Ki kell választania egy ÁFA-kulcsot.</translation>
+        </message>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Megnevezés</translation>
+        </message>
+        <message>
+            <source>Percent</source>
+            <translation>Százalék</translation>
+        </message>
+        <message>
+            <source>Add VAT</source>
+            <translation>Új ÁFA-kulcs</translation>
+        </message>
+        <message>
+            <source>Edit VAT:</source>
+            <translation>ÁFA-kulcs szerkesztése:</translation>
+        </message>
+        <message numerus="yes">
+            <source>This VAT key is used by %n product(s).</source>
+            <translation>
+                <numerusform>Ezt az ÁFA-kulcsot %n termék használja.</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>This VAT key is used by %n order item(s).</source>
+            <translation>
+                <numerusform>Ezt az ÁFA-kulcsot %n rendelési tétel használja.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Percent field must have a value.</source>
+            <translation>A százalék mezőt ki kell tölteni.</translation>
         </message>
     </context>
 </TS>

@@ -243,7 +243,7 @@ void TestBackup::restoreUpgradesOlderBackup()
     QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kereskedő Kft.");
     QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
     QCOMPARE(Markers(), "");
-    QCOMPARE(LabelTranslations::current().Get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
+    QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
 
     QVERIFY(Database::open(RestoreAsidePath(path())));
     QCOMPARE(Markers(), "own");

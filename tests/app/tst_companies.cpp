@@ -329,9 +329,9 @@ void TestCompanies::invoiceLabelsFollowTheCompany()
     QVERIFY(ExecSql("drop table ORDERLABELTRANSLATION"));
 
     QVERIFY(OpenCompany(kovacs, m_ui));
-    QCOMPARE(LabelTranslations::current().Get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
+    QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
     QVERIFY(ChangeCompanyDatabase(m_dir->path(), m_ui, selector("szabo_kft.db")));
-    QCOMPARE(LabelTranslations::current().Get("TR_PAYMENT_METHOD", 0), "Fizetés módja");
+    QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetés módja");
 
     QVERIFY(!OpenCompany(file("hibas_kft.db"), m_ui));
     QCOMPARE(m_ui.lastMessage(), "Unable to load invoice label translations.");

@@ -22,6 +22,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void addCurrencyWithBankAccount();
     void countryChoosesItsCurrencyFromTheList();
     void newCompanyFromMenu();
+    void bothLanguagesReadProperly_data();
+    void bothLanguagesReadProperly();
 
 private:
     QStringList listed(MainTab tab) const
@@ -104,6 +107,44 @@ void TestNewUser::opensOnDemoCompany()
     // The demonstration company loads its lists on start: each tab is filled when shown.
     QCOMPARE(listed(MainTab::Products), QStringList{"Teszt termék"});
     QCOMPARE(listed(MainTab::Partners), QStringList{"Teszt Partner Kft"});
+    // Captions written in Hungarian read in English, and an empty submenu is disabled.
+    QCOMPARE(m_window->action(MainCommand::ImportOrders)->text(), "Import invoices from file");
+    QCOMPARE(m_window->action(MainCommand::ReceivablesByInvoices)->isEnabled(), false);
+}
+
+// Source texts written in Hungarian without accents read properly in both languages, and the
+// counts of the "used by" messages take their plural.
+void TestNewUser::bothLanguagesReadProperly_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("context");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("expected");
+    AddRow("hu menu", "hu", "MainWindow", "Szamlak importalasa fajlbol", -1,
+           "Számlák importálása fájlból");
+    AddRow("en menu", "en", "MainWindow", "Szamlak importalasa fajlbol", -1,
+           "Import invoices from file");
+    AddRow("en dialog", "en", "PartnerEditLayout", "Levelezesi cim", -1, "Mailing Address");
+    AddRow("en plural", "en", "VatTable", "This VAT key is used by %n product(s).", 3,
+           "This VAT key is used by %n products.");
+    AddRow("en singular", "en", "CurrencyTable", "This currency is used by %n country(s).", 1,
+           "This currency is used by %n country.");
+    AddRow("hu count", "hu", "VatTable", "This VAT key is used by %n product(s).", 3,
+           "Ezt az ÁFA-kulcsot %n termék használja.");
+}
+
+void TestNewUser::bothLanguagesReadProperly()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, context);
+    QFETCH(QString, source);
+    QFETCH(int, count);
+    QFETCH(QString, expected);
+    QTranslator translator;
+    QVERIFY(translator.load(":/i18n/tallyNorth_" + language + ".qm"));
+    QCOMPARE(translator.translate(qPrintable(context), qPrintable(source), nullptr, count),
+             expected);
 }
 
 void TestNewUser::basicDataWindowsOpen_data()

@@ -38,8 +38,7 @@ bool ScriptedInteraction::sqlError(const QString& error, const QString& statemen
 }
 
 std::optional<QList<bool>> ScriptedInteraction::checkItems(const QString&, const QString&,
-                                                           const QString&,
-                                                           const QStringList& items)
+                                                           const QString&, const QStringList& items)
 {
     checkLists << items;
     if (checkAnswers.isEmpty())

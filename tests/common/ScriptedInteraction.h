@@ -35,7 +35,8 @@ public:
     QQueue<bool> yesNoAnswers;
     QQueue<Choice> choiceAnswers;
     QQueue<std::optional<QList<bool>>> checkAnswers;
-    // The progress window reports cancel once this many canceled() calls have been made (-1: never).
+    // The progress window reports cancel once this many canceled() calls have been made (-1:
+    // never).
     int cancelAfterChecks = -1;
 
     QString lastMessage() const { return messages.isEmpty() ? QString() : messages.last().text; }

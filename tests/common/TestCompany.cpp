@@ -1,7 +1,7 @@
 #include "TestCompany.h"
 
-#include "base/Database.h"
 #include "app/Schema.h"
+#include "base/Database.h"
 
 #include <QFile>
 
@@ -29,8 +29,9 @@ TestCompany::TestCompany()
     if (source.isEmpty() || !m_dir.isValid())
         return;
     m_path = m_dir.filePath(QStringLiteral("company.db"));
-    m_valid = QFile::copy(source, m_path) && QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner)
-        && Database::open(m_path).ok();
+    m_valid = QFile::copy(source, m_path) &&
+              QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner) &&
+              Database::open(m_path).ok();
 }
 
 TestCompany::~TestCompany()

@@ -31,7 +31,7 @@ void TestLabelTranslations::init()
     // A label known only abroad: without a Hungarian text it never prints.
     QVERIFY(ExecSql(u"insert into ORDERLABELTRANSLATION values (?, ?, ?)"_s,
                     {1, u"TR_ONLY_ENGLISH"_s, u"English only"_s}));
-    QVERIFY(m_labels.Load());
+    QVERIFY(m_labels.load());
 }
 
 void TestLabelTranslations::labels_data()
@@ -39,7 +39,7 @@ void TestLabelTranslations::labels_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("language");
     QTest::addColumn<QString>("own");   // Get: exactly this language's text
-    QTest::addColumn<QString>("shown"); // GetBilingual, and the TR.* placeholder's value
+    QTest::addColumn<QString>("shown"); // bilingual(), and the TR.* placeholder's value
     const auto row = [](const char* name, const char* key, const QVariant& language,
                         const char* own, const char* shown) {
         QTest::newRow(name) << key << language << QString::fromUtf8(own)
@@ -63,23 +63,23 @@ void TestLabelTranslations::labels()
     QFETCH(QVariant, language);
     QFETCH(QString, own);
     QFETCH(QString, shown);
-    QCOMPARE(m_labels.Get(key, language.toInt()), own);
-    QCOMPARE(m_labels.GetBilingual(key, language), shown);
+    QCOMPARE(m_labels.get(key, language.toInt()), own);
+    QCOMPARE(m_labels.bilingual(key, language), shown);
     // Filling replaces what the map held and leaves other entries alone.
     const QString name = QString(key).replace(u'_', u'.');
     QMap<QString, QString> map = {{name, u"old"_s}, {u"ORDERHEAD.SUBJECT"_s, u"kept"_s}};
-    m_labels.FillPlaceholders(map, language);
+    m_labels.fillPlaceholders(map, language);
     QCOMPARE(map.value(name), shown);
     QCOMPARE(map.value(u"ORDERHEAD.SUBJECT"_s), u"kept"_s);
     QVERIFY(!map.contains(u"TR.ONLY.ENGLISH"_s));
-    QCOMPARE(m_labels.GetBilingual(u"TR_ONLY_ENGLISH"_s, language), QString());
+    QCOMPARE(m_labels.bilingual(u"TR_ONLY_ENGLISH"_s, language), QString());
 }
 
 void TestLabelTranslations::hungarianPartnerGetsHungarianAlone()
 {
     QMap<QString, QString> map;
-    m_labels.FillPlaceholders(map, 0);
-    QCOMPARE(map.size(), m_labels.Keys().size() - 1); // all but TR_ONLY_ENGLISH
+    m_labels.fillPlaceholders(map, 0);
+    QCOMPARE(map.size(), m_labels.keys().size() - 1); // all but TR_ONLY_ENGLISH
     for (auto it = map.cbegin(); it != map.cend(); ++it) {
         QVERIFY2(it.key().startsWith(QLatin1String("TR.")), qPrintable(it.key()));
         QVERIFY2(!it.value().contains(QLatin1String(" / ")), qPrintable(it.key()));
@@ -93,11 +93,11 @@ void TestLabelTranslations::reload()
     QVERIFY(ExecSql(u"delete from ORDERLABELTRANSLATION where ORDERLABELTRANSLATION_LANG_ID = ? "
                     "and ORDERLABELTRANSLATION_KEY = ?"_s,
                     {2, u"TR_INVOICE"_s}));
-    QVERIFY(m_labels.Load());
-    QCOMPARE(m_labels.GetBilingual(u"TR_INVOICE"_s, 2), u"Számla"_s);
+    QVERIFY(m_labels.load());
+    QCOMPARE(m_labels.bilingual(u"TR_INVOICE"_s, 2), u"Számla"_s);
     QVERIFY(ExecSql(u"drop table ORDERLABELTRANSLATION"_s));
-    QCOMPARE(m_labels.Load().message(), u"Unable to load invoice label translations."_s);
-    QVERIFY(m_labels.Keys().isEmpty());
+    QCOMPARE(m_labels.load().message(), u"Unable to load invoice label translations."_s);
+    QVERIFY(m_labels.keys().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestLabelTranslations)

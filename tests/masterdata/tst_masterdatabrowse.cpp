@@ -229,6 +229,7 @@ private Q_SLOTS:
         using enum ProductPriceModel::Column;
         QVERIFY(ExecSql("update CURRENCYY set CURRENCY_RATE = 300 where CURRENCY_ID = 1"));
         auto dlg = std::make_unique<ProductEdit>(std::nullopt);
+        dlg->setInteraction(&m_ui);
         QVERIFY(dlg->load());
         ProductPriceModel* prices = dlg->prices();
         Tester tester(prices, Tester::FailureReportingMode::QtTest);
@@ -238,7 +239,9 @@ private Q_SLOTS:
         QCOMPARE(ColumnTexts(prices, CurrencyColumn), QStringList({"EUR", "USD"}));
         QCOMPARE(ColumnTexts(prices, CalculatedColumn), QStringList({"3.33", "5.56"}));
         QVERIFY(prices->setData(euro, "3,5"));
+        // Letters are refused with a word, not dropped silently.
         QVERIFY(!prices->setData(euro, "abc"));
+        QCOMPARE(m_ui.lastMessage(), "\"abc\" is not a price: type a number.");
         QVERIFY(!prices->setData(prices->index(0, CalculatedColumn), "1"));
         dlg->accept();
         const std::optional<qint64> id = dlg->id();
@@ -252,7 +255,8 @@ private Q_SLOTS:
         dlg = std::make_unique<ProductEdit>(id);
         QVERIFY(dlg->load());
         prices = dlg->prices();
-        QCOMPARE(ColumnTexts(prices, OverriddenColumn).first(), "3.5");
+        // Side by side with the currency's decimals.
+        QCOMPARE(ColumnTexts(prices, OverriddenColumn).first(), "3.50");
         QCOMPARE(ColumnTexts(prices, CalculatedColumn).first(), "3.33");
         QVERIFY(prices->setData(prices->index(0, OverriddenColumn), ""));
         dlg->accept();

@@ -137,17 +137,15 @@ void MainWindow::buildMenus()
     addCommand(webshop, MainCommand::DownloadPartners, tr("Download partners"),
                tr("Download external partners from web, based on Setup"));
     webshop->addSeparator();
-    // These captions exist only in Hungarian.
-    addCommand(webshop, MainCommand::ImportOrders, QStringLiteral("Szamlak importalasa fajlbol"),
-               QStringLiteral("Szamlakat tartalmazo fajl megnyitasa es importalasa"))
+    // Source texts in Hungarian without accents: both translations give the readable text.
+    addCommand(webshop, MainCommand::ImportOrders, tr("Szamlak importalasa fajlbol"),
+               tr("Szamlakat tartalmazo fajl megnyitasa es importalasa"))
         ->setIcon(s->standardIcon(QStyle::SP_DialogOpenButton));
-    addCommand(
-        webshop, MainCommand::ImportProducts,
-        QStringLiteral("Termekek/szolgaltatasok importalasa fajlbol"),
-        QStringLiteral("Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa"));
-    addCommand(webshop, MainCommand::ImportPartners,
-               QStringLiteral("Partnerek importalasa fajlbol"),
-               QStringLiteral("Partnereket tartalmazo fajl megnyitasa es importalasa"));
+    addCommand(webshop, MainCommand::ImportProducts,
+               tr("Termekek/szolgaltatasok importalasa fajlbol"),
+               tr("Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa"));
+    addCommand(webshop, MainCommand::ImportPartners, tr("Partnerek importalasa fajlbol"),
+               tr("Partnereket tartalmazo fajl megnyitasa es importalasa"));
 
     QMenu* reports = menuBar()->addMenu(tr("Reports"));
     addCommand(reports, MainCommand::OutgoingInvoices, tr("Outgoing Invoices"),
@@ -170,8 +168,8 @@ void MainWindow::buildMenus()
                                  tr("Show the list of Help topics"));
     topics->setIcon(s->standardIcon(QStyle::SP_DialogHelpButton));
     topics->setShortcut(QKeySequence::HelpContents);
-    addCommand(help, MainCommand::Declaration, QStringLiteral("Nyilatkozat"),
-               QStringLiteral("24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese"));
+    addCommand(help, MainCommand::Declaration, tr("Nyilatkozat"),
+               tr("24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese"));
     help->addSeparator();
     addCommand(help, MainCommand::About, tr("About"),
                tr("Information about the program, its version and developer"))
@@ -201,8 +199,8 @@ void MainWindow::buildTabs()
     m_tabs->addTab(new PlaceholderPage, tr("Orders/Invoices"));
     m_tabs->addTab(new PlaceholderPage, tr("Products"));
     m_tabs->addTab(new PlaceholderPage, tr("Partners"));
-    // This caption exists only in Hungarian.
-    m_tabs->addTab(new PlaceholderPage, QStringLiteral("Csekkek"));
+    // A Hungarian source text: the English translation gives "Cheques".
+    m_tabs->addTab(new PlaceholderPage, tr("Csekkek"));
     setCentralWidget(m_tabs);
     connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::tabShown);
 }

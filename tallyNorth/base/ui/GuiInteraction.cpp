@@ -4,6 +4,7 @@
 #include "base/ProgramInfo.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -55,6 +56,18 @@ QString Formatted(const QString& text)
     return GuiInteraction::formatMessage(text);
 }
 
+// A message box at least as wide as its title: a short text ("There is only one database.")
+// would otherwise cut the program's name in the title bar.
+void KeepTitleVisible(QMessageBox& box)
+{
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (!grid)
+        return;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + 160;
+    grid->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Expanding),
+                  grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 } // namespace
 
 QWidget* GuiInteraction::topWindow() const
@@ -85,24 +98,20 @@ QString GuiInteraction::formatMessage(const QString& text)
 
 void GuiInteraction::message(MessageKind kind, const QString& text)
 {
-    const QString title = ProgramName();
-    switch (kind) {
-    case MessageKind::Info:
-        QMessageBox::information(topWindow(), title, Formatted(text));
-        break;
-    case MessageKind::Exclamation:
-        QMessageBox::warning(topWindow(), title, Formatted(text));
-        break;
-    case MessageKind::Error:
-        QMessageBox::critical(topWindow(), title, Formatted(text));
-        break;
-    }
+    const QMessageBox::Icon icon = kind == MessageKind::Info          ? QMessageBox::Information
+                                   : kind == MessageKind::Exclamation ? QMessageBox::Warning
+                                                                      : QMessageBox::Critical;
+    QMessageBox box(icon, ProgramName(), Formatted(text), QMessageBox::Ok, topWindow());
+    KeepTitleVisible(box);
+    box.exec();
 }
 
 bool GuiInteraction::askYesNo(const QString& text)
 {
-    return QMessageBox::question(topWindow(), ProgramName(), Formatted(text),
-                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, ProgramName(), Formatted(text),
+                    QMessageBox::Yes | QMessageBox::No, topWindow());
+    KeepTitleVisible(box);
+    return box.exec() == QMessageBox::Yes;
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,
@@ -110,6 +119,7 @@ Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& 
 {
     QMessageBox box(QMessageBox::Question, ProgramName(), Formatted(text), QMessageBox::NoButton,
                     topWindow());
+    KeepTitleVisible(box);
     QAbstractButton* a = box.addButton(first, QMessageBox::AcceptRole);
     QAbstractButton* b = box.addButton(second, QMessageBox::DestructiveRole);
     box.addButton(third, QMessageBox::RejectRole);

@@ -25,6 +25,14 @@ struct TrText
     explicit operator bool() const { return source != nullptr; }
 };
 
+// A column computed from what is read once for each load of the list (another table's names,
+// prices in another currency): the value of a row, and the header when it depends on the load.
+struct ComputedColumn
+{
+    std::function<QVariant(const Record&)> value;
+    QString header = {};
+};
+
 struct ListColumn
 {
     TrText header;
@@ -32,6 +40,7 @@ struct ListColumn
     bool code = false;            // shown only when SETUP_SHOW_CODE_FIELDS is "1"
     std::function<QVariant(const Record&)> value = {}; // a computed value instead of column
     std::function<QString()> headerText = {};          // a header built at run time
+    std::function<ComputedColumn()> load = {};         // called by the list's model on each load
 };
 
 // Opens the edit dialog on a row (none: a new row with the given presets); the saved row's id.
@@ -53,6 +62,4 @@ struct BrowseInfo
     // Partners and products: the "&Name" search and the record limit with its note.
     TrText searchTip = {};
     TrText moreMessage = {};
-    // Called before each load, for lookups that the columns use.
-    std::function<void()> beforeLoad = {};
 };

@@ -48,7 +48,9 @@ void CurrencyEdit::showRecord(const Record& row)
 
 void CurrencyEdit::updateRateLabel()
 {
-    m_ui->m_rate_label->setText(FillArgs(m_rateLabel, {m_ui->m_abbreviation->text().trimmed()}));
+    // Without an abbreviation yet the label reads "(1 ennyi HUF)", not with a gap.
+    m_ui->m_rate_label->setText(
+        FillArgs(m_rateLabel, {m_ui->m_abbreviation->text().trimmed()}).simplified());
 }
 
 void CurrencyEdit::updateBankFields()

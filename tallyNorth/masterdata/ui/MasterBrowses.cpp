@@ -22,13 +22,6 @@
 
 using namespace Col;
 
-// A source text of context c, marked for translation.
-#define TN(c, text)                                                                                \
-    TrText                                                                                         \
-    {                                                                                              \
-        c, QT_TRANSLATE_NOOP(c, text)                                                              \
-    }
-
 namespace {
 
 const TrText kSelectToEdit =
@@ -57,18 +50,16 @@ template <class Dlg> EditFunction DialogEdit()
     };
 }
 
-// Payment method names for the partner list, read before each load.
-QHash<qint64, QString>& PaymentMethodNames()
+// The partner list's payment method: the names are read once for each load.
+ComputedColumn PaymentMethodColumn()
 {
-    static QHash<qint64, QString> names;
-    return names;
-}
-
-QVariant ConvertPaymentmethod(const Record& partner)
-{
-    const std::optional<qint64> id =
-        RowId(partner.value(QString::fromLatin1(PARTNER_PAYMENTMETHOD_ID)));
-    return id ? PaymentMethodNames().value(*id) : QString();
+    QHash<qint64, QString> names;
+    PaymentMethodStore().names(names);
+    return {[names](const Record& partner) -> QVariant {
+        const std::optional<qint64> id =
+            RowId(partner.value(QString::fromLatin1(PARTNER_PAYMENTMETHOD_ID)));
+        return id ? names.value(*id) : QString();
+    }};
 }
 
 const BrowseInfo& VatBrowse()
@@ -308,7 +299,11 @@ const BrowseInfo& PartnerBrowse()
                     {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Other Data")},
                      PARTNER_OTHER_DATA},
                     {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Payment Method")},
-                     nullptr, false, ConvertPaymentmethod},
+                     nullptr,
+                     false,
+                     {},
+                     {},
+                     PaymentMethodColumn},
                     {TrText{"PartnerTable", QT_TRANSLATE_NOOP("PartnerTable", "Due Days")},
                      PARTNER_PAYMENT_DUE_DAYS}},
         .edit = DialogEdit<PartnerEdit>(),
@@ -323,7 +318,6 @@ const BrowseInfo& PartnerBrowse()
                 QT_TRANSLATE_NOOP(
                     "PartnerTable",
                     "There are more matching partners then displayed. Try more specific filter.")},
-        .beforeLoad = [] { (void)PaymentMethodStore().names(PaymentMethodNames()); },
     };
     return info;
 }

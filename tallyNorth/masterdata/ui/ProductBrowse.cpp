@@ -8,23 +8,20 @@
 #include "masterdata/MasterTables.h"
 #include "masterdata/ProductPrices.h"
 
+#include <memory>
+
 using namespace Col;
 
 namespace {
 
-// Prices in the list's second currency, read before each load.
-CurrencyPrices& ListPrices()
+// Prices in the list's second currency, read once for each load.
+ComputedColumn ListPriceColumn()
 {
-    static CurrencyPrices prices;
-    return prices;
-}
-
-void LoadListPrices()
-{
+    auto prices = std::make_shared<CurrencyPrices>();
     if (const std::optional<qint64> currency = ListPriceCurrency())
-        (void)ListPrices().load(*currency);
-    else
-        ListPrices() = CurrencyPrices();
+        (void)prices->load(*currency);
+    return {[prices](const Record& row) { return PriceIn(*prices, row); },
+            PriceInHeader(prices->currency().abbreviation)};
 }
 
 } // namespace
@@ -68,11 +65,7 @@ const BrowseInfo& ProductBrowseInfo()
               PRODUCT_STAT_NO},
              {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Unit")}, PRODUCT_UNIT},
              {TrText{"ProductTable", QT_TRANSLATE_NOOP("ProductTable", "Price")}, PRODUCT_PRICE},
-             {{},
-              nullptr,
-              false,
-              [](const Record& row) { return PriceIn(ListPrices(), row); },
-              [] { return PriceInHeader(ListPrices().currency().abbreviation); }}},
+             {{}, nullptr, false, {}, [] { return PriceInHeader({}); }, ListPriceColumn}},
         .edit =
             [](QWidget* parent, std::optional<qint64> id, const Record& presets) {
                 ProductEdit dlg(id, parent);
@@ -85,7 +78,6 @@ const BrowseInfo& ProductBrowseInfo()
                               QT_TRANSLATE_NOOP("ProductTable",
                                                 "There are more matching products then displayed. "
                                                 "Try more specific filter.")},
-        .beforeLoad = LoadListPrices,
     };
     return info;
 }

@@ -30,6 +30,11 @@ ProductEdit::ProductEdit(std::optional<qint64> id, QWidget* parent)
     m_ui->m_prices->verticalHeader()->hide();
     m_ui->m_prices->horizontalHeader()->setStretchLastSection(true);
     m_ui->m_prices->setEditTriggers(QAbstractItemView::AllEditTriggers);
+    connect(m_prices, &ProductPriceModel::notANumber, this, [this](const QString& text) {
+        interaction().exclamation(
+            QCoreApplication::translate("ProductEdit", "\"%1\" is not a price: type a number.")
+                .arg(text));
+    });
 
     connect(m_ui->m_price, &QLineEdit::textEdited, this, &ProductEdit::netEdited);
     connect(m_ui->m_gross_price, &QLineEdit::textEdited, this, &ProductEdit::grossEdited);

@@ -4,9 +4,27 @@
 #include "RecordListModel.h"
 
 #include "Columns.h"
+#include "base/RoundDecimals.h"
 #include "base/SqlValue.h"
 
+#include <QLocale>
+
+#include <algorithm>
+
 using namespace Col;
+
+namespace {
+
+// A price with its currency's unit-price decimals, so that prices side by side line up; digits
+// the user typed beyond them are still shown.
+QString PriceText(double price, int decimals)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(price, 'f', std::max(decimals, DecimalCount(price)));
+}
+
+} // namespace
 
 ProductPriceModel::ProductPriceModel(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -83,10 +101,13 @@ QVariant ProductPriceModel::data(const QModelIndex& index, int role) const
     case CalculatedColumn: {
         const std::optional<double> price =
             m_net ? CalculatedPrice(*m_net, row.currency) : std::nullopt;
-        return price ? ListText(*price) : QString();
+        return price ? PriceText(*price, row.currency.unitPriceDecimals) : QString();
     }
     default:
-        return row.overridden ? NumberEdit::format(*row.overridden) : QString();
+        if (!row.overridden)
+            return QString();
+        return role == Qt::EditRole ? NumberEdit::format(*row.overridden)
+                                    : PriceText(*row.overridden, row.currency.unitPriceDecimals);
     }
 }
 
@@ -97,8 +118,10 @@ bool ProductPriceModel::setData(const QModelIndex& index, const QVariant& value,
         return false;
     const QString text = value.toString();
     const std::optional<double> price = NumberEdit::parse(text);
-    if (!price && !text.trimmed().isEmpty())
+    if (!price && !text.trimmed().isEmpty()) {
+        Q_EMIT notANumber(text);
         return false;
+    }
     m_rows[index.row()].overridden = price;
     Q_EMIT dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});
     return true;

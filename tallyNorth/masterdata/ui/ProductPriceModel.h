@@ -29,6 +29,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
+Q_SIGNALS:
+    // Text typed as an overridden price that is not a number; the price is left as it was.
+    void notANumber(const QString& text);
+
 private:
     struct Row
     {

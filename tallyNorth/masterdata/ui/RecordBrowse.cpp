@@ -90,8 +90,6 @@ Interaction& RecordBrowse::interaction()
 Result RecordBrowse::reload()
 {
     const std::optional<qint64> selected = currentId();
-    if (m_info.beforeLoad)
-        m_info.beforeLoad();
     ListQuery query;
     if (m_info.searchTip) {
         query.namePrefix = m_ui->m_name->text().trimmed();
@@ -113,24 +111,30 @@ Result RecordBrowse::reload()
     return r;
 }
 
-// Columns as wide as their texts (within a limit); the last shown one fills the rest of the
-// list. The header's own last-section stretch keeps the width the sizing gave when the list is
-// read while shown, which leaves a blank strip or runs the column past the edge.
+// Columns as wide as their texts and headers (within a limit); the spare width goes to the name
+// column, whose texts are the longest, not to whatever column comes last. An empty result (a
+// search that found nothing) keeps the widths the rows gave, so the columns do not collapse to
+// their headers.
 void RecordBrowse::fitColumns()
 {
-    QHeaderView* header = m_ui->m_list->horizontalHeader();
+    if (m_model->rowCount() == 0 && m_fitted)
+        return;
+    QTableView* list = m_ui->m_list;
+    QHeaderView* header = list->horizontalHeader();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(QHeaderView::Interactive);
-    m_ui->m_list->resizeColumnsToContents();
-    for (int c = 0; c < m_model->columnCount(); ++c)
-        m_ui->m_list->setColumnWidth(c, std::min(m_ui->m_list->columnWidth(c), kMaxColumnWidth));
-    for (int v = header->count() - 1; v >= 0; --v) {
-        const int column = header->logicalIndex(v);
-        if (!header->isSectionHidden(column)) {
-            header->setSectionResizeMode(column, QHeaderView::Stretch);
-            break;
-        }
+    list->resizeColumnsToContents();
+    int stretch = -1;
+    for (int c = 0; c < m_model->columnCount(); ++c) {
+        const int wanted = std::min(list->columnWidth(c), kMaxColumnWidth);
+        list->setColumnWidth(c, std::max(wanted, header->sectionSizeHint(c)));
+        if (!header->isSectionHidden(c) &&
+            (stretch < 0 || m_model->column(c).column == m_info.store->info().nameColumn))
+            stretch = c;
     }
+    if (stretch >= 0)
+        header->setSectionResizeMode(stretch, QHeaderView::Stretch);
+    m_fitted = m_model->rowCount() > 0;
 }
 
 std::optional<qint64> RecordBrowse::currentId() const

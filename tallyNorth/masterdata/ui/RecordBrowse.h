@@ -68,4 +68,5 @@ private:
     QTimer m_noteTimer;
     Interaction* m_interaction = nullptr;
     std::unique_ptr<Interaction> m_ownInteraction;
+    bool m_fitted = false; // the widths come from rows
 };

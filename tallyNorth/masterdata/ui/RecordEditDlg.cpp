@@ -56,9 +56,10 @@ void RecordEditDlg::addTranslations(QTableView* view, QList<TrText> headers)
     (void)m_translations->loadLanguages();
     view->setModel(m_translations);
     view->verticalHeader()->hide();
-    // The language keeps its width; the texts share the rest, so none is squeezed to a stub.
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    // Every column at least as wide as its header, the last one taking what is left: sharing
+    // the width evenly clipped the longest header on both sides.
+    view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    view->horizontalHeader()->setStretchLastSection(true);
     view->setEditTriggers(QAbstractItemView::AllEditTriggers);
 }
 

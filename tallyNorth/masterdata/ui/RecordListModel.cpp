@@ -25,6 +25,11 @@ void RecordListModel::setRows(QList<Record> rows)
 {
     beginResetModel();
     m_rows = std::move(rows);
+    m_computed.clear();
+    for (int c = 0; c < m_columns.size(); ++c) {
+        if (m_columns.at(c).load)
+            m_computed.insert(c, m_columns.at(c).load());
+    }
     endResetModel();
 }
 
@@ -57,6 +62,8 @@ int RecordListModel::columnCount(const QModelIndex& parent) const
 QVariant RecordListModel::value(const Record& row, int column) const
 {
     const ListColumn& c = m_columns.at(column);
+    if (const auto it = m_computed.constFind(column); it != m_computed.cend() && it->value)
+        return it->value(row);
     if (c.value)
         return c.value(row);
     return row.value(QString::fromLatin1(c.column));
@@ -90,5 +97,8 @@ QVariant RecordListModel::headerData(int section, Qt::Orientation orientation, i
         section >= m_columns.size())
         return {};
     const ListColumn& c = m_columns.at(section);
+    if (const auto it = m_computed.constFind(section);
+        it != m_computed.cend() && !it->header.isEmpty())
+        return it->header;
     return c.headerText ? c.headerText() : c.header.text();
 }

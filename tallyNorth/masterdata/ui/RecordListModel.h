@@ -4,6 +4,7 @@
 #include "BrowseInfo.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 
 class RecordListModel : public QAbstractTableModel
 {
@@ -13,6 +14,7 @@ public:
 
     RecordListModel(QList<ListColumn> columns, const char* idColumn, QObject* parent = nullptr);
 
+    // Also reads what the computed columns look up, once for these rows.
     void setRows(QList<Record> rows);
     const Record& row(int index) const { return m_rows.at(index); }
     std::optional<qint64> id(int row) const;
@@ -32,6 +34,7 @@ private:
     QList<ListColumn> m_columns;
     QString m_idColumn;
     QList<Record> m_rows;
+    QHash<int, ComputedColumn> m_computed; // by column, for the current rows
 };
 
 // A value as a list shows it: numbers in the user's locale, the rest as text.
