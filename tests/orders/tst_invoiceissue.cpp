@@ -178,9 +178,9 @@ void TestInvoiceIssue::failureLeavesNoGap()
              itemRows);
 
     // Once the fault is gone the next number is the one that failed: nothing was skipped.
-    ExecSql("drop trigger if exists T");
-    ExecSql("insert or ignore into CURRENCYY (CURRENCY_ID, CURRENCY_NAME, CURRENCY_ABBREVIATION, "
-            "CURRENCY_RATE) values (0, 'Magyar forint', 'Ft', 1)");
+    QVERIFY(ExecSql("drop trigger if exists T"));
+    QVERIFY(ExecSql("insert or ignore into CURRENCYY (CURRENCY_ID, CURRENCY_NAME, CURRENCY_ABBREVIATION, "
+            "CURRENCY_RATE) values (0, 'Magyar forint', 'Ft', 1)"));
     QString text;
     QVERIFY(Issue(order, &text));
     QCOMPARE(text, QString("000002"));
