@@ -111,7 +111,7 @@ QStringList LabelLines(const LabelTranslations& labels, const QVariant& language
         if (value.isEmpty())
             continue;
         const QString caption =
-            label.startsWith(QLatin1String("TR_")) ? labels.GetBilingual(label, language) : label;
+            label.startsWith(QLatin1String("TR_")) ? labels.bilingual(label, language) : label;
         out << caption + QStringLiteral(": ") + value;
     }
     return out;
@@ -150,7 +150,7 @@ public:
     Result run(FrozenInvoice& invoice);
 
 private:
-    QString label(const char* key) const { return m_labels.GetBilingual(Name(key), m_language); }
+    QString label(const char* key) const { return m_labels.bilingual(Name(key), m_language); }
     QString total(double v) const { return FormatAmount(v, m_totalDecimals); }
     QString line(double v) const { return FormatAmount(v, m_lineDecimals); }
     void orderValues();
@@ -258,7 +258,7 @@ void Renderer::orderValues()
 
     SetText(m_map, QStringLiteral("P.DEVELOPEER"), QStringLiteral("www.tallynorth.hu"));
     if (m_forint) {
-        const QString hungarian = m_labels.Get(QStringLiteral("TR_GROSS_TOTAL_IN_HUNGARIAN"),
+        const QString hungarian = m_labels.get(QStringLiteral("TR_GROSS_TOTAL_IN_HUNGARIAN"),
                                                LabelTranslations::Hungarian);
         const double gross = std::trunc(m_head.number(Col::ORDERHEAD_TOTAL_GROSS));
         SetText(m_map, QStringLiteral("P.TOTAL.GROSS.TEXT.FULL"),
@@ -277,7 +277,7 @@ void Renderer::orderValues()
             m_data.sample ? InvoiceRender::tr("The comment of the invoice is printed here: the "
                                               "payment terms, a word of thanks.")
                           : m_head.text(Col::ORDERHEAD_COMMENT_TEXT));
-    for (const auto& [name, value] : m_labels.Placeholders(m_language))
+    for (const auto& [name, value] : m_labels.placeholders(m_language))
         SetText(m_map, name, value);
 }
 
@@ -673,12 +673,12 @@ QString InvoiceTitle(int type, int copyIndex, bool consolidated, const QVariant&
         return QStringLiteral("Error: invalid ORDERHEAD_TYPE");
     }
     const int lang = int(ToInteger(language));
-    QString translated = labels.Get(key, lang);
+    QString translated = labels.get(key, lang);
     if (copyIndex >= 1) {
         hungarian += QStringLiteral(" (másolat)");
-        translated += u' ' + labels.Get(QStringLiteral("TR_COPY_IN_PAR"), lang);
+        translated += u' ' + labels.get(QStringLiteral("TR_COPY_IN_PAR"), lang);
     }
-    if (!labels.Get(key, lang).isEmpty() && lang != LabelTranslations::Hungarian)
+    if (!labels.get(key, lang).isEmpty() && lang != LabelTranslations::Hungarian)
         return hungarian + QStringLiteral(" / ") + translated;
     return hungarian;
 }
@@ -689,12 +689,12 @@ QString InvoiceCopyMark(int copyNumber, const QVariant& language, const LabelTra
     if (copyNumber != 1)
         return mark;
     const QString key = QStringLiteral("TR_ORIGINAL_COPY");
-    QString hungarian = labels.Get(key, LabelTranslations::Hungarian);
+    QString hungarian = labels.get(key, LabelTranslations::Hungarian);
     if (hungarian.isEmpty())
         hungarian = InvoiceRender::tr("Original copy");
     const int lang = int(ToInteger(language));
     const QString translated =
-        lang == LabelTranslations::Hungarian ? QString() : labels.Get(key, lang);
+        lang == LabelTranslations::Hungarian ? QString() : labels.get(key, lang);
     return mark + QStringLiteral(" (") +
            (translated.isEmpty() ? hungarian : translated + u'/' + hungarian) + u')';
 }

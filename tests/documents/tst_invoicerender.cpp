@@ -97,7 +97,7 @@ void TestInvoiceRender::init()
     QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Minta Kft.', SETUP_TAX_NO = '12345676-2-41', "
                     "SETUP_BANK_NAME = 'OTP', SETUP_BANK_ACCT_NO = '11700000-1'"));
     QVERIFY(Setup::current().load());
-    QVERIFY(LabelTranslations::current().Load());
+    QVERIFY(LabelTranslations::current().load());
     QVERIFY(LoadTemplateFromSetup().certified());
 }
 
