@@ -48,3 +48,11 @@ QVariant SelectValue(const QString& text, const QVariantList& binds)
         return {};
     return st.value(0);
 }
+
+QString Sql(const char* pattern, std::initializer_list<const char*> names)
+{
+    QString text = QString::fromLatin1(pattern);
+    for (const char* name : names)
+        text = text.arg(QLatin1StringView(name));
+    return text;
+}

@@ -9,6 +9,8 @@
 #include <QVariant>
 #include <QVariantList>
 
+#include <initializer_list>
+
 class SqlStatement
 {
 public:
@@ -42,3 +44,12 @@ Result ExecSql(const QString& text, const QVariantList& binds = {}, const QStrin
 
 // First column of the first row, or an invalid QVariant when there is no row or it fails.
 QVariant SelectValue(const QString& text, const QVariantList& binds = {});
+
+// SQL text with table and column names from Columns.h put in for %1, %2, ...; only such names go
+// into the text, every value is bound.
+QString Sql(const char* pattern, std::initializer_list<const char*> names);
+// A name from Columns.h as a QString.
+inline QString ColumnName(const char* column)
+{
+    return QString::fromLatin1(column);
+}

@@ -14,14 +14,6 @@
 
 namespace {
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
 struct OrderState
 {
     bool issued = false;

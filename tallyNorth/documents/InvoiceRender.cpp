@@ -25,19 +25,6 @@ namespace {
 
 using Piece = InvoiceTemplate::Piece;
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
-QString Name(const char* column)
-{
-    return QString::fromLatin1(column);
-}
-
 // ORDERHEAD_PARTNER_NAME -> ORDERHEAD.PARTNER.NAME
 QString PlaceholderName(QString column)
 {
@@ -67,7 +54,7 @@ class Row
 {
 public:
     explicit Row(const QSqlRecord& record) : m_record(record) {}
-    QVariant value(const char* column) const { return m_record.value(Name(column)); }
+    QVariant value(const char* column) const { return m_record.value(ColumnName(column)); }
     QString text(const char* column) const
     {
         const QVariant v = value(column);
@@ -150,7 +137,7 @@ public:
     Result run(FrozenInvoice& invoice);
 
 private:
-    QString label(const char* key) const { return m_labels.bilingual(Name(key), m_language); }
+    QString label(const char* key) const { return m_labels.bilingual(ColumnName(key), m_language); }
     QString total(double v) const { return FormatAmount(v, m_totalDecimals); }
     QString line(double v) const { return FormatAmount(v, m_lineDecimals); }
     void orderValues();
@@ -213,13 +200,13 @@ void Renderer::orderValues()
          {Col::ORDERHEAD_TOTAL_NET, Col::ORDERHEAD_TOTAL_GROSS, Col::ORDERHEAD_TOTAL_CORRECTION_NET,
           Col::ORDERHEAD_TOTAL_CORRECTION_VAT, Col::ORDERHEAD_TOTAL_CORRECTION_GROSS,
           Col::ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE, Col::ORDERHEAD_UNPAID_TOTAL})
-        SetText(m_map, PlaceholderName(Name(column)), total(m_head.number(column)));
+        SetText(m_map, PlaceholderName(ColumnName(column)), total(m_head.number(column)));
     SetText(m_map, QStringLiteral("ORDERHEAD.TOTAL.VAT"),
             m_noVat ? QStringLiteral("---") : total(m_head.number(Col::ORDERHEAD_TOTAL_VAT)));
     for (const char* column :
          {Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_NET, Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_VAT,
           Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS})
-        SetText(m_map, PlaceholderName(Name(column)),
+        SetText(m_map, PlaceholderName(ColumnName(column)),
                 FormatAmount(m_head.number(column), m_data.localPrintingDecimals));
     const double rate = m_head.number(Col::ORDERHEAD_CURRENCY_RATE);
     SetText(m_map, QStringLiteral("ORDERHEAD.CURRENCY.RATE"),
@@ -355,7 +342,7 @@ QString Renderer::items()
     const qint64 printDiscount = m_setup.integer(Col::SETUP_INVOICE_PRINT_DISCOUNT_TO_INVOICE);
     bool anyDiscount = false;
     for (const QSqlRecord& item : m_data.items) {
-        const QVariant type = item.value(Name(Col::ORDERITEM_DISCOUNT_TYPE));
+        const QVariant type = item.value(ColumnName(Col::ORDERITEM_DISCOUNT_TYPE));
         anyDiscount = anyDiscount || (!IsNullValue(type) && ToInteger(type) != 0);
     }
     const bool discountLayout = printDiscount == 3 || (printDiscount == 2 && anyDiscount);
@@ -543,7 +530,8 @@ Result InvoiceRender::load(qint64 orderId, InvoiceData& data)
                       {orderId});
     if (Result r = ReadRecord(head, data.head); !r)
         return r;
-    const bool consolidated = IsFlagSet(data.head.value(Name(Col::ORDERHEAD_CONSOLIDATED_INVOICE)));
+    const bool consolidated =
+        IsFlagSet(data.head.value(ColumnName(Col::ORDERHEAD_CONSOLIDATED_INVOICE)));
     SqlStatement items(
         consolidated
             ? Sql("select * from %1 where %2 = ? order by %3, %4, %5",
@@ -575,7 +563,7 @@ Result InvoiceRender::loadSample(InvoiceData& data)
 
     const QDate today = QDate::currentDate();
     const auto set = [](QSqlRecord& r, const char* column, const QVariant& v) {
-        r.setValue(Name(column), v);
+        r.setValue(ColumnName(column), v);
     };
     struct SampleItem
     {

@@ -2,6 +2,7 @@
 
 #include "Columns.h"
 #include "base/Setup.h"
+#include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 
 #include <QtGlobal>
@@ -11,11 +12,6 @@
 using namespace Col;
 
 namespace {
-
-QString Name(const char* column)
-{
-    return QString::fromLatin1(column);
-}
 
 const char* const kTranslationError =
     QT_TRANSLATE_NOOP("TableStore", "Unable to save translation data.");
@@ -29,19 +25,19 @@ void CapRoundingDecimals(Record& currency)
         {CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS, CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS},
     };
     for (const auto& [rounding, printing] : pairs) {
-        const QVariant print = currency.value(Name(printing));
+        const QVariant print = currency.value(ColumnName(printing));
         if (IsNullValue(print))
             continue;
-        const qint64 round = ToInteger(currency.value(Name(rounding)), ToInteger(print));
-        currency.insert(Name(rounding), std::min(round, ToInteger(print)));
+        const qint64 round = ToInteger(currency.value(ColumnName(rounding)), ToInteger(print));
+        currency.insert(ColumnName(rounding), std::min(round, ToInteger(print)));
     }
 }
 
 void UpperCaseCode(Record& lang)
 {
-    const QVariant code = lang.value(Name(LANG_CODE));
+    const QVariant code = lang.value(ColumnName(LANG_CODE));
     if (!IsNullValue(code))
-        lang.insert(Name(LANG_CODE), code.toString().trimmed().toUpper());
+        lang.insert(ColumnName(LANG_CODE), code.toString().trimmed().toUpper());
 }
 
 int ListRecordLimit()
@@ -66,22 +62,22 @@ const QList<std::pair<const char*, const char*>>& MailAddressColumns()
 
 void CopyMailAddress(Record& partner)
 {
-    if (!IsFlagSet(partner.value(Name(PARTNER_MAIL_IS_SAME))))
+    if (!IsFlagSet(partner.value(ColumnName(PARTNER_MAIL_IS_SAME))))
         return;
     for (const auto& [billing, mail] : MailAddressColumns())
-        partner.insert(Name(mail), partner.value(Name(billing)));
+        partner.insert(ColumnName(mail), partner.value(ColumnName(billing)));
 }
 
 Record NewPartnerDefaults()
 {
     const Setup& setup = Setup::current();
     return {
-        {Name(PARTNER_MAIL_IS_SAME), FlagText(true)},
-        {Name(PARTNER_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
-        {Name(PARTNER_MAIL_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
-        {Name(PARTNER_LANG_ID), setup.integer(SETUP_INVOICE_LANG_ID)},
-        {Name(PARTNER_CURRENCY_ID), setup.integer(SETUP_INVOICE_CURRENCY_ID)},
-        {Name(PARTNER_DISCOUNT_TYPE), setup.integer(SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE)},
+        {ColumnName(PARTNER_MAIL_IS_SAME), FlagText(true)},
+        {ColumnName(PARTNER_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
+        {ColumnName(PARTNER_MAIL_COUNTRY_ID), setup.integer(SETUP_INVOICE_COUNTRY_ID)},
+        {ColumnName(PARTNER_LANG_ID), setup.integer(SETUP_INVOICE_LANG_ID)},
+        {ColumnName(PARTNER_CURRENCY_ID), setup.integer(SETUP_INVOICE_CURRENCY_ID)},
+        {ColumnName(PARTNER_DISCOUNT_TYPE), setup.integer(SETUP_INVOICE_DEFAULT_DISCOUNT_TYPE)},
     };
 }
 
@@ -91,9 +87,10 @@ Result CountryDefaults(qint64 countryId, Record& partner)
     Record country;
     if (Result r = CountryStore().read(countryId, country); !r)
         return r;
-    partner.insert(Name(PARTNER_LANG_ID), country.value(Name(COUNTRY_LANG_ID)));
-    if (!IsNullValue(country.value(Name(COUNTRY_CURRENCY_ID))))
-        partner.insert(Name(PARTNER_CURRENCY_ID), country.value(Name(COUNTRY_CURRENCY_ID)));
+    partner.insert(ColumnName(PARTNER_LANG_ID), country.value(ColumnName(COUNTRY_LANG_ID)));
+    if (!IsNullValue(country.value(ColumnName(COUNTRY_CURRENCY_ID))))
+        partner.insert(ColumnName(PARTNER_CURRENCY_ID),
+                       country.value(ColumnName(COUNTRY_CURRENCY_ID)));
     return Result::success();
 }
 

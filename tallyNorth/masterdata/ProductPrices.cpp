@@ -13,17 +13,13 @@ namespace {
 
 using namespace Col;
 
-QString Name(const char* column)
-{
-    return QString::fromLatin1(column);
-}
-
 QString CurrencySelect()
 {
     return QStringLiteral("select %1, %2, %3, %4, %5 from %6 ")
-        .arg(Name(CURRENCY_ID), Name(CURRENCY_NAME), Name(CURRENCY_ABBREVIATION),
-             Name(CURRENCY_RATE), Name(CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS),
-             Name(Tbl::CURRENCYY));
+        .arg(ColumnName(CURRENCY_ID), ColumnName(CURRENCY_NAME), ColumnName(CURRENCY_ABBREVIATION),
+             ColumnName(CURRENCY_RATE),
+             ColumnName(CURRENCY_CALCULATED_UNIT_PRICE_ROUNDING_DECIMALS),
+             ColumnName(Tbl::CURRENCYY));
 }
 
 CurrencyRate ReadCurrency(const SqlStatement& st)
@@ -52,7 +48,7 @@ Result LoadForeignCurrencies(QList<CurrencyRate>& currencies)
 {
     currencies.clear();
     SqlStatement st(CurrencySelect() +
-                    QStringLiteral("where %1 <> 0 order by %1").arg(Name(CURRENCY_ID)));
+                    QStringLiteral("where %1 <> 0 order by %1").arg(ColumnName(CURRENCY_ID)));
     if (!st.exec())
         return st.failure(LoadError());
     while (st.next())
@@ -65,7 +61,7 @@ std::optional<qint64> ListPriceCurrency()
     const qint64 preferred = Setup::current().integer(SETUP_INVOICE_CURRENCY_ID);
     const QVariant id = SelectValue(QStringLiteral("select %1 from %2 where %1 <> 0 "
                                                    "order by %1 <> ?, %1 limit 1")
-                                        .arg(Name(CURRENCY_ID), Name(Tbl::CURRENCYY)),
+                                        .arg(ColumnName(CURRENCY_ID), ColumnName(Tbl::CURRENCYY)),
                                     {preferred});
     return RowId(id);
 }
@@ -74,14 +70,16 @@ Result CurrencyPrices::load(qint64 currencyId)
 {
     m_currency = {};
     m_overridden.clear();
-    SqlStatement currency(CurrencySelect() + QStringLiteral("where %1 = ?").arg(Name(CURRENCY_ID)),
+    SqlStatement currency(CurrencySelect() +
+                              QStringLiteral("where %1 = ?").arg(ColumnName(CURRENCY_ID)),
                           {currencyId});
     if (!currency.exec() || !currency.next())
         return currency.failure(LoadError());
     m_currency = ReadCurrency(currency);
     SqlStatement prices(QStringLiteral("select %1, %2 from %3 where %4 = ?")
-                            .arg(Name(PRODUCTPRICE_PRODUCT_ID), Name(PRODUCTPRICE_PRICE),
-                                 Name(Tbl::PRODUCTPRICE), Name(PRODUCTPRICE_CURRENCY_ID)),
+                            .arg(ColumnName(PRODUCTPRICE_PRODUCT_ID),
+                                 ColumnName(PRODUCTPRICE_PRICE), ColumnName(Tbl::PRODUCTPRICE),
+                                 ColumnName(PRODUCTPRICE_CURRENCY_ID)),
                         {currencyId});
     if (!prices.exec())
         return prices.failure(LoadError());

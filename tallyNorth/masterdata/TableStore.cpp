@@ -12,11 +12,6 @@
 
 namespace {
 
-QString Name(const char* column)
-{
-    return QString::fromLatin1(column);
-}
-
 // The typed text as a LIKE prefix: its own "%", "_" and "\" match only themselves.
 QString LikePrefix(const QString& text)
 {
@@ -64,22 +59,22 @@ QString TableStore::text(const char* source) const
 
 QString TableStore::columnList() const
 {
-    QStringList names{Name(m_info.idColumn)};
+    QStringList names{ColumnName(m_info.idColumn)};
     for (const char* c : m_info.columns)
-        names << Name(c);
+        names << ColumnName(c);
     return names.join(u", ");
 }
 
 Result TableStore::list(RecordPage& page, const ListQuery& query) const
 {
     page = {};
-    QString sql = QStringLiteral("select %1 from %2").arg(columnList(), Name(m_info.table));
+    QString sql = QStringLiteral("select %1 from %2").arg(columnList(), ColumnName(m_info.table));
     QVariantList binds;
     QString order = m_info.orderBy;
     if (m_info.foldColumn && !query.namePrefix.isEmpty()) {
-        sql += QStringLiteral(" where %1 like ? escape '\\'").arg(Name(m_info.foldColumn));
+        sql += QStringLiteral(" where %1 like ? escape '\\'").arg(ColumnName(m_info.foldColumn));
         binds << LikePrefix(FoldName(query.namePrefix));
-        order = Name(m_info.foldColumn);
+        order = ColumnName(m_info.foldColumn);
     }
     if (!order.isEmpty())
         sql += QStringLiteral(" order by ") + order;
@@ -105,8 +100,8 @@ Result TableStore::list(RecordPage& page, const ListQuery& query) const
 
 void TableStore::sortFolded(QList<Record>& rows) const
 {
-    const QString name = Name(m_info.nameColumn);
-    const QString idColumn = Name(m_info.idColumn);
+    const QString name = ColumnName(m_info.nameColumn);
+    const QString idColumn = ColumnName(m_info.idColumn);
     const auto key = [&](const Record& row) {
         const bool home = m_info.homeId && RowId(row.value(idColumn)) == m_info.homeId;
         return std::pair(!home, FoldName(row.value(name).toString()));
@@ -119,7 +114,8 @@ Result TableStore::names(QHash<qint64, QString>& names) const
 {
     names.clear();
     SqlStatement st(QStringLiteral("select %1, %2 from %3")
-                        .arg(Name(m_info.idColumn), Name(m_info.nameColumn), Name(m_info.table)));
+                        .arg(ColumnName(m_info.idColumn), ColumnName(m_info.nameColumn),
+                             ColumnName(m_info.table)));
     if (!st.exec())
         return st.failure(
             QCoreApplication::translate("TableStore", "Unable to load data from database."));
@@ -131,7 +127,7 @@ Result TableStore::names(QHash<qint64, QString>& names) const
 Result TableStore::read(qint64 id, Record& row) const
 {
     SqlStatement st(QStringLiteral("select %1 from %2 where %3 = ?")
-                        .arg(columnList(), Name(m_info.table), Name(m_info.idColumn)),
+                        .arg(columnList(), ColumnName(m_info.table), ColumnName(m_info.idColumn)),
                     {id});
     const QString gone = QCoreApplication::translate(
         "TableStore", "Unable to load data from database.&Maybe it is deleted by an other user.");
@@ -146,7 +142,7 @@ Result TableStore::read(qint64 id, Record& row) const
 std::optional<RequiredField> TableStore::missing(const Record& row) const
 {
     for (const RequiredField& f : m_info.required) {
-        if (IsBlank(row.value(Name(f.column))))
+        if (IsBlank(row.value(ColumnName(f.column))))
             return f;
     }
     return std::nullopt;
@@ -160,11 +156,11 @@ Result TableStore::save(Record& row, std::optional<qint64>& id,
     if (const std::optional<RequiredField> f = missing(row))
         return Result::failure(text(f->message));
     if (m_info.foldColumn)
-        row.insert(Name(m_info.foldColumn),
-                   FoldName(row.value(Name(m_info.nameColumn)).toString()));
+        row.insert(ColumnName(m_info.foldColumn),
+                   FoldName(row.value(ColumnName(m_info.nameColumn)).toString()));
     for (const char* c : m_info.codeColumns) {
-        if (IsBlank(row.value(Name(c))))
-            row.insert(Name(c), QVariant());
+        if (IsBlank(row.value(ColumnName(c))))
+            row.insert(ColumnName(c), QVariant());
     }
     if (Result r = checkUnique(row, id); !r)
         return r;
@@ -180,7 +176,7 @@ Result TableStore::save(Record& row, std::optional<qint64>& id,
     if (!transaction.commit())
         return Result::failure(QCoreApplication::translate("TableStore", "Unable to save data."));
     id = written;
-    row.insert(Name(m_info.idColumn), *id);
+    row.insert(ColumnName(m_info.idColumn), *id);
     return Result::success();
 }
 
@@ -189,14 +185,14 @@ Result TableStore::writeRow(Record& row, std::optional<qint64>& id) const
     QStringList names;
     QVariantList values;
     for (const char* c : m_info.columns) {
-        names << Name(c);
-        values << row.value(Name(c));
+        names << ColumnName(c);
+        values << row.value(ColumnName(c));
     }
     const QString failed = QCoreApplication::translate("TableStore", "Unable to save data.");
     if (!id) {
         const QString marks = QStringList(names.size(), QStringLiteral("?")).join(u", ");
         SqlStatement st(QStringLiteral("insert into %1 (%2) values (%3)")
-                            .arg(Name(m_info.table), names.join(u", "), marks),
+                            .arg(ColumnName(m_info.table), names.join(u", "), marks),
                         values);
         if (!st.exec())
             return st.failure(failed);
@@ -204,10 +200,10 @@ Result TableStore::writeRow(Record& row, std::optional<qint64>& id) const
         return Result::success();
     }
     values << *id;
-    SqlStatement st(
-        QStringLiteral("update %1 set %2 = ? where %3 = ?")
-            .arg(Name(m_info.table), names.join(QStringLiteral(" = ?, ")), Name(m_info.idColumn)),
-        values);
+    SqlStatement st(QStringLiteral("update %1 set %2 = ? where %3 = ?")
+                        .arg(ColumnName(m_info.table), names.join(QStringLiteral(" = ?, ")),
+                             ColumnName(m_info.idColumn)),
+                    values);
     if (!st.exec())
         return st.failure(failed);
     if (st.numRowsAffected() == 0)
@@ -219,23 +215,23 @@ Result TableStore::writeChildren(int child, qint64 parentId, const QList<Record>
 {
     const ChildTable& c = m_info.children.at(child);
     const QString failed = QCoreApplication::translate("TableStore", c.saveError);
-    const Result cleared = ExecSql(
-        QStringLiteral("delete from %1 where %2 = ?").arg(Name(c.table), Name(c.parentColumn)),
-        {parentId}, failed);
+    const Result cleared = ExecSql(QStringLiteral("delete from %1 where %2 = ?")
+                                       .arg(ColumnName(c.table), ColumnName(c.parentColumn)),
+                                   {parentId}, failed);
     if (!cleared)
         return cleared;
-    QStringList names{Name(c.parentColumn), Name(c.keyColumn)};
+    QStringList names{ColumnName(c.parentColumn), ColumnName(c.keyColumn)};
     for (const char* v : c.valueColumns)
-        names << Name(v);
+        names << ColumnName(v);
     const QString sql = QStringLiteral("insert into %1 (%2) values (%3)")
-                            .arg(Name(c.table), names.join(u", "),
+                            .arg(ColumnName(c.table), names.join(u", "),
                                  QStringList(names.size(), QStringLiteral("?")).join(u", "));
     for (const Record& r : rows) {
-        QVariantList values{parentId, r.value(Name(c.keyColumn))};
+        QVariantList values{parentId, r.value(ColumnName(c.keyColumn))};
         bool empty = true;
         for (const char* v : c.valueColumns) {
-            values << r.value(Name(v));
-            empty = empty && IsBlank(r.value(Name(v)));
+            values << r.value(ColumnName(v));
+            empty = empty && IsBlank(r.value(ColumnName(v)));
         }
         if (empty)
             continue;
@@ -249,9 +245,10 @@ Result TableStore::readChildren(int child, qint64 parentId, QList<Record>& rows)
 {
     rows.clear();
     const ChildTable& c = m_info.children.at(child);
-    SqlStatement st(QStringLiteral("select * from %1 where %2 = ? order by %3")
-                        .arg(Name(c.table), Name(c.parentColumn), Name(c.keyColumn)),
-                    {parentId});
+    SqlStatement st(
+        QStringLiteral("select * from %1 where %2 = ? order by %3")
+            .arg(ColumnName(c.table), ColumnName(c.parentColumn), ColumnName(c.keyColumn)),
+        {parentId});
     if (!st.exec())
         return st.failure(
             QCoreApplication::translate("TableStore", "Unable to load data from database."));
@@ -268,15 +265,15 @@ Result TableStore::checkUnique(const Record& row, std::optional<qint64> id) cons
                                                                  {&m_info.uniqueColumns, true}};
     for (const auto& [columns, anyCase] : groups) {
         for (const char* c : *columns) {
-            const QString value = row.value(Name(c)).toString().trimmed();
+            const QString value = row.value(ColumnName(c)).toString().trimmed();
             if (value.isEmpty())
                 continue;
             const QString compare =
                 anyCase ? QStringLiteral("upper(%1) = upper(?)") : QStringLiteral("%1 = ?");
-            SqlStatement st(
-                QStringLiteral("select count(*) from %1 where %2 and %3 <> ?")
-                    .arg(Name(m_info.table), compare.arg(Name(c)), Name(m_info.idColumn)),
-                {value, id.value_or(-1)});
+            SqlStatement st(QStringLiteral("select count(*) from %1 where %2 and %3 <> ?")
+                                .arg(ColumnName(m_info.table), compare.arg(ColumnName(c)),
+                                     ColumnName(m_info.idColumn)),
+                            {value, id.value_or(-1)});
             const QString failed =
                 QCoreApplication::translate("TableStore", "Unable to save data.");
             if (!st.exec() || !st.next())
@@ -295,12 +292,13 @@ Result TableStore::usage(qint64 id, QStringList& uses) const
 {
     uses.clear();
     for (const Reference& ref : m_info.usedBy) {
-        const QString key = ref.valueColumn ? QStringLiteral("(select %1 from %2 where %3 = ?)")
-                                                  .arg(Name(ref.valueColumn), Name(m_info.table),
-                                                       Name(m_info.idColumn))
-                                            : QStringLiteral("?");
+        const QString key = ref.valueColumn
+                                ? QStringLiteral("(select %1 from %2 where %3 = ?)")
+                                      .arg(ColumnName(ref.valueColumn), ColumnName(m_info.table),
+                                           ColumnName(m_info.idColumn))
+                                : QStringLiteral("?");
         SqlStatement st(QStringLiteral("select count(*) from %1 where %2 = %3")
-                            .arg(Name(ref.table), Name(ref.column), key),
+                            .arg(ColumnName(ref.table), ColumnName(ref.column), key),
                         {id});
         if (!st.exec() || !st.next())
             return st.failure(
@@ -332,14 +330,14 @@ Result TableStore::remove(qint64 id) const
                            : QCoreApplication::translate("TableStore", "Unable to delete data.");
     SqlTransaction transaction;
     for (const ChildTable& c : m_info.children) {
-        const Result r = ExecSql(
-            QStringLiteral("delete from %1 where %2 = ?").arg(Name(c.table), Name(c.parentColumn)),
-            {id}, failed);
+        const Result r = ExecSql(QStringLiteral("delete from %1 where %2 = ?")
+                                     .arg(ColumnName(c.table), ColumnName(c.parentColumn)),
+                                 {id}, failed);
         if (!r)
             return r;
     }
     const Result r = ExecSql(QStringLiteral("delete from %1 where %2 = ?")
-                                 .arg(Name(m_info.table), Name(m_info.idColumn)),
+                                 .arg(ColumnName(m_info.table), ColumnName(m_info.idColumn)),
                              {id}, failed);
     if (!r)
         return r;

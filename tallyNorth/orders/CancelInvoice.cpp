@@ -18,19 +18,6 @@
 
 namespace {
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
-QString Name(const char* column)
-{
-    return QString::fromLatin1(column);
-}
-
 Result CreateFailed(const QString& reason, const SqlStatement* st = nullptr)
 {
     const QString message = reason + u'&' + CancelInvoice::tr("Can't create Cancel Invoice.");
@@ -118,12 +105,13 @@ Result CancelInvoice::create(qint64 orderId, const CancelData& data, qint64& new
             return r;
         if (Result r = OrderFill::paymentMethod(order, *data.paymentMethodId); !r)
             return r;
-        head.insert(Name(Col::ORDERHEAD_PAYMENTMETHOD_ID), *data.paymentMethodId);
-        head.insert(Name(Col::ORDERHEAD_PAYMENTMETHOD_CODE), order.paymentMethodCode);
-        head.insert(Name(Col::ORDERHEAD_PAYMENTMETHOD_NAME), order.paymentMethodName);
-        head.insert(Name(Col::ORDERHEAD_PAYMENTMETHOD_NAME_TRANSLATION),
+        head.insert(ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_ID), *data.paymentMethodId);
+        head.insert(ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_CODE), order.paymentMethodCode);
+        head.insert(ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_NAME), order.paymentMethodName);
+        head.insert(ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_NAME_TRANSLATION),
                     order.paymentMethodNameTranslation);
-        head.insert(Name(Col::ORDERHEAD_PAYMENTMETHOD_PAID), FlagText(order.paymentMethodPaid));
+        head.insert(ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_PAID),
+                    FlagText(order.paymentMethodPaid));
     }
 
     SqlTransaction transaction;
@@ -134,36 +122,36 @@ Result CancelInvoice::create(qint64 orderId, const CancelData& data, qint64& new
     const QSqlRecord row = source.query().record();
     source.query().finish();
 
-    const QString numberText = row.value(Name(Col::ORDERHEAD_INVOICE_NO_STR)).toString();
-    const bool consolidated = IsFlagSet(row.value(Name(Col::ORDERHEAD_CONSOLIDATED_INVOICE)));
+    const QString numberText = row.value(ColumnName(Col::ORDERHEAD_INVOICE_NO_STR)).toString();
+    const bool consolidated = IsFlagSet(row.value(ColumnName(Col::ORDERHEAD_CONSOLIDATED_INVOICE)));
     const QVariant nullValue;
-    head.insert(Name(Col::ORDERHEAD_TYPE), int(OrderType::CancellingInvoice));
-    head.insert(Name(Col::ORDERHEAD_CODE), nullValue);
-    head.insert(Name(Col::ORDERHEAD_CANCELLED_INVOICE_NO),
-                row.value(Name(Col::ORDERHEAD_INVOICE_NO)));
-    head.insert(Name(Col::ORDERHEAD_CANCELLED_INVOICE_NO_STR), numberText);
+    head.insert(ColumnName(Col::ORDERHEAD_TYPE), int(OrderType::CancellingInvoice));
+    head.insert(ColumnName(Col::ORDERHEAD_CODE), nullValue);
+    head.insert(ColumnName(Col::ORDERHEAD_CANCELLED_INVOICE_NO),
+                row.value(ColumnName(Col::ORDERHEAD_INVOICE_NO)));
+    head.insert(ColumnName(Col::ORDERHEAD_CANCELLED_INVOICE_NO_STR), numberText);
     for (const char* column :
          {Col::ORDERHEAD_INVOICE_NO, Col::ORDERHEAD_INVOICE_NO_STR,
           Col::ORDERHEAD_CANCELLING_INVOICE_NO, Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR,
           Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_NET, Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_VAT,
           Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS})
-        head.insert(Name(column), nullValue);
+        head.insert(ColumnName(column), nullValue);
     // The stored totals are negated, never recomputed: the cancellation matches to the last unit.
     for (const char* column :
          {Col::ORDERHEAD_TOTAL_NET, Col::ORDERHEAD_TOTAL_VAT, Col::ORDERHEAD_TOTAL_GROSS,
           Col::ORDERHEAD_TOTAL_CORRECTION_NET, Col::ORDERHEAD_TOTAL_CORRECTION_VAT,
           Col::ORDERHEAD_TOTAL_CORRECTION_GROSS, Col::ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE})
-        head.insert(Name(column), -ToNumber(row.value(Name(column))));
-    head.insert(Name(Col::ORDERHEAD_UNPAID_TOTAL), 0.0);
-    head.insert(Name(Col::ORDERHEAD_PAID), FlagText(false));
-    head.insert(Name(Col::ORDERHEAD_PRINTED_COPIES), 0);
-    head.insert(Name(Col::ORDERHEAD_VERIFIED), FlagText(true));
-    head.insert(Name(Col::ORDERHEAD_DATE_CREATED), DateToSql(today));
+        head.insert(ColumnName(column), -ToNumber(row.value(ColumnName(column))));
+    head.insert(ColumnName(Col::ORDERHEAD_UNPAID_TOTAL), 0.0);
+    head.insert(ColumnName(Col::ORDERHEAD_PAID), FlagText(false));
+    head.insert(ColumnName(Col::ORDERHEAD_PRINTED_COPIES), 0);
+    head.insert(ColumnName(Col::ORDERHEAD_VERIFIED), FlagText(true));
+    head.insert(ColumnName(Col::ORDERHEAD_DATE_CREATED), DateToSql(today));
     if (data.dateShipped.isValid())
-        head.insert(Name(Col::ORDERHEAD_DATE_SHIPPED), DateToSql(data.dateShipped));
+        head.insert(ColumnName(Col::ORDERHEAD_DATE_SHIPPED), DateToSql(data.dateShipped));
     if (data.datePaymentDue.isValid())
-        head.insert(Name(Col::ORDERHEAD_DATE_PAYMENT_DUE), DateToSql(data.datePaymentDue));
-    head.insert(Name(Col::ORDERHEAD_COMMENT_TEXT),
+        head.insert(ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), DateToSql(data.datePaymentDue));
+    head.insert(ColumnName(Col::ORDERHEAD_COMMENT_TEXT),
                 FillArgs(tr("This is the cancel invoice of No %s"), {numberText}));
 
     SqlStatement* failed = nullptr;
@@ -182,17 +170,18 @@ Result CancelInvoice::create(qint64 orderId, const CancelData& data, qint64& new
         itemRows << items.query().record();
     items.query().finish();
     for (const QSqlRecord& item : std::as_const(itemRows)) {
-        QHash<QString, QVariant> line{{Name(Col::ORDERITEM_ORDERHEAD_ID), id},
-                                      {Name(Col::ORDERITEM_CODE), nullValue},
-                                      {Name(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET), nullValue},
-                                      {Name(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT), nullValue},
-                                      {Name(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS), nullValue}};
+        QHash<QString, QVariant> line{
+            {ColumnName(Col::ORDERITEM_ORDERHEAD_ID), id},
+            {ColumnName(Col::ORDERITEM_CODE), nullValue},
+            {ColumnName(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET), nullValue},
+            {ColumnName(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT), nullValue},
+            {ColumnName(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS), nullValue}};
         for (const char* column : {Col::ORDERITEM_QTY, Col::ORDERITEM_TOTAL_NET,
                                    Col::ORDERITEM_TOTAL_VAT, Col::ORDERITEM_TOTAL_GROSS})
-            line.insert(Name(column), Negated(item.value(Name(column))));
+            line.insert(ColumnName(column), Negated(item.value(ColumnName(column))));
         // Items of a consolidated invoice keep their own shipping dates.
         if (data.dateShipped.isValid() && !consolidated)
-            line.insert(Name(Col::ORDERITEM_DATE_SHIPPED), DateToSql(data.dateShipped));
+            line.insert(ColumnName(Col::ORDERITEM_DATE_SHIPPED), DateToSql(data.dateShipped));
         if (!InsertCopy(Tbl::ORDERITEM, Col::ORDERITEM_ID, item, line, failed, insert))
             return CreateFailed(tr("Unable to create items of cancel invoice in database."),
                                 failed);

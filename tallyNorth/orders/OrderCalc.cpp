@@ -148,14 +148,6 @@ Result OrderMissing()
         "OrderCalc", "Unable to load data from database.&Maybe it is deleted by an other user."));
 }
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
 } // namespace
 
 Result LoadVatDetail(qint64 orderId, QList<VatDetail>& groups)

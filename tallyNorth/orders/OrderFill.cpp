@@ -9,14 +9,6 @@
 
 namespace {
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
 // One row of a master-data table read for its snapshot, its columns by name.
 class Row
 {

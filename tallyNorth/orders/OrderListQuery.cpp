@@ -9,14 +9,6 @@
 
 namespace {
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
 // The predicate of each kind. Paid state and due dates only mean something on an issued invoice,
 // so the last two kinds take numbered orders only; "verified" lists what is ready for issuing.
 std::optional<QString> KindCondition(int kind, QVariantList& binds, const QDate& today)

@@ -236,14 +236,6 @@ ColumnValues ItemValues(const OrderItem& item, qint64 orderId)
     return v;
 }
 
-QString Sql(const char* pattern, std::initializer_list<const char*> names)
-{
-    QString text = QString::fromLatin1(pattern);
-    for (const char* name : names)
-        text = text.arg(QLatin1StringView(name));
-    return text;
-}
-
 Result Failure(const SqlStatement& st, const char* message)
 {
     return st.failure(OrderStore::tr(message));
