@@ -8,6 +8,7 @@
 #include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
 #include "masterdata/ui/MasterdataCommands.h"
+#include "orders/ui/OrderEditCommands.h"
 
 void InstallShellServices()
 {
@@ -22,6 +23,7 @@ void RegisterCommands(MainWindow& window)
 {
     RegisterFileCommands(window);
     RegisterMasterdataCommands(window);
+    RegisterOrderEditCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()

@@ -1,0 +1,44 @@
+#include "OrderEditCommands.h"
+
+#include "OrderEdit.h"
+
+#include "base/ui/CommandHost.h"
+#include "base/ui/GuiInteraction.h"
+#include "orders/OrderFill.h"
+#include "orders/OrderStore.h"
+
+bool OpenOrderEdit(QWidget* parent, qint64 orderId, qint64* savedId)
+{
+    GuiInteraction interaction(parent);
+    Order order;
+    const Result loaded =
+        orderId == 0 ? OrderFill::newOrder(order) : OrderStore::load(orderId, order);
+    if (!loaded) {
+        interaction.error(loaded.message());
+        return false;
+    }
+    if (order.issued()) {
+        interaction.exclamation(QCoreApplication::translate(
+            "OrderEdit", "This order is issued already; it can not be changed."));
+        return false;
+    }
+    // A failed save keeps what the user typed: the editor opens again on it.
+    for (;;) {
+        OrderEdit edit(order, interaction, parent);
+        if (edit.exec() != QDialog::Accepted)
+            return false;
+        order = edit.order();
+        const Result saved = OrderStore::save(order);
+        if (saved) {
+            if (savedId)
+                *savedId = order.id;
+            return true;
+        }
+        interaction.error(saved.message());
+    }
+}
+
+void RegisterOrderEditCommands(CommandHost& host)
+{
+    host.setCommand(MainCommand::NewOrder, [&host] { OpenOrderEdit(host.hostWidget(), 0); });
+}
