@@ -117,9 +117,14 @@ void OrderItemEditDlg::showItem()
         qMax(0, m_ui->m_discount_type->findData(m_item.discountType ? QVariant(*m_item.discountType)
                                                                     : QVariant())));
     m_ui->m_discount_percent->setValue(std::optional<double>(m_item.discountPercent));
-    ShowAmount(m_ui->m_list_price, m_item.listPrice);
-    m_ui->m_list_price_gross->setValue(
-        std::optional<double>(NetToGross(m_item.listPrice, vatPercent())));
+    // A product without any price shows an empty list price, not a price of 0.
+    if (m_item.listPrice == 0.0) {
+        m_ui->m_list_price->clear();
+        m_ui->m_list_price_gross->clear();
+    } else {
+        ShowAmount(m_ui->m_list_price, m_item.listPrice);
+        ShowAmount(m_ui->m_list_price_gross, NetToGross(m_item.listPrice, vatPercent()));
+    }
     showPrices();
 }
 
