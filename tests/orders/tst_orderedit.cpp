@@ -6,6 +6,10 @@
 #include "TestData.h"
 
 #include "base/ui/DateEdit.h"
+#include "base/Setup.h"
+#include "documents/InvoiceIssue.h"
+#include "documents/InvoiceTemplate.h"
+#include "documents/LabelTranslations.h"
 #include "masterdata/ui/NumberEdit.h"
 #include "masterdata/ui/RecordFinder.h"
 #include "orders/OrderFill.h"
@@ -384,6 +388,41 @@ private Q_SLOTS:
                            "order by PRODUCT_ID"),
                  products);
         QCOMPARE(dlg.item().totals.net, 1000.0);
+    }
+
+    // Printing saves and issues the order; the editor then closes on the issued order.
+    void printIssuesTheSavedOrder()
+    {
+        ScriptedInteraction interaction;
+        OrderEdit::setInvoicePrinter({});
+        OrderEdit edit(PartnerOrder(), interaction);
+        edit.print();
+        QCOMPARE(interaction.lastMessage(), QString("The invoice can not be printed yet."));
+        QCOMPARE(QueryText("select count(*) from ORDERHEAD where ORDERHEAD_ID > 1"), QString("0"));
+
+        QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
+        QVERIFY(Setup::current().load());
+        QVERIFY(LabelTranslations::current().Load());
+        const QString pdf = m_company->dir() + "/invoice.pdf";
+        OrderEdit::setInvoicePrinter([pdf](qint64 id, bool, Interaction& in, QWidget*) {
+            PdfInvoiceOutput output(pdf);
+            InvoiceIssue::Outcome outcome;
+            return InvoiceIssue::print(id, in, &output, outcome);
+        });
+        SetText(&edit, "m_partner_address", "");
+        edit.print();
+        QCOMPARE(interaction.lastMessage(), QString("Partner Address field is required."));
+        QVERIFY(!edit.issued());
+        SetText(&edit, "m_partner_address", "Fő utca 1.");
+        edit.print();
+        OrderEdit::setInvoicePrinter({});
+        QVERIFY2(edit.issued(), qPrintable(interaction.lastMessage()));
+        QCOMPARE(edit.result(), int(QDialog::Accepted));
+        QVERIFY(QFileInfo(pdf).size() > 0);
+        QCOMPARE(QueryText("select ORDERHEAD_INVOICE_NO is not null from ORDERHEAD "
+                           "where ORDERHEAD_ID = ?",
+                           {edit.order().id}),
+                 QString("1"));
     }
 
     // "New order" as a person does it: partner, one item from the item dialog, OK; the database

@@ -7,6 +7,7 @@
 #include "base/ui/GuiInteraction.h"
 #include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
+#include "documents/ui/InvoicePrinting.h"
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 
@@ -15,6 +16,7 @@ void InstallShellServices()
     GuiInteraction::setMessageFormatter(MessageRichText);
     GuiInteraction::setSqlErrorDialog(&SqlErrorDlg::askRetry);
     InstallLabelLoading();
+    InstallOrderEditPrinting();
 }
 
 // One line per subsystem: each registers its handlers with MainWindow::setCommand() and its

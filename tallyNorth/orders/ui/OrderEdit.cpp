@@ -10,6 +10,7 @@
 #include "masterdata/ui/MasterBrowses.h"
 #include "orders/OrderBasicData.h"
 #include "orders/OrderFill.h"
+#include "orders/OrderStore.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
@@ -94,6 +95,12 @@ namespace {
 QVariant IdData(std::optional<qint64> id)
 {
     return id ? QVariant(*id) : QVariant();
+}
+
+OrderEdit::InvoicePrinter& InstalledPrinter()
+{
+    static OrderEdit::InvoicePrinter printer;
+    return printer;
 }
 
 bool RunItemDialog(const Order& order, OrderItem& item, Interaction& interaction, QWidget* parent)
@@ -382,43 +389,74 @@ void OrderEdit::deleteItem()
     showTotals();
 }
 
-void OrderEdit::printInvoice()
+void OrderEdit::setInvoicePrinter(InvoicePrinter printer)
 {
+    InstalledPrinter() = std::move(printer);
+}
+
+// Printing issues the invoice: the order is checked and saved first, as OK would, and once it
+// has its number the editor closes, for an issued order is never changed.
+void OrderEdit::printInvoice(bool preview)
+{
+    readFields();
     if (m_order.items.isEmpty()) {
         m_interaction.exclamation(tr("It is not allowed to print an invoice without items."));
         return;
     }
-    // Issuing from the editor needs the order saved and numbered first; until the list's issue
-    // command does that, the editor says so instead.
-    m_interaction.info(tr("The invoice can not be printed yet. Save the order and issue its "
-                          "invoice from the order list."));
+    const InvoicePrinter& printer = InstalledPrinter();
+    if (!printer) {
+        m_interaction.info(tr("The invoice can not be printed yet."));
+        return;
+    }
+    if (!checkOrder())
+        return;
+    if (Result r = OrderStore::save(m_order); !r) {
+        m_interaction.error(r.message());
+        return;
+    }
+    const Result printed = printer(m_order.id, preview, m_interaction, this);
+    if (!printed && !printed.message().isEmpty())
+        m_interaction.error(printed.message());
+    Order stored;
+    if (OrderStore::load(m_order.id, stored) && stored.issued()) {
+        m_order = stored;
+        m_issued = true;
+        QDialog::accept();
+    }
 }
 
 void OrderEdit::printPreview()
 {
-    printInvoice();
+    printInvoice(true);
 }
 
 void OrderEdit::print()
 {
-    printInvoice();
+    printInvoice(false);
 }
 
-void OrderEdit::accept()
+bool OrderEdit::checkOrder()
 {
     readFields();
     if (Result r = OrderFill::checkOrder(m_order, m_interaction); !r) {
         if (!r.message().isEmpty())
             m_interaction.exclamation(r.message());
         m_ui->m_date_payment_due->setDate(m_order.datePaymentDue);
-        return;
+        return false;
     }
     m_ui->m_date_payment_due->setDate(m_order.datePaymentDue);
     if (Result r = OrderBasicData::partner(m_order, m_interaction); !r) {
         m_interaction.error(r.message());
-        return;
+        return false;
     }
     m_ui->m_partner_name->setPicked(m_order.partnerId, m_order.partnerName);
+    m_ui->m_partner_code->setText(m_order.partnerCode);
     OrderFill::recalcTotals(m_order);
-    QDialog::accept();
+    return true;
+}
+
+void OrderEdit::accept()
+{
+    if (checkOrder())
+        QDialog::accept();
 }

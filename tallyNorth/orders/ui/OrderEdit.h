@@ -3,6 +3,7 @@
 // totals and checks are the order core's.
 #pragma once
 
+#include "base/Result.h"
 #include "orders/Order.h"
 
 #include <QDialog>
@@ -40,6 +41,14 @@ public:
     using ItemEditor = std::function<bool(const Order&, OrderItem&, QWidget*)>;
     void setItemEditor(ItemEditor editor) { m_itemEditor = std::move(editor); }
 
+    // Issues and prints (or previews) a saved order. The invoice printing lives above this
+    // layer and installs itself; without it the editor says the invoice can not be printed yet.
+    using InvoicePrinter =
+        std::function<Result(qint64 orderId, bool preview, Interaction&, QWidget* parent)>;
+    static void setInvoicePrinter(InvoicePrinter printer);
+    // The order was saved and issued from the editor: there is nothing left to save.
+    bool issued() const { return m_issued; }
+
 private:
     void fillCombos();
     void showOrder();
@@ -55,11 +64,13 @@ private:
     bool editItemAt(int row);
     int currentRow() const;
     void report(const Result& r, const QStringList& notes = {});
-    void printInvoice();
+    void printInvoice(bool preview);
+    bool checkOrder();
 
     std::unique_ptr<Ui::OrderEditLayout> m_ui;
     Order m_order;
     Interaction& m_interaction;
     OrderItemModel* m_items;
     ItemEditor m_itemEditor;
+    bool m_issued = false;
 };

@@ -25,9 +25,19 @@ bool OpenOrderEdit(QWidget* parent, qint64 orderId, qint64* savedId)
     // A failed save keeps what the user typed: the editor opens again on it.
     for (;;) {
         OrderEdit edit(order, interaction, parent);
-        if (edit.exec() != QDialog::Accepted)
-            return false;
+        if (edit.exec() != QDialog::Accepted) {
+            // Printing saved a new order before it failed to issue: it is kept all the same.
+            const qint64 id = edit.order().id;
+            if (savedId)
+                *savedId = id;
+            return orderId == 0 && id != 0;
+        }
         order = edit.order();
+        if (edit.issued()) {
+            if (savedId)
+                *savedId = order.id;
+            return true;
+        }
         const Result saved = OrderStore::save(order);
         if (saved) {
             if (savedId)
