@@ -317,6 +317,12 @@ private Q_SLOTS:
         Choose(&dlg, "m_discount_type", int(DiscountType::PercentFromListPrice));
         SetText(&dlg, "m_discount_percent", "10");
         QCOMPARE(Child<NumberEdit>(&dlg, "m_price")->value(), 4500.0);
+
+        // Another VAT key keeps the net prices and moves their gross pairs.
+        Choose(&dlg, "m_vat_id", 4); // 0 %
+        QCOMPARE(Child<NumberEdit>(&dlg, "m_gross_price")->value(), 4500.0);
+        QCOMPARE(Child<NumberEdit>(&dlg, "m_list_price_gross")->value(), 5000.0);
+        QCOMPARE(Child<QLineEdit>(&dlg, "m_total_gross")->text(), NumberEdit::format(13500));
     }
 
     void itemChecksInOrder_data()

@@ -185,9 +185,11 @@ void OrderItemEditDlg::vatChosen()
 {
     if (Result r = OrderFill::vat(m_item, RowId(m_ui->m_vat_id->currentData())); !r)
         m_interaction.error(r.message());
-    if (std::isfinite(m_item.listPrice))
-        m_ui->m_list_price_gross->setValue(
-            std::optional<double>(NetToGross(m_item.listPrice, vatPercent())));
+    // The net prices stand; their gross pairs follow the new percent.
+    if (m_ui->m_list_price->value())
+        ShowAmount(m_ui->m_list_price_gross, NetToGross(m_item.listPrice, vatPercent()));
+    if (std::isfinite(m_item.price))
+        ShowAmount(m_ui->m_gross_price, NetToGross(m_item.price, vatPercent()));
     lineTotals();
 }
 
