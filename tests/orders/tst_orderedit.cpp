@@ -5,14 +5,15 @@
 #include "TestCompany.h"
 #include "TestData.h"
 
-#include "base/ui/DateEdit.h"
 #include "base/Setup.h"
+#include "base/ui/DateEdit.h"
 #include "documents/InvoiceIssue.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/LabelTranslations.h"
 #include "masterdata/ui/NumberEdit.h"
 #include "masterdata/ui/RecordFinder.h"
 #include "orders/OrderFill.h"
+#include "orders/OrderStore.h"
 #include "orders/ui/OrderEdit.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderItemEditDlg.h"
@@ -470,6 +471,42 @@ private Q_SLOTS:
                            "where ORDERITEM_ORDERHEAD_ID = ?",
                            {savedId}),
                  QString("Teszt termék|3"));
+    }
+
+    // Another process deletes the order while it is open: saving says so, writes nothing, and
+    // the editor comes back with what was typed.
+    void orderDeletedWhileEdited()
+    {
+        Order order = PartnerOrder();
+        QVERIFY(OrderStore::save(order));
+        const QString before = QueryText("select count(*) from ORDERITEM");
+        QStringList texts;
+        QString subjectAgain;
+        ModalDriver driver({
+            [id = order.id](QWidget* w) {
+                auto* edit = qobject_cast<OrderEdit*>(w);
+                QVERIFY(edit);
+                SetText(edit, "m_subject", "Új tárgy");
+                OrderStore::DeleteOutcome outcome;
+                QVERIFY(OrderStore::remove({id}, outcome));
+                edit->accept();
+            },
+            Answer(&texts),
+            [&subjectAgain](QWidget* w) {
+                auto* edit = qobject_cast<OrderEdit*>(w);
+                QVERIFY(edit);
+                subjectAgain = Child<QLineEdit>(edit, "m_subject")->text();
+                edit->reject();
+            },
+        });
+        QVERIFY(!OpenOrderEdit(nullptr, order.id));
+        QVERIFY(driver.done());
+        QCOMPARE(texts, QStringList{"Unable to save changes of order. Maybe an other user changed "
+                                    "this order."});
+        QCOMPARE(subjectAgain, QString("Új tárgy"));
+        QCOMPARE(QueryText("select count(*) from ORDERHEAD where ORDERHEAD_ID = ?", {order.id}),
+                 QString("0"));
+        QCOMPARE(QueryText("select count(*) from ORDERITEM"), QString::number(before.toInt() - 1));
     }
 
 private:
