@@ -473,6 +473,82 @@ private Q_SLOTS:
                  QString("Teszt termék|3"));
     }
 
+    // A new customer typed in, a euro order with a euro-priced product, a typed-in line and a
+    // return line, as a new user would enter it.
+    void euroOrderForNewCustomer()
+    {
+        Exec("insert into PRODUCTPRICE (PRODUCTPRICE_PRODUCT_ID, PRODUCTPRICE_CURRENCY_ID, "
+             "PRODUCTPRICE_PRICE) values (1, 1, 10)");
+        QStringList texts;
+        QString grossShown;
+        const auto insertLater = [](QWidget* w) {
+            auto* edit = qobject_cast<OrderEdit*>(w);
+            QVERIFY(edit);
+            Later([edit] { Child<QPushButton>(edit, "m_insert_item")->click(); });
+        };
+        const auto productLine = [](double qty) {
+            return [qty](QWidget* w) {
+                auto* dlg = qobject_cast<OrderItemEditDlg*>(w);
+                QVERIFY(dlg);
+                dlg->chooseProduct(1);
+                SetText(dlg, "m_qty", NumberEdit::format(qty));
+                dlg->accept();
+            };
+        };
+        ModalDriver driver({
+            [&insertLater](QWidget* w) {
+                SetText(w, "m_partner_name", "Árvíztűrő Kft.");
+                SetText(w, "m_partner_zip", "6720");
+                SetText(w, "m_partner_city", "Szeged");
+                SetText(w, "m_partner_address", "Tisza Lajos krt. 1.");
+                Choose(w, "m_paymentmethod_id", 2);
+                Choose(w, "m_currency_id", 1);
+                insertLater(w);
+            },
+            productLine(2),
+            insertLater,
+            [](QWidget* w) {
+                auto* dlg = qobject_cast<OrderItemEditDlg*>(w);
+                QVERIFY(dlg);
+                SetText(dlg, "m_name", "Szerelés");
+                SetText(dlg, "m_qty", "1");
+                Choose(dlg, "m_discount_type", int(DiscountType::EnteredPrice));
+                SetText(dlg, "m_price", "20");
+                Later([dlg] { dlg->accept(); });
+            },
+            Answer(&texts, QMessageBox::No),
+            insertLater,
+            productLine(-1),
+            [&grossShown](QWidget* w) {
+                grossShown = Child<QLineEdit>(w, "m_total_gross")->text();
+                Later([w] { qobject_cast<OrderEdit*>(w)->accept(); });
+            },
+            Answer(&texts, QMessageBox::Yes),
+        });
+        qint64 id = 0;
+        QVERIFY(OpenOrderEdit(nullptr, 0, &id));
+        QVERIFY(driver.done());
+        QCOMPARE(
+            texts,
+            (QStringList{"This product is not in basic data yet. Do you want to store it there?",
+                         "This partner is not in basic data yet. Do you want to store it there?"}));
+        QCOMPARE(grossShown, QLocale().toString(32.7, 'f', 2));
+        QCOMPARE(
+            QueryText("select ORDERHEAD_PARTNER_ID = PARTNER_ID, ORDERHEAD_CURRENCY_ABBREVIATION, "
+                      "ORDERHEAD_TOTAL_NET, ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS "
+                      "from ORDERHEAD join PARTNER on PARTNER_NAME = ORDERHEAD_PARTNER_NAME "
+                      "where ORDERHEAD_ID = ?",
+                      {id}),
+            QString("1|EUR|30|2.7|32.7"));
+        QCOMPARE(
+            QueryText("select ORDERITEM_NAME, ORDERITEM_PRODUCT_ID, ORDERITEM_QTY, "
+                      "ORDERITEM_PRICE, ORDERITEM_TOTAL_GROSS from ORDERITEM "
+                      "where ORDERITEM_ORDERHEAD_ID = ? order by ORDERITEM_ID",
+                      {id}),
+            QString("Teszt termék|1|2|10|25.4; Szerelés||1|20|20; Teszt termék|1|-1|10|-12.7"));
+        QCOMPARE(QueryText("select count(*) from PRODUCT"), QString("1"));
+    }
+
     // Another process deletes the order while it is open: saving says so, writes nothing, and
     // the editor comes back with what was typed.
     void orderDeletedWhileEdited()
