@@ -2408,8 +2408,8 @@ Folytatja?</translation>
             <translation>A számla még nem nyomtatható.</translation>
         </message>
         <message>
-            <source>This order is issued already; it can not be changed.</source>
-            <translation>Ez a megrendelés már ki van számlázva, nem módosítható.</translation>
+            <source>View invoice</source>
+            <translation>Számla megtekintése</translation>
         </message>
     </context>
     <context>

@@ -422,7 +422,6 @@ private Q_SLOTS:
         QVERIFY(!edit.issued());
         SetText(&edit, "m_partner_address", "Fő utca 1.");
         edit.print();
-        OrderEdit::setInvoicePrinter({});
         QVERIFY2(edit.issued(), qPrintable(interaction.lastMessage()));
         QCOMPARE(edit.result(), int(QDialog::Accepted));
         QVERIFY(QFileInfo(pdf).size() > 0);
@@ -430,6 +429,26 @@ private Q_SLOTS:
                            "where ORDERHEAD_ID = ?",
                            {edit.order().id}),
                  QString("1"));
+
+        // Opened again, the invoice is only viewed and printed again.
+        Order stored;
+        QVERIFY(OrderStore::load(edit.order().id, stored));
+        QVERIFY(stored.printedCopies > 0);
+        OrderEdit view(stored, interaction);
+        QVERIFY(Child<QLineEdit>(&view, "m_partner_name")->isReadOnly());
+        QVERIFY(!Child<QComboBox>(&view, "m_currency_id")->isEnabled());
+        view.setItemEditor([](const Order&, OrderItem&, QWidget*) {
+            qFatal("an issued order's items were edited");
+            return false;
+        });
+        view.insertItem();
+        view.print();
+        OrderEdit::setInvoicePrinter({});
+        view.accept();
+        QCOMPARE(view.result(), int(QDialog::Rejected));
+        QCOMPARE(QueryText("select ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = ?",
+                           {stored.id}),
+                 QString::number(2 * stored.printedCopies));
     }
 
     // "New order" as a person does it: partner, one item from the item dialog, OK; the database

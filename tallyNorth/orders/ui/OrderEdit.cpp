@@ -13,8 +13,11 @@
 #include "orders/OrderStore.h"
 
 #include <QAbstractTableModel>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QLocale>
+#include <QPlainTextEdit>
 
 // The items grid: name, quantity, unit, price and line total of each item.
 class OrderItemModel : public QAbstractTableModel
@@ -151,6 +154,8 @@ OrderEdit::OrderEdit(const Order& order, Interaction& interaction, QWidget* pare
     connect(m_ui->m_buttons, &QDialogButtonBox::accepted, this, &OrderEdit::accept);
     connect(m_ui->m_buttons, &QDialogButtonBox::rejected, this, &OrderEdit::reject);
     showOrder();
+    if (m_order.issued())
+        setViewOnly();
 }
 
 OrderEdit::~OrderEdit() = default;
@@ -212,6 +217,25 @@ void OrderEdit::showOrder()
     m_ui->m_verified->setChecked(o.verified);
     m_items->setOrder(&m_order);
     showTotals();
+}
+
+// An issued order is shown, never changed: every field is read-only and only printing is left.
+void OrderEdit::setViewOnly()
+{
+    setWindowTitle(tr("View invoice"));
+    for (QLineEdit* field : findChildren<QLineEdit*>())
+        field->setReadOnly(true);
+    for (QPlainTextEdit* field : findChildren<QPlainTextEdit*>())
+        field->setReadOnly(true);
+    for (QWidget* control :
+         {static_cast<QWidget*>(m_ui->m_find_partner), static_cast<QWidget*>(m_ui->m_insert_item),
+          static_cast<QWidget*>(m_ui->m_edit_item), static_cast<QWidget*>(m_ui->m_delete_item)})
+        control->setEnabled(false);
+    for (QComboBox* combo : findChildren<QComboBox*>())
+        combo->setEnabled(false);
+    for (QCheckBox* check : findChildren<QCheckBox*>())
+        check->setEnabled(false);
+    m_ui->m_buttons->setStandardButtons(QDialogButtonBox::Close);
 }
 
 void OrderEdit::showTotals()
@@ -345,6 +369,8 @@ int OrderEdit::currentRow() const
 
 bool OrderEdit::editItemAt(int row)
 {
+    if (m_order.issued())
+        return false;
     readFields();
     OrderItem item = row < 0 ? OrderItem() : m_order.items.at(row);
     if (!m_itemEditor(m_order, item, this))
@@ -408,6 +434,13 @@ void OrderEdit::printInvoice(bool preview)
         m_interaction.info(tr("The invoice can not be printed yet."));
         return;
     }
+    // An issued invoice is printed again from its frozen copy; nothing is saved.
+    if (m_order.issued()) {
+        if (Result r = printer(m_order.id, preview, m_interaction, this);
+            !r && !r.message().isEmpty())
+            m_interaction.error(r.message());
+        return;
+    }
     if (!checkOrder())
         return;
     if (Result r = OrderStore::save(m_order); !r) {
@@ -457,6 +490,10 @@ bool OrderEdit::checkOrder()
 
 void OrderEdit::accept()
 {
+    if (m_order.issued()) {
+        reject();
+        return;
+    }
     if (checkOrder())
         QDialog::accept();
 }

@@ -51,6 +51,7 @@ public:
 
 private:
     void fillCombos();
+    void setViewOnly();
     void showOrder();
     void showTotals();
     void readFields();

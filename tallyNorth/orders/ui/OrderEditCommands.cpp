@@ -17,9 +17,10 @@ bool OpenOrderEdit(QWidget* parent, qint64 orderId, qint64* savedId)
         interaction.error(loaded.message());
         return false;
     }
+    // An issued invoice is only viewed (and printed again); it is never saved.
     if (order.issued()) {
-        interaction.exclamation(QCoreApplication::translate(
-            "OrderEdit", "This order is issued already; it can not be changed."));
+        OrderEdit view(order, interaction, parent);
+        view.exec();
         return false;
     }
     // A failed save keeps what the user typed: the editor opens again on it.
