@@ -30,7 +30,10 @@ int main(int argc, char* argv[])
     }
     GuiInteraction interaction;
     const QString what = app.arguments().value(1);
-    if (what == QLatin1String("item")) {
+    if (what.startsWith(QLatin1String("item"))) {
+        // "item-en": an order with English as its second language.
+        if (what.endsWith(QLatin1String("-en")) && !OrderFill::language(order, 1))
+            return 1;
         OrderItemEditDlg dlg(order, order.items.first(), interaction);
         dlg.show();
         return app.exec();

@@ -23,7 +23,8 @@ bool OpenOrderEdit(QWidget* parent, qint64 orderId, qint64* savedId)
         view.exec();
         return false;
     }
-    // A failed save keeps what the user typed: the editor opens again on it.
+    // A failed save keeps what the user typed: the editor opens again on it. The rate typed on
+    // an order stays the order's own; the currency's rate is kept in the currency window.
     for (;;) {
         OrderEdit edit(order, interaction, parent);
         if (edit.exec() != QDialog::Accepted) {
