@@ -2306,7 +2306,7 @@ Folytatja?</translation>
         </message>
         <message>
             <source>Do not save partner data</source>
-            <translation>Partneradatok mentése nélkül</translation>
+            <translation>Ne mentse a partner adatait</translation>
         </message>
         <message>
             <source>Can't update partner. Probably this partner does not exist in database.</source>
@@ -2338,7 +2338,7 @@ Folytatja?</translation>
         </message>
         <message>
             <source>Do not save product data</source>
-            <translation>Termékadatok mentése nélkül</translation>
+            <translation>Ne mentse a termék adatait</translation>
         </message>
         <message>
             <source>Can't update product. Probably this product does not exist in database.</source>
