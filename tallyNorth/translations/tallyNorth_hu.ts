@@ -1354,6 +1354,73 @@
         </message>
     </context>
     <context>
+        <name>OrderBasicData</name>
+        <message>
+            <source>Can't insert partner. Probably there is an other partner with the same name.</source>
+            <translation>Nem sikerült felvenni a partnert. Valószínűleg van már ilyen nevű partner.</translation>
+        </message>
+        <message>
+            <source>This partner is not in basic data yet. Do you want to store it there?</source>
+            <translation>Ez a partner még nincs a törzsadatok között. Szeretné felvenni?</translation>
+        </message>
+        <message>
+            <source>The partner's data has changed. You can update these changes of partner or create a new partner with this data.&amp;What you want to do?</source>
+            <translation>A partner adatai megváltoztak. Frissítheti a partner adatait, vagy új partnert hozhat létre ezekkel az adatokkal.&amp;Mit szeretne tenni?</translation>
+        </message>
+        <message>
+            <source>Update changes of partner</source>
+            <translation>Partner adatainak frissítése</translation>
+        </message>
+        <message>
+            <source>Create a new partner</source>
+            <translation>Új partner létrehozása</translation>
+        </message>
+        <message>
+            <source>Do not save partner data</source>
+            <translation>Ne mentse a partner adatait</translation>
+        </message>
+        <message>
+            <source>Can't update partner. Probably this partner does not exist in database.</source>
+            <translation>Nem sikerült frissíteni a partnert. Valószínűleg ez a partner már nincs az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>Can't update partner. Probably there is an other partner with the same name.</source>
+            <translation>Nem sikerült frissíteni a partnert. Valószínűleg van már ilyen nevű partner.</translation>
+        </message>
+        <message>
+            <source>Can't insert product. Probably there is an other product with the same name.</source>
+            <translation>Nem sikerült felvenni a terméket. Valószínűleg van már ilyen nevű termék.</translation>
+        </message>
+        <message>
+            <source>This product is not in basic data yet. Do you want to store it there?</source>
+            <translation>Ez a termék még nincs a törzsadatok között. Szeretné felvenni?</translation>
+        </message>
+        <message>
+            <source>The product's data has changed. You can update these changes of product or create a new product with this data.&amp;What you want to do?</source>
+            <translation>A termék adatai megváltoztak. Frissítheti a termék adatait, vagy új terméket hozhat létre ezekkel az adatokkal.&amp;Mit szeretne tenni?</translation>
+        </message>
+        <message>
+            <source>Update changes of product</source>
+            <translation>Termék adatainak frissítése</translation>
+        </message>
+        <message>
+            <source>Create a new product</source>
+            <translation>Új termék létrehozása</translation>
+        </message>
+        <message>
+            <source>Do not save product data</source>
+            <translation>Ne mentse a termék adatait</translation>
+        </message>
+        <message>
+            <source>Can't update product. Probably this product does not exist in database.</source>
+            <translation>Nem sikerült frissíteni a terméket. Valószínűleg ez a termék már nincs az adatbázisban.</translation>
+        </message>
+        <message>
+            <source>Can't update product. Probably there is an other product with the same name.</source>
+            <translation>Nem sikerült frissíteni a terméket. Valószínűleg van már ilyen nevű termék.</translation>
+        </message>
+    </context>
+    <context>
         <name>OrderCalc</name>
         <message>
             <source>Database error:&amp;</source>
@@ -1480,6 +1547,248 @@
         </message>
     </context>
     <context>
+        <name>OrderEdit</name>
+        <message>
+            <source>Name</source>
+            <translation>Név</translation>
+        </message>
+        <message>
+            <source>Quantity</source>
+            <translation>Mennyiség</translation>
+        </message>
+        <message>
+            <source>Unit</source>
+            <translation>Egység</translation>
+        </message>
+        <message>
+            <source>Price</source>
+            <translation>Ár</translation>
+        </message>
+        <message>
+            <source>Line Total</source>
+            <translation>Sorösszeg</translation>
+        </message>
+        <message>
+            <source>Create order</source>
+            <translation>Megrendelés létrehozása</translation>
+        </message>
+        <message>
+            <source>Edit order</source>
+            <translation>Megrendelés szerkesztése</translation>
+        </message>
+        <message>
+            <source>Insert %1</source>
+            <translation>Új %1</translation>
+        </message>
+        <message>
+            <source>order item</source>
+            <translation>tétel</translation>
+        </message>
+        <message>
+            <source>Select an order item to edit</source>
+            <translation>Válassza ki a szerkesztendő tételt</translation>
+        </message>
+        <message>
+            <source>Select an order item to delete</source>
+            <translation>Válassza ki a törlendő tételt</translation>
+        </message>
+        <message>
+            <source>Do you really want to delete the selected item ?</source>
+            <translation>Valóban törölni szeretné a kijelölt tételt?</translation>
+        </message>
+        <message>
+            <source>It is not allowed to print an invoice without items.</source>
+            <translation>Tételek nélküli számlát nem lehet nyomtatni.</translation>
+        </message>
+        <message>
+            <source>The invoice can not be printed yet.</source>
+            <translation>A számla még nem nyomtatható.</translation>
+        </message>
+        <message>
+            <source>View invoice</source>
+            <translation>Számla megtekintése</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderEditLayout</name>
+        <message>
+            <source>Edit order</source>
+            <translation>Megrendelés szerkesztése</translation>
+        </message>
+        <message>
+            <source>Vevo</source>
+            <translation>Vevő</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Név</translation>
+        </message>
+        <message>
+            <source>Find Partner</source>
+            <translation>Partner keresése</translation>
+        </message>
+        <message>
+            <source>Partner keresese vagy uj partner letrehozasa</source>
+            <translation>Partner keresése vagy új partner létrehozása</translation>
+        </message>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Zip</source>
+            <translation>Irányítószám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Település</translation>
+        </message>
+        <message>
+            <source>Address</source>
+            <translation>Cím</translation>
+        </message>
+        <message>
+            <source>Country</source>
+            <translation>Ország</translation>
+        </message>
+        <message>
+            <source>Tax No</source>
+            <translation>Adószám</translation>
+        </message>
+        <message>
+            <source>EU Tax No</source>
+            <translation>Közösségi adószám</translation>
+        </message>
+        <message>
+            <source>Language</source>
+            <translation>Nyelv</translation>
+        </message>
+        <message>
+            <source>Other Data</source>
+            <translation>Egyéb adatok</translation>
+        </message>
+        <message>
+            <source>Other Billing Data</source>
+            <translation>Egyéb számlázási adatok</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Paid on issue</source>
+            <translation>Fizetve a számla kiállításakor</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés dátuma</translation>
+        </message>
+        <message>
+            <source>Payment Due</source>
+            <translation>Fizetési határidő</translation>
+        </message>
+        <message>
+            <source>If you leave it empty, default due days will be calculated, based on data in payment method window</source>
+            <translation>Ha üresen hagyja, a fizetési határidő a partner, illetve a fizetési mód adatai alapján számítódik ki</translation>
+        </message>
+        <message>
+            <source>Consolidated invoice</source>
+            <translation>Gyűjtőszámla</translation>
+        </message>
+        <message>
+            <source>Currency</source>
+            <translation>Pénznem</translation>
+        </message>
+        <message>
+            <source>Currency Rate</source>
+            <translation>Árfolyam</translation>
+        </message>
+        <message>
+            <source>No VAT</source>
+            <translation>ÁFA nélkül</translation>
+        </message>
+        <message>
+            <source>No VAT Reason</source>
+            <translation>ÁFA-mentesség oka</translation>
+        </message>
+        <message>
+            <source>Subject</source>
+            <translation>Tárgy</translation>
+        </message>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Levelezesi cim</source>
+            <translation>Levelezési cím</translation>
+        </message>
+        <message>
+            <source>Mailing address is the same</source>
+            <translation>A levelezési cím azonos a számlázási címmel</translation>
+        </message>
+        <message>
+            <source>Order Items</source>
+            <translation>Tételek</translation>
+        </message>
+        <message>
+            <source>Insert</source>
+            <translation>Új tétel</translation>
+        </message>
+        <message>
+            <source>Add new order item to the order.</source>
+            <translation>Új tétel hozzáadása a megrendeléshez.</translation>
+        </message>
+        <message>
+            <source>Edit order item</source>
+            <translation>Tétel szerkesztése</translation>
+        </message>
+        <message>
+            <source>Edit active order item.</source>
+            <translation>A kijelölt tétel szerkesztése.</translation>
+        </message>
+        <message>
+            <source>Delete order item</source>
+            <translation>Tétel törlése</translation>
+        </message>
+        <message>
+            <source>Delete active order item.</source>
+            <translation>A kijelölt tétel törlése.</translation>
+        </message>
+        <message>
+            <source>Total Net</source>
+            <translation>Nettó összesen</translation>
+        </message>
+        <message>
+            <source>Total VAT</source>
+            <translation>ÁFA összesen</translation>
+        </message>
+        <message>
+            <source>Total Gross</source>
+            <translation>Bruttó összesen</translation>
+        </message>
+        <message>
+            <source>Other Invoice Data</source>
+            <translation>Egyéb számlaadatok</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
+        </message>
+        <message>
+            <source>Verified</source>
+            <translation>Ellenőrizve</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+    </context>
+    <context>
         <name>OrderFill</name>
         <message>
             <source>Unable to load data from database.</source>
@@ -1566,6 +1875,136 @@
 Do you want to continue?</source>
             <translation>A fizetési határidő a múltban van.
 Folytatja?</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderItemEditDlg</name>
+        <message>
+            <source>New order item</source>
+            <translation>Új tétel</translation>
+        </message>
+        <message>
+            <source>Edit order item</source>
+            <translation>Tétel szerkesztése</translation>
+        </message>
+        <message>
+            <source>Unset</source>
+            <translation>Nincs megadva</translation>
+        </message>
+        <message>
+            <source>Name In %1</source>
+            <translation>Név (%1)</translation>
+        </message>
+        <message>
+            <source>Comment In %1</source>
+            <translation>Megjegyzés (%1)</translation>
+        </message>
+        <message>
+            <source>Unit In %1</source>
+            <translation>Egység (%1)</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderItemEditLayout</name>
+        <message>
+            <source>Edit order item</source>
+            <translation>Tétel szerkesztése</translation>
+        </message>
+        <message>
+            <source>Product Name</source>
+            <translation>Termék neve</translation>
+        </message>
+        <message>
+            <source>Find Product</source>
+            <translation>Termék keresése</translation>
+        </message>
+        <message>
+            <source>Termek keresese vagy uj termek letrehozasa</source>
+            <translation>Termék keresése vagy új termék létrehozása</translation>
+        </message>
+        <message>
+            <source>Name In %s</source>
+            <translation>Név (%s)</translation>
+        </message>
+        <message>
+            <source>Item Comment on Invoice</source>
+            <translation>Tétel megjegyzése a számlán</translation>
+        </message>
+        <message>
+            <source>Comment In %s</source>
+            <translation>Megjegyzés (%s)</translation>
+        </message>
+        <message>
+            <source>Statistical Number</source>
+            <translation>VTSZ/SZJ szám</translation>
+        </message>
+        <message>
+            <source>Find Stat No</source>
+            <translation>VTSZ/SZJ keresése</translation>
+        </message>
+        <message>
+            <source>VTSZ/SZJ keresese vagy uj felvitele</source>
+            <translation>VTSZ/SZJ keresése vagy új felvitele</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés dátuma</translation>
+        </message>
+        <message>
+            <source>Quantity</source>
+            <translation>Mennyiség</translation>
+        </message>
+        <message>
+            <source>Quantity Unit</source>
+            <translation>Mennyiségi egység</translation>
+        </message>
+        <message>
+            <source>Unit In %s</source>
+            <translation>Egység (%s)</translation>
+        </message>
+        <message>
+            <source>VAT Key</source>
+            <translation>ÁFA-kulcs</translation>
+        </message>
+        <message>
+            <source>Find VAT Key</source>
+            <translation>ÁFA-kulcs keresése</translation>
+        </message>
+        <message>
+            <source>List Price Net</source>
+            <translation>Nettó listaár</translation>
+        </message>
+        <message>
+            <source>List Price Gross</source>
+            <translation>Bruttó listaár</translation>
+        </message>
+        <message>
+            <source>Discount / Type Of Price</source>
+            <translation>Kedvezmény / ár típusa</translation>
+        </message>
+        <message>
+            <source>%</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source>Net Price</source>
+            <translation>Nettó egységár</translation>
+        </message>
+        <message>
+            <source>Gross Price</source>
+            <translation>Bruttó egységár</translation>
+        </message>
+        <message>
+            <source>Total Net</source>
+            <translation>Nettó összesen</translation>
+        </message>
+        <message>
+            <source>Total VAT</source>
+            <translation>ÁFA összesen</translation>
+        </message>
+        <message>
+            <source>Total Gross</source>
+            <translation>Bruttó összesen</translation>
         </message>
     </context>
     <context>
