@@ -409,7 +409,7 @@ private Q_SLOTS:
 
         QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
         QVERIFY(Setup::current().load());
-        QVERIFY(LabelTranslations::current().Load());
+        QVERIFY(LabelTranslations::current().load());
         const QString pdf = m_company->dir() + "/invoice.pdf";
         OrderEdit::setInvoicePrinter([pdf](qint64 id, bool, Interaction& in, QWidget*) {
             PdfInvoiceOutput output(pdf);
