@@ -19,23 +19,22 @@
 
 namespace {
 
-bool WriteFile(const QString& path, const QByteArray& data)
-{
-    QFile f(path);
-    return f.open(QIODevice::WriteOnly) && f.write(data) == data.size();
-}
-
 // Kinds of files found where a company file was expected.
 bool MakeFile(const QString& kind, const QString& path, const QString& company)
 {
     if (kind == "text")
         return WriteFile(path, "CREATE TABLE is not what this file holds\n");
+    // SQLite would take an empty file for a new database and make an empty company of it.
+    if (kind == "empty")
+        return WriteFile(path, {});
+    if (kind == "folder")
+        return QDir().mkpath(path);
     if (kind == "truncated")
         return WriteFile(path, FileBytes(company).left(FileBytes(company).size() / 2));
-    if (kind == "newer" || kind == "company") {
+    if (kind == "newer" || kind == "company" || kind == "other company") {
         if (!QFile::copy(company, path))
             return false;
-        if (kind == "company")
+        if (kind != "newer")
             return true;
         ScopedConnection c(path, ScopedConnection::Mode::ReadWrite);
         return QSqlQuery(c.db()).exec("update DBVERSION set VERSION = 303");
@@ -44,18 +43,6 @@ bool MakeFile(const QString& kind, const QString& path, const QString& company)
     if (kind == "sqlite without tables")
         return QSqlQuery(c.db()).exec("pragma user_version = 7");
     return QSqlQuery(c.db()).exec("create table NOTES (ID integer, TEXT text)"); // "foreign"
-}
-
-QString MarkersOf(const QString& path)
-{
-    ScopedConnection c(path, ScopedConnection::Mode::ReadOnly);
-    SqlStatement st("select STATNO_NAME from STATNO order by STATNO_ID", {}, c.db());
-    QStringList names;
-    if (!st.exec())
-        return "<" + st.errorText() + ">";
-    while (st.next())
-        names << st.value(0).toString();
-    return names.join("; ");
 }
 
 } // namespace
@@ -68,12 +55,10 @@ private Q_SLOTS:
     void cleanup() { m_company.reset(); }
     void failedCommitIsRolledBack();
     void savepointsNest();
-    void openingRefuses_data();
-    void openingRefuses();
+    void refused_data();
+    void refused();
     void lockedFileIsInUseNotNew();
     void readOnlyFileKeepsItsMode();
-    void restoreRefuses_data();
-    void restoreRefuses();
     void backupIsASnapshot();
     void interruptedRestoreIsPutBack();
     void interruptedUpgradeKeepsItsOriginal_data();
@@ -139,35 +124,6 @@ void TestFileSafety::savepointsNest()
     QCOMPARE(QueryText("select STATNO_NAME from STATNO order by STATNO_ID"), "own; outer; inner");
 }
 
-void TestFileSafety::openingRefuses_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("message");
-    AddRow("foreign SQLite file", "foreign", "The file is not a company database:&%1");
-    AddRow("text file", "text", "The file is not a company database:&%1");
-    AddRow("truncated company", "truncated", "The company database file is damaged:&%1");
-    AddRow("newer version", "newer",
-           "The database version is newer, than the version of the billing software.&Upgrade "
-           "the software to a newer version.");
-}
-
-// Refused with a message naming the file, and nothing written to it.
-void TestFileSafety::openingRefuses()
-{
-    QFETCH(QString, kind);
-    QFETCH(QString, message);
-    Database::close();
-    const QString file = m_company->dir() + "/other.db";
-    QVERIFY(MakeFile(kind, file, path()));
-    const QByteArray before = FileBytes(file);
-    QVERIFY(!OpenCompany(file, m_ui));
-    QCOMPARE(m_ui.lastMessage(), message.arg(file));
-    QVERIFY(m_ui.sqlErrors.isEmpty());
-    QVERIFY(!Database::isOpen());
-    QCOMPARE(FileBytes(file), before);
-    QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(file)));
-}
-
 // A lock held by another connection was read as "no schema" and ended in a CREATE TABLE error.
 void TestFileSafety::lockedFileIsInUseNotNew()
 {
@@ -194,34 +150,59 @@ void TestFileSafety::readOnlyFileKeepsItsMode()
     QCOMPARE(QFile::permissions(path()) & 0x7077, mode);
 }
 
-void TestFileSafety::restoreRefuses_data()
+void TestFileSafety::refused_data()
 {
+    QTest::addColumn<bool>("restore"); // or open
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("message");
-    AddRow("foreign SQLite file", "foreign", "The file is not a company database:&%1");
-    AddRow("SQLite file without tables", "sqlite without tables",
-           "The file is not a company database:&%1");
-    AddRow("truncated backup", "truncated", "The company database file is damaged:&%1");
-    AddRow("newer version", "newer",
-           "The database version is newer, than the version of the billing software.&Upgrade "
-           "the software to a newer version.");
+    const QString foreign = "The file is not a company database:&%1";
+    const QString damaged = "The company database file is damaged:&%1";
+    const QString newer = "The database version is newer, than the version of the billing "
+                          "software.&Upgrade the software to a newer version.";
+    AddRow("opening a foreign SQLite file", false, "foreign", foreign);
+    AddRow("opening a text file", false, "text", foreign);
+    AddRow("opening a truncated company", false, "truncated", damaged);
+    AddRow("opening a newer version", false, "newer", newer);
+    AddRow("restoring a foreign SQLite file", true, "foreign", foreign);
+    AddRow("restoring an SQLite file without tables", true, "sqlite without tables", foreign);
+    AddRow("restoring a truncated backup", true, "truncated", damaged);
+    AddRow("restoring a newer version", true, "newer", newer);
+    AddRow("restoring a text file", true, "text", foreign);
+    AddRow("restoring an empty file", true, "empty", foreign);
+    AddRow("restoring a folder", true, "folder", "Error restoring backup database file.");
+    AddRow("restoring another company's backup", true, "other company",
+           "The selected file is not a backup of currently active database/company.");
 }
 
-// Only a complete company database replaces the company's; its own file stays, in use.
-void TestFileSafety::restoreRefuses()
+// Refused with a message naming the file, and nothing written to it; a refused restore leaves the
+// company's own file in place and in use.
+void TestFileSafety::refused()
 {
+    QFETCH(bool, restore);
     QFETCH(QString, kind);
     QFETCH(QString, message);
-    QTemporaryDir folder;
-    const QString backup = folder.filePath("company.dbk");
-    QVERIFY(MakeFile(kind, backup, path()));
-    const QByteArray before = FileBytes(path());
-    QVERIFY(!RestoreBackup(path(), backup, m_ui));
-    QCOMPARE(m_ui.lastMessage(), message.arg(backup));
-    QVERIFY(Database::isOpen());
-    QCOMPARE(FileBytes(path()), before);
-    QVERIFY(!QFile::exists(RestoreAsidePath(path())));
-    QCOMPARE(QDir(m_company->dir()).entryList({"*.tmp"}, QDir::Files), {});
+    const QString file = m_company->dir() + (!restore                  ? "/other.db"
+                                             : kind == "other company" ? "/b/masik.dbk"
+                                                                       : "/b/company.dbk");
+    QVERIFY(QDir().mkpath(m_company->dir() + "/b"));
+    QVERIFY(MakeFile(kind, file, path()));
+    const QByteArray before = FileBytes(restore ? path() : file);
+    if (restore) {
+        QVERIFY(!RestoreBackup(path(), file, m_ui));
+        QVERIFY(Database::isOpen());
+        QCOMPARE(Database::path(), path());
+        QCOMPARE(QueryText("select STATNO_NAME from STATNO"), "own");
+        QVERIFY(!QFile::exists(RestoreAsidePath(path())));
+        QCOMPARE(QDir(m_company->dir()).entryList({"*.tmp"}, QDir::Files), {});
+    } else {
+        Database::close();
+        QVERIFY(!OpenCompany(file, m_ui));
+        QVERIFY(!Database::isOpen());
+        QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(file)));
+    }
+    QCOMPARE(m_ui.lastMessage(), message.arg(file));
+    QVERIFY(m_ui.sqlErrors.isEmpty() && m_ui.questions.isEmpty());
+    QCOMPARE(FileBytes(restore ? path() : file), before);
 }
 
 // Another connection's uncommitted write is not in the backup, and the backup passes its check.

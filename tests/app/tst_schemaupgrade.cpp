@@ -71,9 +71,7 @@ class TestSchemaUpgrade : public QObject
 private Q_SLOTS:
     void init() { QVERIFY(m_dir.emplace().isValid()); }
     void cleanup() { Database::close(); }
-    void newFileIndexes();
-    void newFileDefaults();
-    void newFileBasicData();
+    void newFile();
     void wholeChain_data();
     void wholeChain();
     void failureKeepsOriginal_data();
@@ -87,36 +85,13 @@ private:
     std::optional<QTemporaryDir> m_dir;
 };
 
-void TestSchemaUpgrade::newFileIndexes()
+// Every index by its exact name; the ids and rules other parts take for granted (the label texts
+// are checked with their reader).
+void TestSchemaUpgrade::newFile()
 {
     TestCompany company;
     QVERIFY(company.isValid());
     QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
-}
-
-void TestSchemaUpgrade::newFileDefaults()
-{
-    TestCompany company;
-    QVERIFY(company.isValid());
-    // Rows made without these values read "0", never NULL.
-    QVERIFY(ExecSql("insert into PAYMENTMETHOD (PAYMENTMETHOD_NAME) values ('x')"));
-    QCOMPARE(QueryText("select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD "
-                       "where PAYMENTMETHOD_NAME = 'x'"),
-             "0");
-    QVERIFY(ExecSql("insert into ORDERHEAD (ORDERHEAD_ID) values (99)"));
-    QCOMPARE(
-        QueryText("select ORDERHEAD_PAYMENTMETHOD_ROUND_TO_5, ORDERHEAD_TOTAL_NET, "
-                  "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_TOTAL_CORRECTION_GROSS, "
-                  "ORDERHEAD_UNPAID_TOTAL, ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE, "
-                  "ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = 99"),
-        "0|0|0|0|0|0|0|0");
-}
-
-// The ids and rules other parts take for granted; the label texts are checked with their reader.
-void TestSchemaUpgrade::newFileBasicData()
-{
-    TestCompany company;
-    QVERIFY(company.isValid());
     QCOMPARE(QueryText("select count(*) from SETUP"), "1");
     QCOMPARE(QueryText("select COUNTRY_INTERNATIONAL_CODE, COUNTRY_NAME from COUNTRY "
                        "where COUNTRY_ID = 0"),
@@ -134,6 +109,18 @@ void TestSchemaUpgrade::newFileBasicData()
                        "sum(ORDERITEM_TOTAL_GROSS) from ORDERITEM where ORDERITEM_ORDERHEAD_ID = "
                        "ORDERHEAD_ID)"),
              QueryText("select count(*) from ORDERHEAD"));
+    // Rows made without these values read "0", never NULL.
+    QVERIFY(ExecSql("insert into PAYMENTMETHOD (PAYMENTMETHOD_NAME) values ('x')"));
+    QCOMPARE(QueryText("select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD "
+                       "where PAYMENTMETHOD_NAME = 'x'"),
+             "0");
+    QVERIFY(ExecSql("insert into ORDERHEAD (ORDERHEAD_ID) values (99)"));
+    QCOMPARE(
+        QueryText("select ORDERHEAD_PAYMENTMETHOD_ROUND_TO_5, ORDERHEAD_TOTAL_NET, "
+                  "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_TOTAL_CORRECTION_GROSS, "
+                  "ORDERHEAD_UNPAID_TOTAL, ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE, "
+                  "ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = 99"),
+        "0|0|0|0|0|0|0|0");
 }
 
 QString TestSchemaUpgrade::build(const OldCompanyFile& file)

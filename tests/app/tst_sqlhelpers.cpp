@@ -4,8 +4,8 @@
 #include "TestData.h"
 
 #include "Columns.h"
-#include "base/Setup.h"
 #include "app/SqlScript.h"
+#include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "base/SqlTransaction.h"
 #include "base/SqlValue.h"
@@ -31,10 +31,8 @@ private Q_SLOTS:
         QVERIFY(m_company->isValid());
     }
     void cleanup() { m_company.reset(); }
-    void flags_data();
-    void flags();
-    void numbers_data();
-    void numbers();
+    void conversions_data();
+    void conversions();
     void splitKeepsQuotedSemicolons();
     void transactionRollsBackUnlessCommitted();
     void templateTextsRoundTrip_data();
@@ -48,41 +46,30 @@ private:
     std::optional<TestCompany> m_company;
 };
 
-void TestSqlHelpers::flags_data()
+// How stored values read as flags and numbers, whatever type the column gave them.
+void TestSqlHelpers::conversions_data()
 {
     QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("set");
-    AddRow("text 1", QVariant("1"), true);
-    AddRow("number 1", QVariant(1), true);
-    AddRow("text 0", QVariant("0"), false);
-    AddRow("number 0", QVariant(0), false);
-    AddRow("null", QVariant(), false);
-    AddRow("text 10", QVariant("10"), false);
-    AddRow("empty", QVariant(QString()), false);
-}
-
-void TestSqlHelpers::flags()
-{
-    QFETCH(QVariant, value);
-    QFETCH(bool, set);
-    QCOMPARE(IsFlagSet(value), set);
-}
-
-void TestSqlHelpers::numbers_data()
-{
-    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("flag");
     QTest::addColumn<double>("number");
-    AddRow("text", QVariant("10"), 10.0);
-    AddRow("decimal comma", QVariant("2,5"), 2.5);
-    AddRow("real", QVariant(12.25), 12.25);
-    AddRow("null", QVariant(), 0.0);
-    AddRow("garbage", QVariant("abc"), 0.0);
+    AddRow("text 1", QVariant("1"), true, 1.0);
+    AddRow("number 1", QVariant(1), true, 1.0);
+    AddRow("text 0", QVariant("0"), false, 0.0);
+    AddRow("number 0", QVariant(0), false, 0.0);
+    AddRow("null", QVariant(), false, 0.0);
+    AddRow("text 10", QVariant("10"), false, 10.0);
+    AddRow("empty", QVariant(QString()), false, 0.0);
+    AddRow("decimal comma", QVariant("2,5"), false, 2.5);
+    AddRow("real", QVariant(12.25), false, 12.25);
+    AddRow("garbage", QVariant("abc"), false, 0.0);
 }
 
-void TestSqlHelpers::numbers()
+void TestSqlHelpers::conversions()
 {
     QFETCH(QVariant, value);
+    QFETCH(bool, flag);
     QFETCH(double, number);
+    QCOMPARE(IsFlagSet(value), flag);
     QCOMPARE(ToNumber(value), number);
 }
 

@@ -24,14 +24,18 @@ private Q_SLOTS:
     void killedWorkLeavesOldOrNew();
 
 private:
-    struct Run
+    QStringList based(const QStringList& args) const
     {
-        int exitCode = -1;
-        QString out, err;
-    };
-    Run cli(const QStringList& args) const;
-    // Started, not waited for.
-    std::unique_ptr<QProcess> start(const QStringList& args) const;
+        return QStringList{"--base", m_base->path()} + args;
+    }
+    ProcessRun cli(const QStringList& args) const
+    {
+        return RunProcess(TN_CLI, based(args), m_runtime.path());
+    }
+    std::unique_ptr<QProcess> start(const QStringList& args) const
+    {
+        return StartProcess(TN_CLI, based(args), m_runtime.path());
+    }
     QString db(const QString& name) const { return m_base->path() + "/DB/" + name; }
     QString backup(const QString& name) const
     {
@@ -63,32 +67,6 @@ void TestCliBackup::init()
     QVERIFY(QDir(m_base->path()).mkpath("BiztonsagiMasolatok"));
 }
 
-std::unique_ptr<QProcess> TestCliBackup::start(const QStringList& args) const
-{
-    auto process = std::make_unique<QProcess>();
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("XDG_RUNTIME_DIR", m_runtime.path());
-    process->setProcessEnvironment(env);
-    process->start(TN_CLI, QStringList{"--base", m_base->path()} + args);
-    return process;
-}
-
-TestCliBackup::Run TestCliBackup::cli(const QStringList& args) const
-{
-    QProcess process;
-    // Only the program's own messages on standard error, not Qt's note about a missing runtime
-    // folder.
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("XDG_RUNTIME_DIR", m_runtime.path());
-    process.setProcessEnvironment(env);
-    process.start(TN_CLI, QStringList{"--base", m_base->path()} + args);
-    Run run;
-    if (process.waitForFinished(120000))
-        run = {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-               QString::fromUtf8(process.readAllStandardError())};
-    return run;
-}
-
 void TestCliBackup::backupAndRestoreTheOnlyCompany()
 {
     QCOMPARE(cli({"check"}).exitCode, 0);
@@ -96,7 +74,7 @@ void TestCliBackup::backupAndRestoreTheOnlyCompany()
     QCOMPARE(Markers(demo, "saved"), "saved");
     const QString file = backup("demo.dbk");
 
-    Run run = cli({"backup", file});
+    ProcessRun run = cli({"backup", file});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.err.trimmed(), "Backup file saved successfully.");
     QCOMPARE(Markers(file), "saved");
@@ -125,7 +103,7 @@ void TestCliBackup::severalCompaniesNeedDb()
     QVERIFY(QFile::copy(db("kovacs_bt.db"), file));
     const QByteArray before = FileBytes(db("kovacs_bt.db"));
 
-    Run run = cli({verb, file});
+    ProcessRun run = cli({verb, file});
     QCOMPARE(run.exitCode, 1);
     for (const char* expected : {"kovacs_bt.db: Kovács Bt.", "szabo_kft.db: Szabó Kft.", "--db"})
         QVERIFY2(run.err.contains(QString(expected)), qPrintable(run.err));
@@ -152,7 +130,7 @@ void TestCliBackup::usageErrorsSayWhatWasWrong()
 {
     QFETCH(QStringList, args);
     QFETCH(QString, said);
-    const Run run = cli(args);
+    const ProcessRun run = cli(args);
     QCOMPARE(run.exitCode, 2);
     QVERIFY2(run.err.contains(said), qPrintable(run.err));
     QVERIFY2(run.err.contains("usage: tallynorth-cli"), qPrintable(run.err));
@@ -234,7 +212,7 @@ void TestCliBackup::killedWorkLeavesOldOrNew()
     // The backup file is the earlier one or the new snapshot, never a half-written file.
     if (verb == "backup")
         QVERIFY(QStringList({"3", "302"}).contains(CheckedVersion(saved)));
-    const Run next = cli({"--db", file, "check"});
+    const ProcessRun next = cli({"--db", file, "check"});
     QVERIFY2(next.exitCode == 0, qPrintable(next.err));
     QCOMPARE(next.out, file + "\t302\n");
 }

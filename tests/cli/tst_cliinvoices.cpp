@@ -4,7 +4,6 @@
 
 #include "base/Database.h"
 
-#include <QProcess>
 #include <QtTest>
 
 class TestCliInvoices : public QObject
@@ -17,12 +16,11 @@ private Q_SLOTS:
     void badInput();
 
 private:
-    struct Run
+    ProcessRun cli(const QStringList& args) const
     {
-        int exitCode = -1;
-        QString out, err;
-    };
-    Run cli(const QStringList& args) const;
+        return RunProcess(TN_CLI, QStringList{"--base", m_base->path(), "--lang", "en"} + args,
+                          m_runtime.path());
+    }
     QString stored(const QString& sql) const;
     QString pdf(const QString& name) const { return m_base->path() + "/" + name; }
 
@@ -39,20 +37,6 @@ void TestCliInvoices::init()
              0);
 }
 
-TestCliInvoices::Run TestCliInvoices::cli(const QStringList& args) const
-{
-    QProcess process;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("XDG_RUNTIME_DIR", m_runtime.path());
-    process.setProcessEnvironment(env);
-    process.start(TN_CLI, QStringList{"--base", m_base->path(), "--lang", "en"} + args);
-    Run run;
-    if (process.waitForFinished(120000))
-        run = {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-               QString::fromUtf8(process.readAllStandardError())};
-    return run;
-}
-
 QString TestCliInvoices::stored(const QString& sql) const
 {
     if (!Database::open(m_base->path() + "/DB/demo.db"))
@@ -64,7 +48,7 @@ QString TestCliInvoices::stored(const QString& sql) const
 
 void TestCliInvoices::issuePrintCancel()
 {
-    Run run = cli({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"});
+    ProcessRun run = cli({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.out.trimmed(), QString("000001"));
     QVERIFY(QFileInfo(pdf("1.pdf")).size() > 1000);
@@ -106,7 +90,7 @@ void TestCliInvoices::badInput()
     QFETCH(QStringList, args);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
-    const Run run = cli(QStringList{"--db", m_base->path() + "/DB/demo.db"} + args);
+    const ProcessRun run = cli(QStringList{"--db", m_base->path() + "/DB/demo.db"} + args);
     QCOMPARE(run.exitCode, exitCode);
     QVERIFY2(run.err.contains(message), qPrintable(run.err));
 }

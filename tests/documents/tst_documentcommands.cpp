@@ -1,5 +1,6 @@
 // The document verbs of tallynorth-cli as a template author or a script uses them.
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "base/Database.h"
 #include "base/Setup.h"
@@ -14,32 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Run
+ProcessRun Cli(const QStringList& args)
 {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
-Run Cli(const QStringList& args)
-{
-    QProcess p;
-    p.start(QStringLiteral(TN_CLI), args);
-    if (!p.waitForFinished(120000))
-        return {};
-    return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()),
-            QString::fromUtf8(p.readAllStandardError())};
+    return RunProcess(QStringLiteral(TN_CLI), args);
 }
 
 QString Data(const char* name)
 {
     return QFINDTESTDATA(u"../data/report/"_s + QLatin1StringView(name));
-}
-
-QString WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() ? path : QString();
 }
 
 } // namespace
@@ -60,8 +43,9 @@ private:
 
 void TestDocumentCommands::qtfText()
 {
-    const QString qtf = WriteFile(m_dir.filePath(u"t.qtf"_s), "[*4 Árvíztűrő&]{{1:1 a:: b}}&x`&y");
-    const Run r = Cli({u"qtf"_s, qtf, u"--text"_s});
+    const QString qtf = m_dir.filePath(u"t.qtf"_s);
+    QVERIFY(WriteFile(qtf, "[*4 Árvíztűrő&]{{1:1 a:: b}}&x`&y"));
+    const ProcessRun r = Cli({u"qtf"_s, qtf, u"--text"_s});
     QCOMPARE(r.exitCode, 0);
     QCOMPARE(r.out, u"Árvíztűrő\na\nb\nx&y\n"_s);
 }
@@ -69,14 +53,11 @@ void TestDocumentCommands::qtfText()
 void TestDocumentCommands::qtfPdf()
 {
     const QString pdf = m_dir.filePath(u"sample.pdf"_s);
-    const Run r = Cli({u"qtf"_s, Data("long_table.qtf"), u"--header"_s, Data("header.qtf"),
-                       u"--footer"_s, Data("footer.qtf"), u"--pdf"_s, pdf});
+    const ProcessRun r = Cli({u"qtf"_s, Data("long_table.qtf"), u"--header"_s, Data("header.qtf"),
+                              u"--footer"_s, Data("footer.qtf"), u"--pdf"_s, pdf});
     QVERIFY2(r.exitCode == 0, qPrintable(r.err));
-    QProcess p;
-    p.start(u"pdftotext"_s, {pdf, u"-"_s});
-    p.waitForFinished(60000);
     const QStringList pages =
-        QString::fromUtf8(p.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+        RunProcess(u"pdftotext"_s, {pdf, u"-"_s}).out.split(u'\f', Qt::SkipEmptyParts);
     QVERIFY(pages.size() >= 4);
     for (int i = 0; i < pages.size(); ++i) {
         QVERIFY(pages[i].contains(u"%1. oldal / page %1"_s.arg(i + 1)));
@@ -114,21 +95,21 @@ void TestDocumentCommands::usage()
 
 void TestDocumentCommands::templateCheckAndInstall()
 {
-    const Run shipped = Cli({u"template"_s, u"check"_s, QStringLiteral(TN_TEMPLATE_DIR)});
+    const ProcessRun shipped = Cli({u"template"_s, u"check"_s, QStringLiteral(TN_TEMPLATE_DIR)});
     QCOMPARE(shipped.exitCode, 0);
     QVERIFY(shipped.out.contains(u"Certified: yes"_s));
     const QString digest = shipped.out.section(u'\n', 0, 0).section(u": "_s, 1);
     QCOMPARE(digest.size(), 32);
     QVERIFY(shipped.out.contains(u"Digest in invoice.cfg: "_s + digest));
     QTemporaryDir dir;
-    QVERIFY(!WriteFile(dir.filePath(u"invoice_body.qtf"_s), "!P.ITEMS!").isEmpty());
-    const Run changed = Cli({u"template"_s, u"check"_s, dir.path()});
+    QVERIFY(WriteFile(dir.filePath(u"invoice_body.qtf"_s), "!P.ITEMS!"));
+    const ProcessRun changed = Cli({u"template"_s, u"check"_s, dir.path()});
     QCOMPARE(changed.exitCode, 1);
     QVERIFY(changed.out.contains(u"Certified: no"_s));
     QVERIFY(!shipped.out.contains(u"Warning"_s));
     // "[= ...]&" loses its centring: the check points at the file and line.
-    QVERIFY(!WriteFile(dir.filePath(u"invoice_header.qtf"_s), "x&\n[= Title]&y").isEmpty());
-    const Run warned = Cli({u"template"_s, u"check"_s, dir.path()});
+    QVERIFY(WriteFile(dir.filePath(u"invoice_header.qtf"_s), "x&\n[= Title]&y"));
+    const ProcessRun warned = Cli({u"template"_s, u"check"_s, dir.path()});
     QVERIFY2(
         warned.out.contains(QRegularExpression(u"Warning: invoice_header.qtf, line 2: .*\"&\""_s)),
         qPrintable(warned.out));
@@ -137,7 +118,7 @@ void TestDocumentCommands::templateCheckAndInstall()
     TestCompany company;
     QVERIFY(company.isValid());
     Database::close();
-    const Run r = Cli(
+    const ProcessRun r = Cli(
         {u"--db"_s, company.path(), u"template"_s, u"install"_s, QStringLiteral(TN_TEMPLATE_DIR)});
     QVERIFY2(r.exitCode == 0, qPrintable(r.err));
     QVERIFY(Database::open(company.path()) && Setup::current().load());

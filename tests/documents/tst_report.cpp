@@ -1,5 +1,7 @@
 // QTF laid out as rich text and printed in pages: units, spacing, tables, header and footer on
 // every page, page numbers, page sizes. PDFs are read back with poppler's pdftotext/pdfinfo.
+#include "TestData.h"
+
 #include "documents/MessageText.h"
 #include "documents/QtfReader.h"
 #include "documents/QtfTextDocument.h"
@@ -9,7 +11,6 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -41,14 +42,6 @@ double Height(const QString& qtf)
     return Dots(qtf)->documentLayout()->documentSize().height();
 }
 
-QString Run(const QString& program, const QStringList& args)
-{
-    QProcess p;
-    p.start(program, args);
-    p.waitForFinished(60000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
-
 QString Lines(int count)
 {
     QString out;
@@ -69,7 +62,6 @@ private Q_SLOTS:
     void tabStopsAndLeaders();
     void pages_data();
     void pages();
-    void longTableBreaksWithHeaderOnEveryPage();
     void shiftMovesTheContent();
     void unwritablePdfFails();
 
@@ -79,7 +71,8 @@ private:
     {
         if (!report.exportPdf(m_pdf))
             return {};
-        QStringList pages = Run(u"pdftotext"_s, {u"-layout"_s, m_pdf, u"-"_s}).split(u'\f');
+        QStringList pages =
+            RunProcess(u"pdftotext"_s, {u"-layout"_s, m_pdf, u"-"_s}).out.split(u'\f');
         if (!pages.isEmpty() && pages.last().trimmed().isEmpty())
             pages.removeLast();
         return pages;
@@ -286,35 +279,10 @@ void TestReport::pages()
                      qPrintable(u"page %1, %2:\n%3"_s.arg(i + 1).arg(pattern, printed[i])));
         }
     }
-    const QString info = Run(u"pdfinfo"_s, {m_pdf});
+    const QString info = RunProcess(u"pdfinfo"_s, {m_pdf}).out;
     QVERIFY2(info.contains(
                  QRegularExpression(u"Page size: +"_s + QRegularExpression::escape(paper) + u'\n')),
              qPrintable(info));
-}
-
-void TestReport::longTableBreaksWithHeaderOnEveryPage()
-{
-    QString body = u"[*4 Tételek&]{{1:3:1h1 [* Sor]:: [* Megnevezés]:: [*> Összeg]"_s;
-    for (int i = 1; i <= 200; ++i)
-        body += u":: %1.:: Árvíztűrő tükörfúrógép %1:: [> %2]"_s.arg(i).arg(i * 100);
-    Report report;
-    report.setHeader(u"[1 Fejléc – Árvíztűrő Kft.]"_s);
-    report.setFooter(u"[1> $$P. oldal]"_s);
-    report.setBody(body + u"}}&[* Vége.]"_s);
-    const QStringList pages = print(report);
-    QVERIFY(pages.size() >= 4);
-    QCOMPARE(pages.size(), report.pageCount());
-    int rowsSeen = 0;
-    for (int i = 0; i < pages.size(); ++i) {
-        // The table's header row is repeated on every page the table reaches.
-        for (const QString& text :
-             {u"Fejléc – Árvíztűrő Kft."_s, u"%1. oldal"_s.arg(i + 1), u"Megnevezés"_s})
-            QVERIFY2(pages[i].contains(text), qPrintable(pages[i]));
-        rowsSeen += int(pages[i].count(u"Árvíztűrő tükörfúrógép"_s));
-    }
-    // Every row printed once: none lost or doubled at a break.
-    QCOMPARE(rowsSeen, 200);
-    QVERIFY(pages.first().contains(u"Tételek"_s) && pages.last().contains(u"Vége."_s));
 }
 
 void TestReport::shiftMovesTheContent()
@@ -323,7 +291,9 @@ void TestReport::shiftMovesTheContent()
     const auto wordX = [this](const Report& r) {
         [&] { QVERIFY(r.exportPdf(m_pdf)); }();
         static const QRegularExpression re(u"xMin=\"([0-9.]+)\""_s);
-        return re.match(Run(u"pdftotext"_s, {u"-bbox"_s, m_pdf, u"-"_s})).captured(1).toDouble();
+        return re.match(RunProcess(u"pdftotext"_s, {u"-bbox"_s, m_pdf, u"-"_s}).out)
+            .captured(1)
+            .toDouble();
     };
     Report text;
     text.setBody(u"Marker"_s);

@@ -1,6 +1,8 @@
 // Where the report's pages end: tables closed by their frame on every page with rows at their
 // natural height, documents too tall for one Qt layout, minimum cell heights. The geometry is
 // read from the painter's calls, recorded by a paint device of our own.
+#include "TestData.h"
+
 #include "documents/QtfTextDocument.h"
 #include "documents/Report.h"
 
@@ -8,7 +10,6 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -264,10 +265,9 @@ void TestReportPages::documentTallerThanQtLayout()
     QTemporaryDir dir;
     const QString pdf = dir.filePath(u"long.pdf"_s);
     QVERIFY(report.exportPdf(pdf));
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-f"_s, QString::number(pages), pdf, u"-"_s});
-    QVERIFY(p.waitForFinished(120000));
-    QCOMPARE(QString::fromUtf8(p.readAllStandardOutput()).trimmed(), u"page %1"_s.arg(pages));
+    QCOMPARE(
+        RunProcess(u"pdftotext"_s, {u"-f"_s, QString::number(pages), pdf, u"-"_s}).out.trimmed(),
+        u"page %1"_s.arg(pages));
 }
 
 QTEST_MAIN(TestReportPages)

@@ -1,12 +1,13 @@
 // The ui side of reports: printing through QPrinter (here into a PDF file at the printer's
 // resolution) and the print preview window.
+#include "TestData.h"
+
 #include "documents/Report.h"
 #include "documents/ui/ReportPrinter.h"
 
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -42,10 +43,9 @@ void TestReportPrinter::printsAtPrinterResolution()
     PreparePrinter(printer, TwoPages());
     QVERIFY(printer.resolution() != 600);
     QVERIFY(PrintReport(TwoPages(), printer));
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-layout"_s, printer.outputFileName(), u"-"_s});
-    p.waitForFinished(60000);
-    const QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(u'\f');
+    const QStringList pages =
+        RunProcess(u"pdftotext"_s, {u"-layout"_s, printer.outputFileName(), u"-"_s})
+            .out.split(u'\f');
     QVERIFY(pages.size() >= 2);
     QVERIFY(pages[0].contains(u"Első oldal"_s) && pages[0].contains(u"1. oldal"_s));
     QVERIFY(pages[1].contains(u"Második oldal"_s) && pages[1].contains(u"2. oldal"_s) &&

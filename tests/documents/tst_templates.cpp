@@ -1,6 +1,7 @@
 // Invoice templates: placeholder parsing and filling, the certification digest, template
 // directories and the settings record, how amounts and messages are printed.
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
@@ -13,7 +14,6 @@
 #include "documents/TemplateText.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextDocument>
@@ -24,13 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Piece = InvoiceTemplate::Piece;
-
-void WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
 
 // One text per piece, in the order of Piece, each different; the expected digests below were
 // computed with md5sum over the same bytes in the digest's order with the salt.
@@ -161,21 +154,22 @@ void TestTemplates::certification()
     QTemporaryDir dir;
     for (int i = 0; i < InvoiceTemplate::kPieces; ++i) {
         if (Piece(i) != Piece::Signings)
-            WriteFile(dir.filePath(QString::fromLatin1(InvoiceTemplate::fileName(Piece(i)))),
-                      t.text(Piece(i)).toUtf8());
+            QVERIFY(
+                WriteFile(dir.filePath(QString::fromLatin1(InvoiceTemplate::fileName(Piece(i)))),
+                          t.text(Piece(i)).toUtf8()));
     }
-    WriteFile(dir.filePath(u"invoice.cfg"_s),
-              "# made by hand\r\nName=Test\r\nDigest = " + kKnownDigest.toLatin1() + "\r\n");
+    QVERIFY(WriteFile(dir.filePath(u"invoice.cfg"_s), "# made by hand\r\nName=Test\r\nDigest = " +
+                                                          kKnownDigest.toLatin1() + "\r\n"));
     InvoiceTemplate loaded = LoadTemplateDir(dir.path());
     QCOMPARE(loaded.text(Piece::Body), u"Számla [* !P.ITEMS!]"_s);
     QCOMPARE(loaded.text(Piece::Signings), QString()); // a missing file is an empty piece
     QCOMPARE(loaded.digest(), kKnownDigest);
     QVERIFY(!loaded.certified());
 
-    WriteFile(dir.filePath(u"invoice_signings.qtf"_s), "sig");
+    QVERIFY(WriteFile(dir.filePath(u"invoice_signings.qtf"_s), "sig"));
     QVERIFY(LoadTemplateDir(dir.path()).certified());
     // Line ends of the files are part of what is certified.
-    WriteFile(dir.filePath(u"invoice_rate.qtf"_s), "rate\r\n");
+    QVERIFY(WriteFile(dir.filePath(u"invoice_rate.qtf"_s), "rate\r\n"));
     loaded = LoadTemplateDir(dir.path());
     QVERIFY(!loaded.certified());
     QCOMPARE(loaded.text(Piece::Rate), u"rate\r\n"_s);
@@ -315,10 +309,8 @@ void TestTemplates::shippedTemplatePrintsAnInvoice()
     const QString pdf = (snapshots.isEmpty() ? dir.path() : snapshots) + u"/invoice.pdf"_s;
     QVERIFY(report.exportPdf(pdf));
     QVERIFY(report.pageCount() >= 2);
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s});
-    p.waitForFinished(60000);
-    const QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(u'\f');
+    const QStringList pages =
+        RunProcess(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}).out.split(u'\f');
     QVERIFY2(!pages.join(u'\n').contains(u"ERROR"_s), qPrintable(pages.join(u'\n'))); // QTF errors
     for (const QString& expected :
          {u"Példa & Társa Kft."_s, u"Müller GmbH"_s, u"Közösségi adószám: HU12345678"_s,

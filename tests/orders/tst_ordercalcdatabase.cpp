@@ -1,6 +1,7 @@
 // The order arithmetic that reads and writes a real company database: the forint totals fixed
 // at issue time and the VAT summary.
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "Columns.h"
 #include "base/SqlStatement.h"
@@ -12,14 +13,6 @@
 namespace {
 
 using Amounts = QList<double>; // net, VAT, gross
-
-qint64 Insert(const QString& sql, const QVariantList& binds)
-{
-    SqlStatement st(sql, binds);
-    if (!st.exec())
-        qFatal("%s: %s", qPrintable(sql), qPrintable(st.errorText()));
-    return st.lastInsertId().toLongLong();
-}
 
 qint64 InsertOrder(const QVariant& currencyId, double rate, const Amounts& t)
 {

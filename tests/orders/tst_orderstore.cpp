@@ -12,14 +12,6 @@
 
 namespace {
 
-qint64 Insert(const QString& sql, const QVariantList& binds = {})
-{
-    SqlStatement st(sql, binds);
-    if (!st.exec())
-        qFatal("%s: %s", qPrintable(sql), qPrintable(st.errorText()));
-    return st.lastInsertId().toLongLong();
-}
-
 // A partner of the basic data's kind; the given columns override.
 qint64 InsertPartner(const QString& name, const QVariant& dueDays = {},
                      const QVariant& methodId = 2)
