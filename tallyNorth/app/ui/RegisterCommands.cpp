@@ -7,13 +7,16 @@
 #include "base/ui/GuiInteraction.h"
 #include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
+#include "documents/ui/OrderListPrinting.h"
 #include "masterdata/ui/MasterdataCommands.h"
+#include "orders/ui/OrderListCommands.h"
 
 void InstallShellServices()
 {
     GuiInteraction::setMessageFormatter(MessageRichText);
     GuiInteraction::setSqlErrorDialog(&SqlErrorDlg::askRetry);
     InstallLabelLoading();
+    InstallOrderPrinting();
 }
 
 // One line per subsystem: each registers its handlers with MainWindow::setCommand() and its
@@ -22,6 +25,7 @@ void RegisterCommands(MainWindow& window)
 {
     RegisterFileCommands(window);
     RegisterMasterdataCommands(window);
+    RegisterOrderList(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()
