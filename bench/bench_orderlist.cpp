@@ -216,15 +216,21 @@ int main(int argc, char** argv)
         std::printf("%-24s %7d %10.2f %10.2f %7.2f%s\n", c.name, listRows, l, b, b > 0 ? l / b : 0,
                     listRows != qMin(bareRows, limit) ? "  (row counts differ!)" : "");
     }
+    // A plan that scans ORDERHEAD without an index and then sorts has read every order. A scan in
+    // id order without a sort stops once the first screen is full.
     std::printf("\nquery plans:\n");
+    int fullScans = 0;
     for (const Case& c : cases) {
         const QStringList plan = Plan(c, limit);
-        std::printf("%-24s %s\n", c.name, qPrintable(plan.join(QStringLiteral(" | "))));
-        for (const QString& line : plan)
-            if (line == QLatin1String("SCAN ORDERHEAD") && c.where.isEmpty() == false)
-                fullScan = true;
+        const bool scans = plan.contains(QLatin1String("SCAN ORDERHEAD"));
+        const bool sorts = plan.join(u' ').contains(QLatin1String("TEMP B-TREE"));
+        if (scans && sorts)
+            ++fullScans;
+        std::printf("%-24s %s%s\n", c.name, qPrintable(plan.join(QStringLiteral(" | "))),
+                    scans && sorts    ? "  <- FULL SCAN"
+                    : scans && !sorts ? "  (id order, stops at the limit)"
+                                      : "");
     }
-    std::printf("\n%s\n", fullScan ? "some filter walks ORDERHEAD in id order (see the plans)"
-                                   : "every filtered plan uses an index");
+    std::printf("\n%d plans read every order\n", fullScans);
     return 0;
 }
