@@ -83,6 +83,8 @@ private Q_SLOTS:
     void failureKeepsOriginal();
     void currentVersionOpensWithoutCopy();
     void emptyFileGetsSchema();
+    void schemaExtensions_data();
+    void schemaExtensions();
 
 private:
     QString build(const OldCompanyFile& file);
@@ -346,6 +348,48 @@ void TestSchemaUpgrade::emptyFileGetsSchema()
     QVERIFY(!interaction.progressTexts.contains("Upgrading database."));
     QCOMPARE(ReadDbVersion(), 302);
     QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
+}
+
+// The program's TN_ additions beside the company schema: put on a file that lacks them when it is
+// opened, kept out of DBVERSION, and a file extended by a newer program is refused untouched.
+void TestSchemaUpgrade::schemaExtensions_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<bool>("opens");
+    QTest::addColumn<int>("version");
+    AddRow("current", QString(), true, kSchemaExtensionVersion);
+    AddRow("file without them",
+           QString("drop table TN_VERSION; drop index TN_IDX_ORDERHEAD_CANCEL"), true,
+           kSchemaExtensionVersion);
+    AddRow("newer program's", QString("update TN_VERSION set TN_VERSION_VERSION = 99"), false, 99);
+}
+
+void TestSchemaUpgrade::schemaExtensions()
+{
+    QFETCH(QString, change);
+    QFETCH(bool, opens);
+    QFETCH(int, version);
+    TestCompany company;
+    QVERIFY(company.isValid());
+    QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
+    for (const QString& statement : change.split(u';', Qt::SkipEmptyParts))
+        QVERIFY(ExecSql(statement.trimmed()));
+    ScriptedInteraction interaction;
+    const Result r = PrepareDatabase(interaction);
+    QCOMPARE(r.ok(), opens);
+    if (!opens) {
+        QCOMPARE(r.message(), SchemaExtensions::newerVersionMessage());
+        QVERIFY(Database::open(company.path()));
+    }
+    QCOMPARE(ReadSchemaExtensionVersion(), version);
+    QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
+    QCOMPARE(QueryText("select count(*) from sqlite_master where name like 'TN\\_IDX%' escape "
+                       "'\\'"),
+             "6");
+    // The list's default view and its rare kinds come from the extension's indexes.
+    QVERIFY(QueryText("explain query plan select ORDERHEAD_ID from ORDERHEAD where ORDERHEAD_TYPE "
+                      "= 1 order by ORDERHEAD_ID desc limit 10")
+                .contains("TN_IDX_ORDERHEAD_CANCEL"));
 }
 
 QTEST_GUILESS_MAIN(TestSchemaUpgrade)
