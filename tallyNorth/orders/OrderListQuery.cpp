@@ -169,6 +169,7 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
         row.kind =
             ConvertOrderType(st.value(13), st.value(14), st.value(15), st.value(16), st.value(17));
         row.printingDecimals = int(ToInteger(st.value(18)));
+        row.verified = IsFlagSet(st.value(14));
         rows << row;
     }
     return Result::success();

@@ -165,6 +165,27 @@ private Q_SLOTS:
         QVERIFY(m_ask.questions.isEmpty());
     }
 
+    void sortByColumnAndBack()
+    {
+        QAbstractItemModel* shown = m_list->view()->model();
+        const auto firstCode = [shown] {
+            return shown->index(0, int(Column::Code)).data().toString();
+        };
+        QCOMPARE(firstCode(), "R5");
+        // By amount, not by its text: -1270 < 1270 < 1234567.5.
+        m_list->view()->sortByColumn(int(Column::TotalGross), Qt::AscendingOrder);
+        QCOMPARE(firstCode(), "R5");
+        QCOMPARE(shown->index(4, int(Column::Code)).data().toString(), "R3");
+        m_list->view()->sortByColumn(int(Column::Code), Qt::AscendingOrder);
+        QCOMPARE(firstCode(), "R1");
+        // The selection still names the orders, whatever the order shown.
+        m_list->view()->selectRow(1);
+        QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
+        m_list->sortByCreation();
+        QCOMPARE(firstCode(), "R5");
+        QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
+    }
+
     void deleteLeavesPrinted()
     {
         m_list->selectId(m_unverified);

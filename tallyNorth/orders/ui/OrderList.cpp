@@ -12,7 +12,6 @@
 #include "base/ui/GuiInteraction.h"
 #include "masterdata/MasterTables.h"
 #include "orders/CancelInvoice.h"
-#include "orders/ConvertOrderType.h"
 #include "orders/OrderStore.h"
 
 #include <QHBoxLayout>
@@ -21,14 +20,21 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QVBoxLayout>
 
 OrderList::OrderList(QWidget* parent)
     : ListTab(parent), m_filter(new OrderFilter(this)), m_model(new OrderListModel(this)),
-      m_view(new QTableView(this)), m_note(new QLabel(this)), m_more(new QMenu(this))
+      m_sorted(new QSortFilterProxyModel(this)), m_view(new QTableView(this)),
+      m_note(new QLabel(this)), m_more(new QMenu(this))
 {
-    m_view->setModel(m_model);
+    m_sorted->setSourceModel(m_model);
+    m_sorted->setSortRole(OrderListModel::SortRole);
+    m_sorted->setSortCaseSensitivity(Qt::CaseInsensitive);
+    m_view->setModel(m_sorted);
+    m_view->setSortingEnabled(true);
+    sortByCreation();
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -117,7 +123,7 @@ QList<qint64> OrderList::selectedIds() const
 {
     QList<int> rows;
     for (const QModelIndex& index : m_view->selectionModel()->selectedRows())
-        rows << index.row();
+        rows << m_sorted->mapToSource(index).row();
     std::sort(rows.begin(), rows.end());
     QList<qint64> ids;
     for (int row : rows)
@@ -130,7 +136,7 @@ void OrderList::selectId(qint64 id)
     const int row = m_model->rowOf(id);
     if (row < 0)
         return;
-    const QModelIndex index = m_model->index(row, 0);
+    const QModelIndex index = m_sorted->mapFromSource(m_model->index(row, 0));
     m_view->selectionModel()->select(index,
                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
     m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
@@ -270,7 +276,7 @@ void OrderList::printOrders()
     }
     for (qint64 id : ids) {
         const int row = m_model->rowOf(id);
-        if (row >= 0 && m_model->row(row).kind.text == ConvertOrderType(0, 0, {}, {}, {}).text) {
+        if (row >= 0 && !m_model->row(row).verified) {
             interaction().exclamation(
                 tr("There are unverified invoices in selection. Verify them before print."));
             return;
@@ -307,9 +313,9 @@ void OrderList::previewOrder()
 
 void OrderList::sortByCreation()
 {
-    // The list always comes newest first; reading it again puts it back in that order.
-    m_view->clearSelection();
-    reload();
+    // The rows come newest first; dropping the header's sort shows them so again.
+    m_view->horizontalHeader()->setSortIndicator(-1, Qt::DescendingOrder);
+    m_sorted->sort(-1);
 }
 
 void OrderList::showContextMenu(const QPoint& pos)

@@ -14,6 +14,7 @@ class OrderListModel;
 class QLabel;
 class QMenu;
 class QPushButton;
+class QSortFilterProxyModel;
 class QTableView;
 
 class OrderList : public ListTab
@@ -56,6 +57,7 @@ private:
 
     OrderFilter* m_filter;
     OrderListModel* m_model;
+    QSortFilterProxyModel* m_sorted; // the user's sort by a column header
     QTableView* m_view;
     QLabel* m_note;
     QMenu* m_more;

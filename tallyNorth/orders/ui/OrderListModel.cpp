@@ -85,6 +85,22 @@ QVariant OrderListModel::data(const QModelIndex& index, int role) const
         if (column == Column::Kind && row.kind.ink.isValid())
             return QBrush(row.kind.ink);
         return {};
+    case SortRole:
+        switch (column) {
+        case Column::DateShipped:
+            return row.dateShipped;
+        case Column::DateCreated:
+            return row.dateCreated;
+        case Column::DatePaymentDue:
+            return row.datePaymentDue;
+        case Column::TotalNet:
+        case Column::TotalVat:
+        case Column::TotalGross:
+        case Column::UnpaidTotal:
+            return Amount(row, column);
+        default:
+            return data(index, Qt::DisplayRole);
+        }
     case Qt::DisplayRole:
         break;
     default:

@@ -26,6 +26,8 @@ public:
         Count
     };
     static constexpr int IdRole = Qt::UserRole + 1;
+    // The value a column sorts by: dates and amounts as such, not as their text.
+    static constexpr int SortRole = Qt::UserRole + 2;
 
     using QAbstractTableModel::QAbstractTableModel;
 
