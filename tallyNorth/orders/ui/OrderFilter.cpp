@@ -1,6 +1,7 @@
 #include "OrderFilter.h"
 
 #include "base/ui/DateEdit.h"
+#include "masterdata/ui/RecordFinder.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -15,7 +16,7 @@ constexpr int kTypingPauseMs = 300;
 
 OrderFilter::OrderFilter(QWidget* parent)
     : QWidget(parent), m_dateField(new QComboBox(this)), m_from(new DateEdit(this)),
-      m_to(new DateEdit(this)), m_partner(new QLineEdit(this)), m_kind(new QComboBox(this))
+      m_to(new DateEdit(this)), m_partner(new PartnerFinder(this)), m_kind(new QComboBox(this))
 {
     m_dateField->addItem(tr("Filter by date shipped"), int(OrderListFilter::DateField::Shipped));
     m_dateField->addItem(tr("Filter by date created"), int(OrderListFilter::DateField::Created));
@@ -51,6 +52,10 @@ OrderFilter::OrderFilter(QWidget* parent)
     connect(typing, &QTimer::timeout, this, &OrderFilter::changed);
     connect(m_partner, &QLineEdit::textEdited, typing, qOverload<>(&QTimer::start));
     connect(m_partner, &QLineEdit::returnPressed, this, [this, typing] {
+        typing->stop();
+        Q_EMIT changed();
+    });
+    connect(m_partner, &PartnerFinder::picked, this, [this, typing] {
         typing->stop();
         Q_EMIT changed();
     });

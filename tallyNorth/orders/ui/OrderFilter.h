@@ -8,7 +8,7 @@
 
 class DateEdit;
 class QComboBox;
-class QLineEdit;
+class PartnerFinder;
 
 class OrderFilter : public QWidget
 {
@@ -30,6 +30,6 @@ private:
     QComboBox* m_dateField;
     DateEdit* m_from;
     DateEdit* m_to;
-    QLineEdit* m_partner;
+    PartnerFinder* m_partner; // by name, its drop-down showing the city too
     QComboBox* m_kind;
 };
