@@ -6,6 +6,7 @@
 #include "OrderPrintHooks.h"
 
 #include "Columns.h"
+#include "base/Database.h"
 #include "base/MessageArgs.h"
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
@@ -107,6 +108,11 @@ Interaction& OrderList::interaction()
 void OrderList::reload()
 {
     const QList<qint64> selected = selectedIds();
+    if (!Database::isOpen()) { // between companies
+        m_model->setRows({});
+        m_note->hide();
+        return;
+    }
     OrderListFilter filter = m_filter->filter();
     filter.limit = ListRecordLimit();
     const Result r = m_model->load(filter);
