@@ -4,6 +4,7 @@
 #include "CompanyLock.h"
 #include "FileReplace.h"
 #include "Schema.h"
+#include "SchemaExtensions.h"
 #include "SqlScript.h"
 #include "base/Interaction.h"
 #include "base/MessageArgs.h"
@@ -97,9 +98,14 @@ Result DatabasePrepare::run()
         }
         // A run that died after its upgrade was committed leaves only its marker behind.
         QFile::remove(upgradeMarkerPath(path));
+        r = SchemaExtensions::apply(&m_interaction);
+        if (!r)
+            return fail(r.message());
     }
     if (ReadDbVersion() > kCurrentDbVersion)
         return fail(newerVersionMessage());
+    if (ReadSchemaExtensionVersion() > kSchemaExtensionVersion)
+        return fail(SchemaExtensions::newerVersionMessage());
     const Result loaded = Setup::current().load();
     if (!loaded)
         return fail(loaded.message());
@@ -115,6 +121,7 @@ QString DatabasePrepare::newerVersionMessage()
 bool DatabasePrepare::needsWork(const QString& path)
 {
     return !SchemaExists() || ReadDbVersion() != kCurrentDbVersion ||
+           ReadSchemaExtensionVersion() != kSchemaExtensionVersion ||
            QFile::exists(upgradeMarkerPath(path));
 }
 

@@ -1,7 +1,9 @@
 #include "Schema.h"
 
-#include "base/Interaction.h"
+#include "SchemaExtensions.h"
+
 #include "SqlScript.h"
+#include "base/Interaction.h"
 #include "base/SqlStatement.h"
 #include "base/SqlTransaction.h"
 
@@ -47,6 +49,9 @@ Result CreateSchema(Interaction* interaction, Progress* progress, const QSqlData
         QCoreApplication::translate("Schema", "Unable to insert basic data to database.");
     if (!r)
         return Result::failure(message, r.sqlError(), r.statement());
+    // A new file is born with the program's extensions, so opening it later changes nothing.
+    if (r = SchemaExtensions::apply(interaction, db); !r)
+        return r;
     if (!transaction.commit())
         return Result::failure(message, db.lastError().text());
     return Result::success();

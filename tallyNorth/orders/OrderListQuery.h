@@ -51,6 +51,7 @@ struct OrderListRow
     double unpaidTotal = 0.0;
     QString paymentMethod;
     OrderTypeText kind;
+    bool verified = false;
     int printingDecimals = 0; // the order's invoice total printing decimals
 };
 

@@ -1878,6 +1878,73 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>OrderFilter</name>
+        <message>
+            <source>Filter by date shipped</source>
+            <translation>Szűrés teljesítés dátumára</translation>
+        </message>
+        <message>
+            <source>Filter by date created</source>
+            <translation>Szűrés kiállítás dátumára</translation>
+        </message>
+        <message>
+            <source>Filter by payment due</source>
+            <translation>Szűrés fizetési határidőre</translation>
+        </message>
+        <message>
+            <source>All orders/invoices</source>
+            <translation>Minden rendelés/számla</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>From:</source>
+            <translation>Ettől:</translation>
+        </message>
+        <message>
+            <source>To:</source>
+            <translation>Eddig:</translation>
+        </message>
+        <message>
+            <source>Partner:</source>
+            <translation>Partner:</translation>
+        </message>
+        <message>
+            <source>Not printed invoices</source>
+            <translation>Nem nyomtatott számlák</translation>
+        </message>
+        <message>
+            <source>Printed invoices</source>
+            <translation>Nyomtatott számlák</translation>
+        </message>
+        <message>
+            <source>Unverified invoices</source>
+            <translation>Ellenőrizetlen számlák</translation>
+        </message>
+        <message>
+            <source>Verified invoices</source>
+            <translation>Ellenőrzött számlák</translation>
+        </message>
+        <message>
+            <source>Cancel invoices</source>
+            <translation>Sztornó számlák</translation>
+        </message>
+        <message>
+            <source>Cancelled invoices</source>
+            <translation>Sztornózott számlák</translation>
+        </message>
+        <message>
+            <source>Kifizetetlen szamlak</source>
+            <translation>Kifizetetlen számlák</translation>
+        </message>
+        <message>
+            <source>Lejart hatarideju szamlak</source>
+            <translation>Lejárt határidejű számlák</translation>
+        </message>
+    </context>
+    <context>
         <name>OrderItemEditDlg</name>
         <message>
             <source>New order item</source>
@@ -2005,6 +2072,188 @@ Folytatja?</translation>
         <message>
             <source>Total Gross</source>
             <translation>Bruttó összesen</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderList</name>
+        <message>
+            <source>New Order</source>
+            <translation>Új rendelés</translation>
+        </message>
+        <message>
+            <source>Edit Order</source>
+            <translation>Rendelés szerkesztése</translation>
+        </message>
+        <message>
+            <source>Delete Order</source>
+            <translation>Rendelés törlése</translation>
+        </message>
+        <message>
+            <source>Egyeb muveletek</source>
+            <translation>Egyéb műveletek</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Add bank item</source>
+            <translation>Banki tétel hozzáadása</translation>
+        </message>
+        <message>
+            <source>Sztorno</source>
+            <translation>Sztornó</translation>
+        </message>
+        <message>
+            <source>Csekk nyomtatasa</source>
+            <translation>Csekk nyomtatása</translation>
+        </message>
+        <message>
+            <source>Clone Order</source>
+            <translation>Rendelés másolása</translation>
+        </message>
+        <message>
+            <source>Create and edit a copy of selected order</source>
+            <translation>A kiválasztott rendelés másolatának létrehozása és szerkesztése</translation>
+        </message>
+        <message>
+            <source>Select an order/invoice to edit or view.</source>
+            <translation>Válasszon ki egy rendelést/számlát a szerkesztéshez vagy megtekintéshez.</translation>
+        </message>
+        <message>
+            <source>Select at least an order/invoice to delete.</source>
+            <translation>Válasszon ki legalább egy törlendő rendelést/számlát.</translation>
+        </message>
+        <message>
+            <source>Do you really want to delete the selected order/invoice ?</source>
+            <translation>Valóban törölni akarja a kiválasztott rendelést/számlát?</translation>
+        </message>
+        <message>
+            <source>Deleting %d orders/invoices.&amp;Are you sure?</source>
+            <translation>%d rendelés/számla törlése.&amp;Biztos benne?</translation>
+        </message>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült az adatokat betölteni az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Invoices, having Invoice No, can only be cancelled.</source>
+            <translation>Csak számlaszámmal rendelkező számla sztornózható.</translation>
+        </message>
+        <message>
+            <source>Cancel Invoice can not be cancelled.</source>
+            <translation>Sztornó számla nem sztornózható.</translation>
+        </message>
+        <message>
+            <source>This invoice is cancelled by %s.</source>
+            <translation>Ezt a számlát a(z) %s számú számla sztornózta.</translation>
+        </message>
+        <message>
+            <source>Cancel Invoice not printed.</source>
+            <translation>A sztornó számla még nincs kinyomtatva.</translation>
+        </message>
+        <message>
+            <source>Select an order/invoice to cancel.</source>
+            <translation>Válassza ki a sztornózandó rendelést/számlát.</translation>
+        </message>
+        <message>
+            <source>Create the cancel invoice of No %s?</source>
+            <translation>Létrehozza a(z) %s számú számla sztornó számláját?</translation>
+        </message>
+        <message>
+            <source>Select at least an order to print.</source>
+            <translation>Válasszon ki legalább egy nyomtatandó rendelést.</translation>
+        </message>
+        <message>
+            <source>There are unverified invoices in selection. Verify them before print.</source>
+            <translation>A kijelölésben ellenőrizetlen számlák vannak. Nyomtatás előtt ellenőrizze őket.</translation>
+        </message>
+        <message>
+            <source>The invoice can not be printed yet.</source>
+            <translation>A számla még nem nyomtatható.</translation>
+        </message>
+        <message>
+            <source>Select an order to print.</source>
+            <translation>Válassza ki a nyomtatandó rendelést.</translation>
+        </message>
+        <message>
+            <source>Insert</source>
+            <translation>Beszúrás</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Törlés</translation>
+        </message>
+        <message>
+            <source>Sort By Create Order</source>
+            <translation>Rendezés létrehozási sorrendben</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderListModel</name>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés dátuma</translation>
+        </message>
+        <message>
+            <source>Date Created</source>
+            <translation>Kiállítás dátuma</translation>
+        </message>
+        <message>
+            <source>Date Payment Due</source>
+            <translation>Fizetési határidő</translation>
+        </message>
+        <message>
+            <source>Currency</source>
+            <translation>Pénznem</translation>
+        </message>
+        <message>
+            <source>Total Net</source>
+            <translation>Nettó összesen</translation>
+        </message>
+        <message>
+            <source>Total VAT</source>
+            <translation>ÁFA összesen</translation>
+        </message>
+        <message>
+            <source>Total Gross</source>
+            <translation>Bruttó összesen</translation>
+        </message>
+        <message>
+            <source>Unpaid Total</source>
+            <translation>Kifizetetlen összeg</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Kind</source>
+            <translation>Típus</translation>
         </message>
     </context>
     <context>
@@ -2688,6 +2937,21 @@ Folytatja?</translation>
         <message>
             <source>Unable to insert basic data to database.</source>
             <translation>Nem sikerült az alapadatokat az adatbázisba írni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>SchemaExtensions</name>
+        <message>
+            <source>Extending database tables</source>
+            <translation>Adatbázistáblák bővítése</translation>
+        </message>
+        <message>
+            <source>Unable to extend database tables.</source>
+            <translation>Nem sikerült az adatbázistáblákat bővíteni.</translation>
+        </message>
+        <message>
+            <source>This company file was extended by a newer version of the program.&amp;Upgrade the software to a newer version.</source>
+            <translation>Ezt a cégfájlt a program egy újabb változata bővítette.&amp;Frissítse a programot egy újabb változatra.</translation>
         </message>
     </context>
     <context>

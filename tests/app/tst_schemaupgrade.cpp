@@ -7,6 +7,7 @@
 #include "TestData.h"
 
 #include "app/DatabasePrepare.h"
+#include "app/SchemaExtensions.h"
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
@@ -44,7 +45,9 @@ QList<QPair<QString, QStringList>> FreshTables()
 QStringList Indexes()
 {
     QStringList indexes;
-    QSqlQuery q("select name, tbl_name, sql from sqlite_master where type = 'index'",
+    // The company schema's own; the program's TN_ extensions are not part of it.
+    QSqlQuery q("select name, tbl_name, sql from sqlite_master where type = 'index' and "
+                "name not like 'TN\\_%' escape '\\'",
                 Database::session());
     while (q.next()) {
         const QString sql = q.value(2).toString();
@@ -78,6 +81,8 @@ private Q_SLOTS:
     void failureKeepsOriginal();
     void currentVersionOpensWithoutCopy();
     void emptyFileGetsSchema();
+    void schemaExtensions_data();
+    void schemaExtensions();
 
 private:
     QString build(const OldCompanyFile& file);
@@ -169,6 +174,9 @@ void TestSchemaUpgrade::wholeChain()
         QCOMPARE(Sorted(TableColumns(table)), Sorted(columns));
     }
     QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
+    // The program's extensions come beside the schema, DBVERSION stays the company schema's.
+    QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
+    QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
 
     QCOMPARE(Setup::current().text("SETUP_NAME"), "Régi Kereskedő Kft.");
     QCOMPARE(QueryText("select count(*), sum(ORDERITEM_TOTAL_GROSS) from ORDERITEM"), "4|11750");
@@ -327,6 +335,48 @@ void TestSchemaUpgrade::emptyFileGetsSchema()
     QVERIFY(!interaction.progressTexts.contains("Upgrading database."));
     QCOMPARE(ReadDbVersion(), 302);
     QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
+}
+
+// The program's TN_ additions beside the company schema: put on a file that lacks them when it is
+// opened, kept out of DBVERSION, and a file extended by a newer program is refused untouched.
+void TestSchemaUpgrade::schemaExtensions_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<bool>("opens");
+    QTest::addColumn<int>("version");
+    AddRow("current", QString(), true, kSchemaExtensionVersion);
+    AddRow("file without them",
+           QString("drop table TN_VERSION; drop index TN_IDX_ORDERHEAD_CANCEL"), true,
+           kSchemaExtensionVersion);
+    AddRow("newer program's", QString("update TN_VERSION set TN_VERSION_VERSION = 99"), false, 99);
+}
+
+void TestSchemaUpgrade::schemaExtensions()
+{
+    QFETCH(QString, change);
+    QFETCH(bool, opens);
+    QFETCH(int, version);
+    TestCompany company;
+    QVERIFY(company.isValid());
+    QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
+    for (const QString& statement : change.split(u';', Qt::SkipEmptyParts))
+        QVERIFY(ExecSql(statement.trimmed()));
+    ScriptedInteraction interaction;
+    const Result r = PrepareDatabase(interaction);
+    QCOMPARE(r.ok(), opens);
+    if (!opens) {
+        QCOMPARE(r.message(), SchemaExtensions::newerVersionMessage());
+        QVERIFY(Database::open(company.path()));
+    }
+    QCOMPARE(ReadSchemaExtensionVersion(), version);
+    QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
+    QCOMPARE(QueryText("select count(*) from sqlite_master where name like 'TN\\_IDX%' escape "
+                       "'\\'"),
+             "6");
+    // The list's default view and its rare kinds come from the extension's indexes.
+    QVERIFY(QueryText("explain query plan select ORDERHEAD_ID from ORDERHEAD where ORDERHEAD_TYPE "
+                      "= 1 order by ORDERHEAD_ID desc limit 10")
+                .contains("TN_IDX_ORDERHEAD_CANCEL"));
 }
 
 QTEST_GUILESS_MAIN(TestSchemaUpgrade)

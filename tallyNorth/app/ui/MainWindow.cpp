@@ -249,6 +249,12 @@ void MainWindow::setTabPage(MainTab tab, ListTab* page)
         showList(index, false);
 }
 
+void MainWindow::reloadTab(MainTab tab)
+{
+    if (ListTab* page = tabPage(tab))
+        page->reload();
+}
+
 ListTab* MainWindow::tabPage(MainTab tab) const
 {
     return qobject_cast<ListTab*>(m_tabs->widget(TabIndex(tab)));

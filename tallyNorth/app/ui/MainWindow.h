@@ -31,6 +31,7 @@ public:
     QAction* action(MainCommand command) const;
 
     void setTabPage(MainTab tab, ListTab* page) override;
+    void reloadTab(MainTab tab) override;
     QWidget* hostWidget() override { return this; }
     ListTab* tabPage(MainTab tab) const;
     void showTab(MainTab tab);

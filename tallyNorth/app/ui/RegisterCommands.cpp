@@ -8,8 +8,10 @@
 #include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
 #include "documents/ui/InvoicePrinting.h"
+#include "documents/ui/OrderListPrinting.h"
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
+#include "orders/ui/OrderListCommands.h"
 
 void InstallShellServices()
 {
@@ -17,6 +19,7 @@ void InstallShellServices()
     GuiInteraction::setSqlErrorDialog(&SqlErrorDlg::askRetry);
     InstallLabelLoading();
     InstallOrderEditPrinting();
+    InstallOrderPrinting();
 }
 
 // One line per subsystem: each registers its handlers with MainWindow::setCommand() and its
@@ -26,6 +29,7 @@ void RegisterCommands(MainWindow& window)
     RegisterFileCommands(window);
     RegisterMasterdataCommands(window);
     RegisterOrderEditCommands(window);
+    RegisterOrderList(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()

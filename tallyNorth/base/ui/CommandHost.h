@@ -18,6 +18,8 @@ public:
     virtual void setCommand(MainCommand command, std::function<void()> handler) = 0;
     // Puts a list in the place of the tab's placeholder; the host takes ownership.
     virtual void setTabPage(MainTab tab, ListTab* page) = 0;
+    // The list of the tab as it is in the database now, after a command changed it.
+    virtual void reloadTab(MainTab tab) = 0;
     // The parent of the windows the commands open.
     virtual QWidget* hostWidget() = 0;
 };

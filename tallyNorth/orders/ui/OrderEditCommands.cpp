@@ -52,5 +52,8 @@ bool OpenOrderEdit(QWidget* parent, qint64 orderId, qint64* savedId)
 
 void RegisterOrderEditCommands(CommandHost& host)
 {
-    host.setCommand(MainCommand::NewOrder, [&host] { OpenOrderEdit(host.hostWidget(), 0); });
+    host.setCommand(MainCommand::NewOrder, [&host] {
+        if (OpenOrderEdit(host.hostWidget(), 0))
+            host.reloadTab(MainTab::Orders);
+    });
 }

@@ -1,0 +1,4 @@
+// Fills the order windows' print hooks with the invoice issue and the printer.
+#pragma once
+
+void InstallOrderPrinting();

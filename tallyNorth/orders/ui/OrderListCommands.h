@@ -1,0 +1,6 @@
+// The order list as the main window's "Orders/Invoices" tab.
+#pragma once
+
+class CommandHost;
+
+void RegisterOrderList(CommandHost& host);

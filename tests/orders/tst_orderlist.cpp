@@ -1,0 +1,306 @@
+// The "Orders/Invoices" tab on the offscreen platform against a real company: the model's
+// contract, the commands' preconditions and messages, the printed rule of deleting several
+// orders, the record limit note and the refusals of cancelling.
+#include "ScriptedInteraction.h"
+#include "TestCompany.h"
+#include "TestData.h"
+
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
+#include "orders/ui/OrderFilter.h"
+#include "orders/ui/OrderList.h"
+#include "orders/ui/OrderListModel.h"
+#include "orders/ui/OrderPrintHooks.h"
+
+#include <QAbstractItemModelTester>
+#include <QBrush>
+#include <QTableView>
+#include <QtTest>
+
+namespace {
+
+using Column = OrderListModel::Column;
+
+// code, copies, verified, invoice no, number text, type, cancelling no, its text, cancelled no
+qint64 InsertOrder(const QString& code, const QVariantList& values, double gross = 1270.0)
+{
+    const QString sql = QStringLiteral(
+        "insert into ORDERHEAD (ORDERHEAD_CODE, ORDERHEAD_PRINTED_COPIES, ORDERHEAD_VERIFIED, "
+        "ORDERHEAD_INVOICE_NO, ORDERHEAD_INVOICE_NO_STR, ORDERHEAD_TYPE, "
+        "ORDERHEAD_CANCELLING_INVOICE_NO, ORDERHEAD_CANCELLING_INVOICE_NO_STR, "
+        "ORDERHEAD_CANCELLED_INVOICE_NO, ORDERHEAD_PARTNER_NAME, ORDERHEAD_PARTNER_NAME_ASCII, "
+        "ORDERHEAD_DATE_SHIPPED, ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_TOTAL_NET, "
+        "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, "
+        "ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS) "
+        "values (?, ?, ?, ?, ?, ?, ?, ?, ?, 'Árvíztűrő Kft.', 'ARVIZTURO KFT.', '2024-05-10', "
+        "'EUR', ?, ?, ?, 2)");
+    if (!ExecSql(sql, QVariantList{code} + values +
+                          QVariantList{gross / 1.27, gross - gross / 1.27, gross}))
+        qFatal("insert failed");
+    return QueryText("select max(ORDERHEAD_ID) from ORDERHEAD").toLongLong();
+}
+
+const QVariant null;
+
+} // namespace
+
+class TestOrderList : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(m_company.emplace().isValid());
+        m_ask = ScriptedInteraction();
+        QVERIFY(Setup::current().load()); // the record limit of the new company
+        QVERIFY(ExecSql("delete from ORDERITEM"));
+        QVERIFY(ExecSql("delete from ORDERHEAD"));
+        // An unverified order, a verified one, an invoice, a cancelled invoice and its cancel.
+        m_unverified = InsertOrder("R1", {0, "0", null, null, 0, null, null, null});
+        m_verified = InsertOrder("R2", {0, "1", null, null, 0, null, null, null});
+        m_invoice = InsertOrder("R3", {1, "1", 3, "A-3", 0, null, null, null}, 1234567.5);
+        m_cancelled = InsertOrder("R4", {1, "1", 4, "A-4", 0, 5, "A-5", null});
+        m_cancel = InsertOrder("R5", {1, "1", 5, "A-5", 1, null, null, 4}, -1270.0);
+        m_list.emplace();
+        m_list->setInteraction(&m_ask);
+        m_list->reload();
+    }
+    void cleanup()
+    {
+        m_list.reset();
+        m_company.reset();
+        SetOrderPrintHooks({});
+    }
+
+    void modelContract()
+    {
+        OrderListModel* model = m_list->model();
+        QAbstractItemModelTester tester(model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(model->rowCount(), 5);
+        QCOMPARE(model->columnCount(), int(Column::Count));
+        QCOMPARE(model->headerData(int(Column::Kind), Qt::Horizontal).toString(), "Kind");
+        m_list->reload(); // a reset under the tester
+        OrderListFilter filter;
+        filter.kind = 4;
+        QVERIFY(model->load(filter));
+        QCOMPARE(model->rowCount(), 1);
+        filter.kind = 8;
+        QVERIFY(!model->load(filter));
+        QCOMPARE(model->rowCount(), 0);
+    }
+
+    void rowsAsShown()
+    {
+        OrderListModel* model = m_list->model();
+        // Newest first.
+        QCOMPARE(model->row(0).id, m_cancel);
+        const int invoice = model->rowOf(m_invoice);
+        const QModelIndex gross = model->index(invoice, int(Column::TotalGross));
+        QCOMPARE(gross.data().toString(), QLocale().toString(1234567.5, 'f', 2));
+        QCOMPARE(gross.data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
+                 Qt::AlignRight | Qt::AlignVCenter);
+        QCOMPARE(model->index(invoice, int(Column::Code)).data(Qt::TextAlignmentRole), QVariant());
+        QCOMPARE(model->index(invoice, int(Column::DateShipped)).data().toString(), "2024.05.10.");
+        QCOMPARE(model->index(invoice, int(Column::InvoiceNo)).data().toString(), "A-3");
+        QCOMPARE(model->index(invoice, int(Column::PartnerName)).data().toString(),
+                 "Árvíztűrő Kft.");
+        QCOMPARE(model->index(invoice, int(Column::Kind)).data().toString(), "Invoice");
+        QCOMPARE(model->index(invoice, int(Column::Kind)).data(Qt::ForegroundRole), QVariant());
+    }
+
+    void kindInk_data()
+    {
+        QTest::addColumn<int>("which");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QColor>("ink");
+        AddRow("unverified", 0, QString("Unverified"), QColor(200, 0, 0));
+        AddRow("unprinted", 1, QString("Unprinted"), QColor(0, 200, 0));
+        AddRow("cancelled", 3, QString("Cancelled Invoice"), QColor(0, 0, 180));
+        AddRow("cancel invoice", 4, QString("Cancel Invoice"), QColor(200, 0, 200));
+    }
+    void kindInk()
+    {
+        QFETCH(int, which);
+        QFETCH(QString, text);
+        QFETCH(QColor, ink);
+        const qint64 ids[] = {m_unverified, m_verified, m_invoice, m_cancelled, m_cancel};
+        OrderListModel* model = m_list->model();
+        const QModelIndex kind = model->index(model->rowOf(ids[which]), int(Column::Kind));
+        QCOMPARE(kind.data().toString(), text);
+        QCOMPARE(kind.data(Qt::ForegroundRole).value<QBrush>().color(), ink);
+    }
+
+    void selectionPreconditions_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<QString>("message");
+        AddRow("edit, none", QString("edit"), 0,
+               QString("Select an order/invoice to edit or view."));
+        AddRow("edit, two", QString("edit"), 2,
+               QString("Select an order/invoice to edit or view."));
+        AddRow("delete, none", QString("delete"), 0,
+               QString("Select at least an order/invoice to delete."));
+        AddRow("preview, two", QString("preview"), 2, QString("Select an order to print."));
+        AddRow("print, none", QString("print"), 0, QString("Select at least an order to print."));
+        AddRow("cancel, none", QString("cancel"), 0, QString("Select an order/invoice to cancel."));
+        AddRow("cancel, two", QString("cancel"), 2, QString("Select an order/invoice to cancel."));
+    }
+    void selectionPreconditions()
+    {
+        QFETCH(QString, command);
+        QFETCH(int, selected);
+        QFETCH(QString, message);
+        const qint64 ids[] = {m_invoice, m_cancelled};
+        for (int i = 0; i < selected; ++i)
+            m_list->selectId(ids[i]);
+        const QHash<QString, void (OrderList::*)()> commands = {
+            {"edit", &OrderList::editOrder},       {"delete", &OrderList::deleteOrders},
+            {"preview", &OrderList::previewOrder}, {"print", &OrderList::printOrders},
+            {"cancel", &OrderList::cancelInvoice},
+        };
+        (m_list.operator->()->*commands.value(command))();
+        QCOMPARE(m_ask.lastMessage(), message);
+        QVERIFY(m_ask.questions.isEmpty());
+    }
+
+    void sortByColumnAndBack()
+    {
+        QAbstractItemModel* shown = m_list->view()->model();
+        const auto firstCode = [shown] {
+            return shown->index(0, int(Column::Code)).data().toString();
+        };
+        QCOMPARE(firstCode(), "R5");
+        // By amount, not by its text: -1270 < 1270 < 1234567.5.
+        m_list->view()->sortByColumn(int(Column::TotalGross), Qt::AscendingOrder);
+        QCOMPARE(firstCode(), "R5");
+        QCOMPARE(shown->index(4, int(Column::Code)).data().toString(), "R3");
+        m_list->view()->sortByColumn(int(Column::Code), Qt::AscendingOrder);
+        QCOMPARE(firstCode(), "R1");
+        // The selection still names the orders, whatever the order shown.
+        m_list->view()->selectRow(1);
+        QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
+        m_list->sortByCreation();
+        QCOMPARE(firstCode(), "R5");
+        QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
+    }
+
+    void deleteLeavesPrinted()
+    {
+        m_list->selectId(m_unverified);
+        m_list->selectId(m_verified);
+        m_list->selectId(m_invoice);
+        m_ask.yesNoAnswers << true;
+        m_list->deleteOrders();
+        QCOMPARE(m_ask.questions, QStringList{"Deleting 3 orders/invoices.&Are you sure?"});
+        QCOMPARE(m_ask.lastMessage(),
+                 "1 orders/invoices can not be deleted,&because they are printed yet.");
+        QCOMPARE(QueryText("select ORDERHEAD_CODE from ORDERHEAD order by ORDERHEAD_ID"),
+                 "R3; R4; R5");
+        QCOMPARE(m_list->model()->rowCount(), 3);
+    }
+
+    void deleteOneAsksAndMayBeRefused()
+    {
+        m_list->selectId(m_verified);
+        m_ask.yesNoAnswers << false;
+        m_list->deleteOrders();
+        QCOMPARE(m_ask.questions,
+                 QStringList{"Do you really want to delete the selected order/invoice ?"});
+        QCOMPARE(m_list->model()->rowCount(), 5);
+    }
+
+    void printRefusesUnverified()
+    {
+        int printed = 0;
+        SetOrderPrintHooks({[&](QWidget*, const QList<qint64>& ids) {
+                                printed += int(ids.size());
+                                return Result::success();
+                            },
+                            {}});
+        m_list->selectId(m_verified);
+        m_list->selectId(m_unverified);
+        m_list->printOrders();
+        QCOMPARE(m_ask.lastMessage(),
+                 "There are unverified invoices in selection. Verify them before print.");
+        QCOMPARE(printed, 0);
+        m_list->view()->clearSelection();
+        m_list->selectId(m_verified);
+        m_list->selectId(m_invoice);
+        m_list->printOrders();
+        QCOMPARE(printed, 2);
+    }
+
+    void recordLimitNote()
+    {
+        QVERIFY(ExecSql("update SETUP set SETUP_RECORD_LIMIT = 2"));
+        QVERIFY(Setup::current().load());
+        m_list->reload();
+        QCOMPARE(m_list->model()->rowCount(), 2);
+        QVERIFY(m_list->model()->more());
+        QVERIFY(!m_list->findChild<QWidget*>("note")->isHidden());
+        QVERIFY(ExecSql("update SETUP set SETUP_RECORD_LIMIT = 5"));
+        QVERIFY(Setup::current().load());
+        m_list->reload();
+        QCOMPARE(m_list->model()->rowCount(), 5);
+        QVERIFY(m_list->findChild<QWidget*>("note")->isHidden());
+    }
+
+    void filterReloads()
+    {
+        OrderListFilter filter;
+        filter.kind = 5;
+        m_list->filterWidget()->setFilter(filter);
+        Q_EMIT m_list->filterWidget()->changed();
+        QCOMPARE(m_list->model()->rowCount(), 1);
+        QCOMPARE(m_list->model()->row(0).id, m_cancelled);
+        QCOMPARE(m_list->filterWidget()->filter().kind, std::optional<int>(5));
+        QCOMPARE(OrderFilter::kindLabel(7), "Lejart hatarideju szamlak");
+        QVERIFY(OrderFilter::kindLabel(8).isEmpty());
+    }
+
+    void cancelRefusals_data()
+    {
+        QTest::addColumn<int>("which");
+        QTest::addColumn<QString>("message");
+        AddRow("no number", 1, QString("Invoices, having Invoice No, can only be cancelled."));
+        AddRow("a cancel invoice", 4, QString("Cancel Invoice can not be cancelled."));
+        AddRow("cancelled already", 3, QString("This invoice is cancelled by A-5."));
+        AddRow("its cancel waits to be printed", 5, QString("Cancel Invoice not printed."));
+        AddRow("can be cancelled", 2, QString());
+    }
+    void cancelRefusals()
+    {
+        QFETCH(int, which);
+        QFETCH(QString, message);
+        // An invoice whose cancelling order has been made but not yet printed.
+        const qint64 waiting = InsertOrder("R6", {1, "1", 6, "A-6", 0, null, null, null});
+        InsertOrder("R7", {0, "1", null, null, 1, null, null, 6});
+        const qint64 ids[] = {m_unverified, m_verified, m_invoice, m_cancelled, m_cancel, waiting};
+        QCOMPARE(OrderList::cancelRefusal(ids[which]).message(), message);
+    }
+
+    void cancelCreatesTheCancelInvoice()
+    {
+        m_list->selectId(m_invoice);
+        m_ask.yesNoAnswers << true;
+        m_list->cancelInvoice();
+        QCOMPARE(m_ask.questions, QStringList{"Create the cancel invoice of No A-3?"});
+        QCOMPARE(m_ask.lastMessage(), QString());
+        QCOMPARE(m_list->model()->rowCount(), 6);
+        const OrderListRow& made = m_list->model()->row(0);
+        QCOMPARE(made.kind.text, "Unprinted");
+        QCOMPARE(made.totalGross, -1234567.5);
+        QCOMPARE(m_list->selectedIds(), QList<qint64>{made.id});
+    }
+
+private:
+    std::optional<TestCompany> m_company;
+    std::optional<OrderList> m_list;
+    ScriptedInteraction m_ask;
+    qint64 m_unverified = 0, m_verified = 0, m_invoice = 0, m_cancelled = 0, m_cancel = 0;
+};
+
+QTEST_MAIN(TestOrderList)
+#include "tst_orderlist.moc"
