@@ -6,12 +6,15 @@
 #include "base/FoldName.h"
 #include "base/MessageArgs.h"
 #include "base/SqlStatement.h"
+#include "documents/InvoiceTemplate.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+
+#include "Columns.h"
 
 namespace {
 
@@ -64,12 +67,20 @@ Result WriteCompany(const NewCompany& company, const QString& path, Interaction&
     Result r = CreateSchema(&interaction, nullptr, connection.db());
     if (!r)
         return r;
-    SqlStatement st(
-        QStringLiteral("update SETUP set SETUP_NAME = ?, SETUP_TAX_NO = ?, SETUP_ZIP = ?, "
-                       "SETUP_CITY = ?, SETUP_ADDRESS = ?"),
-        {company.name.trimmed(), company.taxNo.trimmed(), company.zip.trimmed(),
-         company.city.trimmed(), company.address.trimmed()},
-        connection.db());
+    QHash<QString, QVariant> values = TemplateSetupValues(LoadTemplateDir(kShippedTemplateDir));
+    values.insert(ColumnName(Col::SETUP_NAME), company.name.trimmed());
+    values.insert(ColumnName(Col::SETUP_TAX_NO), company.taxNo.trimmed());
+    values.insert(ColumnName(Col::SETUP_ZIP), company.zip.trimmed());
+    values.insert(ColumnName(Col::SETUP_CITY), company.city.trimmed());
+    values.insert(ColumnName(Col::SETUP_ADDRESS), company.address.trimmed());
+    QStringList assignments;
+    QVariantList binds;
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        assignments << it.key() + QLatin1String(" = ?");
+        binds << it.value();
+    }
+    SqlStatement st(QStringLiteral("update SETUP set ") + assignments.join(u", "), binds,
+                    connection.db());
     if (!st.exec() || st.numRowsAffected() != 1)
         return st.failure(QCoreApplication::translate("Setup", "Unable to update SETUP record."));
     return Result::success();

@@ -154,7 +154,7 @@ InvoiceTemplate LoadTemplateDir(const QString& directory)
     return t;
 }
 
-Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate)
+QHash<QString, QVariant> TemplateSetupValues(const InvoiceTemplate& invoiceTemplate)
 {
     QHash<QString, QVariant> values;
     for (int i = 0; i < InvoiceTemplate::kPieces; ++i) {
@@ -162,8 +162,13 @@ Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate)
         values.insert(QString::fromLatin1(InvoiceTemplate::setupColumn(piece)),
                       invoiceTemplate.text(piece));
     }
-    values.insert(QStringLiteral("SETUP_INVOICE_DIGEST"), invoiceTemplate.digest());
-    return Setup::write(values);
+    values.insert(QString::fromLatin1(Col::SETUP_INVOICE_DIGEST), invoiceTemplate.digest());
+    return values;
+}
+
+Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate)
+{
+    return Setup::write(TemplateSetupValues(invoiceTemplate));
 }
 
 InvoiceTemplate LoadTemplateFromSetup(const Setup& setup)

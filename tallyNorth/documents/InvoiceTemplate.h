@@ -6,7 +6,9 @@
 
 #include "base/Result.h"
 
+#include <QHash>
 #include <QString>
+#include <QVariant>
 #include <QStringList>
 
 #include <array>
@@ -63,8 +65,12 @@ private:
 // Reads the fourteen files of a template directory (a missing file gives an empty piece) and
 // the digest of its "invoice.cfg".
 InvoiceTemplate LoadTemplateDir(const QString& directory);
+// The SETUP columns of the pieces and the digest with their values.
+QHash<QString, QVariant> TemplateSetupValues(const InvoiceTemplate& invoiceTemplate);
 // Writes the pieces and the digest into SETUP in one statement.
 Result SaveTemplateToSetup(const InvoiceTemplate& invoiceTemplate);
+// The certified template that comes with the program, built into it.
+inline constexpr char kShippedTemplateDir[] = ":/templates/invoice";
 
 // Makes the template of directory the open company's invoice template: its texts and its folder
 // are stored in the settings in one transaction. installed receives what was read, so the caller

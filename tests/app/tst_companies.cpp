@@ -8,6 +8,7 @@
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
+#include "documents/InvoiceTemplate.h"
 #include "documents/LabelTranslations.h"
 
 #include <QtTest>
@@ -208,6 +209,13 @@ void TestCompanies::createAndListWhileAnotherIsOpen()
     QCOMPARE(FileBytes(path), before);
     QCOMPARE(Database::path(), kovacs);
     QCOMPARE(SelectValue("select SETUP_NAME from SETUP"), QVariant("Kovács Bt."));
+
+    // A new company prints its first invoice with the shipped template, before any setting.
+    QVERIFY(Database::open(path));
+    Setup setup;
+    QVERIFY(setup.load());
+    QVERIFY(LoadTemplateFromSetup(setup).certified());
+    QVERIFY(Database::open(kovacs));
 
     // A file that is not a company database lists with empty data.
     QFile empty(file("ures.db"));
