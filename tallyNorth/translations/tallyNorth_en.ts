@@ -85,7 +85,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file name must end with &quot;.db&quot;, be longer than three characters and must not begin with &quot;.&quot;.</source>
+        <source>The file name must end with ".db", be longer than three characters and must not begin with ".".</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -224,8 +224,8 @@
     <message numerus="yes">
         <source>This country is the default of the settings.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform />
+            <numerusform />
         </translation>
     </message>
     <message>
@@ -376,8 +376,8 @@
     <message numerus="yes">
         <source>This currency is the default of the settings.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform />
+            <numerusform />
         </translation>
     </message>
     <message>
@@ -424,7 +424,7 @@
 <context>
     <name>Database</name>
     <message>
-        <source>Can&apos;t create or open database file:
+        <source>Can't create or open database file:
 %s</source>
         <translation type="unfinished"></translation>
     </message>
@@ -576,7 +576,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The template is installed, but it is not certified: invoices can&apos;t be printed with it.</source>
+        <source>The template is installed, but it is not certified: invoices can't be printed with it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -608,6 +608,13 @@
     <message>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>InvoiceRender</name>
+    <message>
+        <source>Tetelek nelkuli szamla nem nyomtathato.</source>
+        <translation>An invoice without items can not be printed.</translation>
     </message>
 </context>
 <context>
@@ -682,8 +689,8 @@
     <message numerus="yes">
         <source>This language is the default of the settings.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform />
+            <numerusform />
         </translation>
     </message>
     <message>
@@ -750,7 +757,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Setup your company&apos;s data and application defaults</source>
+        <source>Setup your company's data and application defaults</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1146,6 +1153,77 @@
     </message>
 </context>
 <context>
+    <name>OrderEditLayout</name>
+    <message>
+        <source>Vevo</source>
+        <translation>Customer</translation>
+    </message>
+    <message>
+        <source>Partner keresese vagy uj partner letrehozasa</source>
+        <translation>Find a partner or create a new one</translation>
+    </message>
+    <message>
+        <source>Levelezesi cim</source>
+        <translation>Mailing Address</translation>
+    </message>
+</context>
+<context>
+    <name>OrderFill</name>
+    <message>
+        <source>A partner levelezesi cimehez tartozo nevet meg kell adni.</source>
+        <translation>The name of the partner's mailing address is required.</translation>
+    </message>
+    <message>
+        <source>A partner levelezesi cimehez tartozo telepulest meg kell adni.</source>
+        <translation>The city of the partner's mailing address is required.</translation>
+    </message>
+    <message>
+        <source>A partner levelezesi cimehez tartozo cimet meg kell adni.</source>
+        <translation>The address of the partner's mailing address is required.</translation>
+    </message>
+    <message>
+        <source>A teljesítés 15 napnál régebbi.&amp;Előfordulhat, hogy ez nem felel meg az ÁFA törvény (2007. évi CXXVII. tv. 163. §) előírásainak.&amp;&amp;Biztos benne, hogy folytatja?</source>
+        <translation>The delivery date is more than 15 days ago.&amp;This may not meet the requirements of the VAT Act (Act CXXVII of 2007, section 163).&amp;&amp;Are you sure you want to continue?</translation>
+    </message>
+</context>
+<context>
+    <name>OrderFilter</name>
+    <message>
+        <source>Kifizetetlen szamlak</source>
+        <translation>Unpaid invoices</translation>
+    </message>
+    <message>
+        <source>Lejart hatarideju szamlak</source>
+        <translation>Overdue invoices</translation>
+    </message>
+</context>
+<context>
+    <name>OrderItemEditLayout</name>
+    <message>
+        <source>Termek keresese vagy uj termek letrehozasa</source>
+        <translation>Find a product or create a new one</translation>
+    </message>
+    <message>
+        <source>VTSZ/SZJ keresese vagy uj felvitele</source>
+        <translation>Find a statistical number or add a new one</translation>
+    </message>
+</context>
+<context>
+    <name>OrderList</name>
+    <message>
+        <source>Egyeb muveletek</source>
+        <translation>Other Operations</translation>
+    </message>
+    <message>
+        <source>Sztorno</source>
+        <translation>Cancel Invoice</translation>
+    </message>
+    <message>
+        <source>Csekk nyomtatasa</source>
+        <translation>Print Cheque</translation>
+    </message>
+</context>
+<context>
     <name>PartnerEditLayout</name>
     <message>
         <source>Partner</source>
@@ -1497,7 +1575,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a price: type a number.</source>
+        <source>"%1" is not a price: type a number.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1874,7 +1952,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The code &quot;%1&quot; is already used.</source>
+        <source>The code "%1" is already used.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
