@@ -83,9 +83,9 @@ QString TestCompanies::company(const QString& name, QString taxNo)
         taxNo = QStringLiteral("1000000%1-2-41").arg(++m_taxNo);
     QString path;
     ScriptedInteraction quiet;
-    const Result r =
-        name == "demo" ? CreateDemoCompany(m_dir->path(), quiet, &path)
-                       : CreateCompany({name, taxNo, {}, "Budapest"}, m_dir->path(), quiet, &path);
+    const Result r = name == "demo" ? CreateDemoCompany(m_dir->path(), quiet, &path)
+                                    : CreateCompany({name, taxNo, {}, "Budapest", {}, {}},
+                                                    m_dir->path(), quiet, &path);
     if (!r)
         qWarning("%s %s", qPrintable(r.message()), qPrintable(r.sqlError()));
     return path;
@@ -197,8 +197,8 @@ void TestCompanies::createAndListWhileAnotherIsOpen()
 {
     const QString kovacs = company("Kovács Bt.");
     QVERIFY(Database::open(kovacs));
-    const NewCompany szabo{"Szabó és Társa Kft.", "22222222-2-42", "4025", "Debrecen",
-                           "Piac u. 20."};
+    const NewCompany szabo{
+        "Szabó és Társa Kft.", "22222222-2-42", "4025", "Debrecen", "Piac u. 20.", {}};
     QString path;
     QVERIFY(CreateCompany(szabo, m_dir->path(), m_ui, &path));
     QCOMPARE(QFileInfo(path).fileName(), "szabo_es_tarsa_kft.db");

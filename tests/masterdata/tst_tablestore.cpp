@@ -149,7 +149,7 @@ private Q_SLOTS:
         QFETCH(QString, use);
         QFETCH(QString, message);
         // Two rows of the referencing table, whatever the test company holds.
-        for (const QString& name : {"Egy", "Kettő"}) {
+        for (const QString& name : QStringList{"Egy", "Kettő"}) {
             QVERIFY(Insert(PartnerStore(), Partner(name)));
             QVERIFY(Insert(ProductStore(), {{PRODUCT_NAME, name}}));
         }

@@ -54,7 +54,8 @@ template <class Dlg> EditFunction DialogEdit()
 ComputedColumn PaymentMethodColumn()
 {
     QHash<qint64, QString> names;
-    PaymentMethodStore().names(names);
+    // A failed read leaves the column empty; the list's own query reports the database error.
+    (void)PaymentMethodStore().names(names);
     return {[names](const Record& partner) -> QVariant {
         const std::optional<qint64> id =
             RowId(partner.value(QString::fromLatin1(PARTNER_PAYMENTMETHOD_ID)));
