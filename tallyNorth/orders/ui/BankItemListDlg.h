@@ -1,0 +1,21 @@
+// "Previous Bank Items": the payments recorded earlier for one invoice.
+#pragma once
+
+#include "orders/BankItemStore.h"
+
+#include <QDialog>
+
+class QTableWidget;
+
+class BankItemListDlg : public QDialog
+{
+    Q_OBJECT
+public:
+    BankItemListDlg(const QList<BankItem>& items, const QString& currency,
+                    QWidget* parent = nullptr);
+
+    QTableWidget* table() const { return m_table; }
+
+private:
+    QTableWidget* m_table;
+};
