@@ -11,6 +11,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -33,11 +34,13 @@ std::optional<double> ReadNumber(QString text)
 Result BankItemStore::loadInvoice(qint64 orderId, BankItemInvoice& invoice)
 {
     SqlStatement st(
-        Sql("select %1, %2, %3, %4, %5, %6, %7, %8, %9 from %10 where %11 = ?",
+        Sql("select %1, %2, %3, %4, %5, %6, %7, %8, %9, %10 from %11 where %12 = ?",
             {Col::ORDERHEAD_INVOICE_NO, Col::ORDERHEAD_INVOICE_NO_STR,
              Col::ORDERHEAD_CURRENCY_ABBREVIATION, Col::ORDERHEAD_TOTAL_GROSS, Col::ORDERHEAD_PAID,
              Col::ORDERHEAD_UNPAID_TOTAL, Col::ORDERHEAD_TYPE, Col::ORDERHEAD_CANCELLING_INVOICE_NO,
-             Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR, Tbl::ORDERHEAD, Col::ORDERHEAD_ID}),
+             Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR,
+             Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS, Tbl::ORDERHEAD,
+             Col::ORDERHEAD_ID}),
         {orderId});
     if (!st.exec() || !st.next())
         return st.failure(tr("Unable to load invoice data from database."));
@@ -56,6 +59,7 @@ Result BankItemStore::loadInvoice(qint64 orderId, BankItemInvoice& invoice)
     invoice.totalGross = ToNumber(st.value(3));
     invoice.paid = IsFlagSet(st.value(4));
     invoice.unpaidTotal = ToNumber(st.value(5));
+    invoice.decimals = int(std::clamp<qint64>(ToInteger(st.value(9), 2), 0, 6));
     return Result::success();
 }
 

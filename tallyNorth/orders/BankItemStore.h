@@ -18,6 +18,7 @@ struct BankItemInvoice
     qint64 invoiceNo = 0;
     QString invoiceNoStr;
     QString currency; // abbreviation
+    int decimals = 2; // the invoice's printing decimals of totals
     double totalGross = 0.0;
     bool paid = false;
     double unpaidTotal = 0.0;

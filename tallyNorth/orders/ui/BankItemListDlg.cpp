@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 BankItemListDlg::BankItemListDlg(const QList<BankItem>& items, const QString& currency,
-                                 QWidget* parent)
+                                 int decimals, QWidget* parent)
     : QDialog(parent), m_table(new QTableWidget(int(items.size()), 4, this))
 {
     setWindowTitle(tr("Previous Bank Items"));
@@ -23,7 +23,7 @@ BankItemListDlg::BankItemListDlg(const QList<BankItem>& items, const QString& cu
     const QLocale locale;
     for (int row = 0; row < items.size(); ++row) {
         const BankItem& item = items.at(row);
-        const QString paid = locale.toString(item.paidTotal, 'f', 2) + u' ' + currency;
+        const QString paid = locale.toString(item.paidTotal, 'f', decimals) + u' ' + currency;
         const QStringList texts = {item.recordNo, FormatDate(item.transferDate), paid.trimmed(),
                                    item.comment};
         for (int column = 0; column < texts.size(); ++column) {

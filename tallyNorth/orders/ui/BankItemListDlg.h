@@ -11,7 +11,8 @@ class BankItemListDlg : public QDialog
 {
     Q_OBJECT
 public:
-    BankItemListDlg(const QList<BankItem>& items, const QString& currency,
+    // Amounts with decimals places and the currency abbreviation.
+    BankItemListDlg(const QList<BankItem>& items, const QString& currency, int decimals,
                     QWidget* parent = nullptr);
 
     QTableWidget* table() const { return m_table; }

@@ -121,7 +121,7 @@ void BankitemEdit::listPastPayments()
         interaction().info(tr("There are no bank items to this invoice."));
         return;
     }
-    BankItemListDlg dialog(items, m_invoice.currency, this);
+    BankItemListDlg dialog(items, m_invoice.currency, m_invoice.decimals, this);
     dialog.exec();
 }
 
