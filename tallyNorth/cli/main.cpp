@@ -5,6 +5,7 @@
 #include "DocumentCommands.h"
 #include "InvoiceCommands.h"
 #include "OrderCommands.h"
+#include "PaymentCommands.h"
 #include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
@@ -53,6 +54,9 @@ const CliCommand kCommands[] = {
      "cancel INVOICE_NO_STR [--pdf FILE] [--copies N] [--shipped D] [--due D] [--payment ID]",
      RunCancelCommand},
     {"sample", "sample --pdf FILE", RunSampleCommand},
+    {"pay", "pay INVOICE_NO_STR AMOUNT --date YYYY-MM-DD [--record-no X] [--comment C]",
+     RunPayCommand},
+    {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

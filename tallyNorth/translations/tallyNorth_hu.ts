@@ -52,6 +52,123 @@
         </message>
     </context>
     <context>
+        <name>BankItemListDlg</name>
+        <message>
+            <source>Previous Bank Items</source>
+            <translation>Korábbi banki tételek</translation>
+        </message>
+        <message>
+            <source>Record No</source>
+            <translation>Tételszám</translation>
+        </message>
+        <message>
+            <source>Transfer Date</source>
+            <translation>Átutalás dátuma</translation>
+        </message>
+        <message>
+            <source>Paid</source>
+            <translation>Fizetve</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
+        </message>
+    </context>
+    <context>
+        <name>BankItemStore</name>
+        <message>
+            <source>Unable to load invoice data from database.</source>
+            <translation>Nem sikerült betölteni a számla adatait az adatbázisból.</translation>
+        </message>
+        <message>
+            <source>Only an issued invoice can be paid. This order has no invoice number yet.</source>
+            <translation>Csak kiállított számla fizethető. Ennek a rendelésnek még nincs számlaszáma.</translation>
+        </message>
+        <message>
+            <source>A cancelling invoice can not be paid.</source>
+            <translation>Sztornó számla nem fizethető.</translation>
+        </message>
+        <message>
+            <source>This invoice is cancelled by %s, it can not be paid.</source>
+            <translation>Ezt a számlát a(z) %s sztornózta, nem fizethető.</translation>
+        </message>
+        <message>
+            <source>Bank Paid Total field must have a value.</source>
+            <translation>A Fizetett összeg mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>&quot;%s&quot; is not an amount. Type digits, with a decimal comma or point.</source>
+            <translation>„%s” nem összeg. Számjegyeket írjon, tizedesvesszővel vagy -ponttal.</translation>
+        </message>
+        <message>
+            <source>Bankitem Transfer Date mustn&apos;t not be empty.</source>
+            <translation>Az átutalás dátuma nem lehet üres.</translation>
+        </message>
+        <message>
+            <source>The paid total is too large.</source>
+            <translation>A fizetett összeg túl nagy.</translation>
+        </message>
+        <message>
+            <source>Unable to insert bank item.</source>
+            <translation>Nem sikerült rögzíteni a banki tételt.</translation>
+        </message>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Can&apos;t create bank item in database.</source>
+            <translation>A banki tétel nem hozható létre az adatbázisban.</translation>
+        </message>
+    </context>
+    <context>
+        <name>BankitemEdit</name>
+        <message>
+            <source>List past payments</source>
+            <translation>Korábbi befizetések</translation>
+        </message>
+        <message>
+            <source>Add Bank Item</source>
+            <translation>Banki tétel hozzáadása</translation>
+        </message>
+        <message>
+            <source>Invoice Number</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Bankitem Record No</source>
+            <translation>Bankszámlakivonat tételszáma</translation>
+        </message>
+        <message>
+            <source>Bank Transfer Date</source>
+            <translation>Átutalás dátuma</translation>
+        </message>
+        <message>
+            <source>Bank Paid Total</source>
+            <translation>Fizetett összeg</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
+        </message>
+        <message>
+            <source>The transfer date is not a date.</source>
+            <translation>Az átutalás dátuma nem érvényes dátum.</translation>
+        </message>
+        <message>
+            <source>Bankitem Transfer Date mustn&apos;t not be empty.</source>
+            <translation>Az átutalás dátuma nem lehet üres.</translation>
+        </message>
+        <message>
+            <source>There are no bank items to this invoice.</source>
+            <translation>Ehhez a számlához nincs banki tétel.</translation>
+        </message>
+        <message>
+            <source>Record a payment received for this invoice, as it stands on the bank statement: its record number, the date of the transfer and the amount in the invoice&apos;s currency.&amp;When the payments reach the invoice&apos;s total the invoice becomes paid; an overpayment stays as a negative unpaid total.</source>
+            <translation>Rögzítse a számlára érkezett befizetést a bankszámlakivonat szerint: a tétel számát, az átutalás dátumát és az összeget a számla pénznemében.&amp;Amikor a befizetések elérik a számla végösszegét, a számla fizetetté válik; a túlfizetés negatív kifizetetlen összegként marad meg.</translation>
+        </message>
+    </context>
+    <context>
         <name>CancelInvoice</name>
         <message>
             <source>Can't create Cancel Invoice.</source>
@@ -2077,6 +2194,10 @@ Folytatja?</translation>
     <context>
         <name>OrderList</name>
         <message>
+            <source>Select an order/invoice to add bank item.</source>
+            <translation>Válasszon ki egy rendelést/számlát a banki tétel felvételéhez.</translation>
+        </message>
+        <message>
             <source>New Order</source>
             <translation>Új rendelés</translation>
         </message>
@@ -2553,6 +2674,41 @@ Folytatja?</translation>
         <message>
             <source>Partner szerkesztese:</source>
             <translation>Partner szerkesztése:</translation>
+        </message>
+    </context>
+    <context>
+        <name>PaymentCommands</name>
+        <message>
+            <source>Not a date: %s</source>
+            <translation>Nem dátum: %s</translation>
+        </message>
+        <message>
+            <source>%s: paid</source>
+            <translation>%s: fizetve</translation>
+        </message>
+        <message>
+            <source>%s: unpaid %s %s</source>
+            <translation>%s: kifizetetlen %s %s</translation>
+        </message>
+        <message>
+            <source>There are no bank items to this invoice.</source>
+            <translation>Ehhez a számlához nincs banki tétel.</translation>
+        </message>
+        <message>
+            <source>Record No</source>
+            <translation>Tételszám</translation>
+        </message>
+        <message>
+            <source>Transfer Date</source>
+            <translation>Átutalás dátuma</translation>
+        </message>
+        <message>
+            <source>Paid</source>
+            <translation>Fizetve</translation>
+        </message>
+        <message>
+            <source>Comment</source>
+            <translation>Megjegyzés</translation>
         </message>
     </context>
     <context>

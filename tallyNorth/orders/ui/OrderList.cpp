@@ -1,5 +1,6 @@
 #include "OrderList.h"
 
+#include "BankitemEdit.h"
 #include "OrderEditCommands.h"
 #include "OrderFilter.h"
 #include "OrderListModel.h"
@@ -56,8 +57,8 @@ OrderList::OrderList(QWidget* parent)
     auto* previewButton = new QPushButton(tr("Print Preview"), this);
     auto* printButton = new QPushButton(tr("Print"), this);
 
-    // Bank items and cheques come with the payments; until then their entries stay disabled.
-    m_more->addAction(tr("Add bank item"))->setEnabled(false);
+    // Cheques come with their own list; until then their entry stays disabled.
+    m_more->addAction(tr("Add bank item"), this, &OrderList::addBankItem);
     m_more->addAction(tr("Sztorno"), this, &OrderList::cancelInvoice);
     m_more->addAction(tr("Csekk nyomtatasa"))->setEnabled(false);
     QAction* clone = m_more->addAction(tr("Clone Order"), this, &OrderList::cloneOrder);
@@ -271,6 +272,20 @@ void OrderList::cancelInvoice()
     m_view->clearSelection();
     reload();
     selectId(newId);
+}
+
+void OrderList::addBankItem()
+{
+    const QList<qint64> ids = selectedIds();
+    if (ids.size() != 1) {
+        interaction().exclamation(tr("Select an order/invoice to add bank item."));
+        return;
+    }
+    // The unpaid total and the paid state change: the unpaid kinds must see it at once.
+    if (BankitemEdit::addTo(ids.first(), this, interaction())) {
+        reload();
+        selectId(ids.first());
+    }
 }
 
 void OrderList::printOrders()

@@ -41,6 +41,7 @@ public:
     void deleteOrders();
     void cloneOrder();
     void cancelInvoice();
+    void addBankItem();
     void printOrders();
     void previewOrder();
     void sortByCreation();
