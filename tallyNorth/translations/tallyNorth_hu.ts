@@ -54,6 +54,22 @@
     <context>
         <name>CancelInvoice</name>
         <message>
+            <source>Date Shipped field must have a value.</source>
+            <translation>A teljesítés dátumát meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Date Payment Due field must have a value.</source>
+            <translation>A fizetési határidőt meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Payment Method field is required.</source>
+            <translation>A fizetési módot meg kell adni.</translation>
+        </message>
+        <message>
+            <source>The payment due date can not be before the shipping date.</source>
+            <translation>A fizetési határidő nem lehet korábbi a teljesítés dátumánál.</translation>
+        </message>
+        <message>
             <source>Can't create Cancel Invoice.</source>
             <translation>A sztornó számlát nem sikerült létrehozni.</translation>
         </message>
@@ -727,6 +743,69 @@
         </message>
     </context>
     <context>
+        <name>InvoiceCancel</name>
+        <message>
+            <source>Cancel the Invoice</source>
+            <translation>A számla sztornózása</translation>
+        </message>
+        <message>
+            <source>Original Invoice Data</source>
+            <translation>Az eredeti számla adatai</translation>
+        </message>
+        <message>
+            <source>Partner</source>
+            <translation>Partner</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés</translation>
+        </message>
+        <message>
+            <source>By Items</source>
+            <translation>Tételenként</translation>
+        </message>
+        <message>
+            <source>Date Created</source>
+            <translation>Kelt</translation>
+        </message>
+        <message>
+            <source>Date Payment Due</source>
+            <translation>Fizetési határidő</translation>
+        </message>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Total Net</source>
+            <translation>Nettó összesen</translation>
+        </message>
+        <message>
+            <source>Total VAT</source>
+            <translation>ÁFA összesen</translation>
+        </message>
+        <message>
+            <source>Total Gross</source>
+            <translation>Bruttó összesen</translation>
+        </message>
+        <message>
+            <source>Cancel Invoice Data</source>
+            <translation>A sztornó számla adatai</translation>
+        </message>
+        <message>
+            <source>The cancelling invoice repeats this invoice with negative quantities and totals.&amp;It gets its number when it is printed; the invoice is marked as cancelled then.</source>
+            <translation>A sztornó számla negatív mennyiségekkel és összegekkel ismétli meg ezt a számlát.&amp;Sorszámát a nyomtatáskor kapja; a számla ekkor válik sztornózottá.</translation>
+        </message>
+        <message>
+            <source>Invalid date.</source>
+            <translation>Érvénytelen dátum.</translation>
+        </message>
+    </context>
+    <context>
         <name>InvoiceIssue</name>
         <message>
             <source>Database error:&amp;</source>
@@ -844,6 +923,10 @@
     </context>
     <context>
         <name>LabelTranslations</name>
+        <message>
+            <source>Unable to save data.</source>
+            <translation>Az adatok mentése nem sikerült.</translation>
+        </message>
         <message>
             <source>Unable to load invoice label translations.</source>
             <translation>Nem sikerült betölteni a számlafeliratok fordításait.</translation>
@@ -2072,6 +2155,37 @@ Folytatja?</translation>
         <message>
             <source>Total Gross</source>
             <translation>Bruttó összesen</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderLabelTranslationBrowse</name>
+        <message>
+            <source>Invoice Label Translations</source>
+            <translation>Számlafeliratok fordításai</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Every label is printed in Hungarian; the partner&apos;s language, when it has a text here, is printed beside it.</source>
+            <translation>Minden felirat magyarul kerül a számlára; a partner nyelvén, ha itt van szövege, mellette is.</translation>
+        </message>
+        <message>
+            <source>Key</source>
+            <translation>Kulcs</translation>
+        </message>
+        <message>
+            <source>Select a row to edit.</source>
+            <translation>Válasszon ki egy sort a szerkesztéshez.</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Saving data</source>
+            <translation>Adatok mentése</translation>
         </message>
     </context>
     <context>
