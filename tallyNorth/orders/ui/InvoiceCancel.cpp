@@ -42,6 +42,7 @@ InvoiceCancel::InvoiceCancel(const Order& original, Interaction& interaction, QW
     : QDialog(parent), m_interaction(interaction)
 {
     setWindowTitle(tr("Cancel the Invoice"));
+    setMinimumWidth(400);
 
     auto* originalBox = new QGroupBox(tr("Original Invoice Data"));
     auto* shown = new QFormLayout(originalBox);
