@@ -6,8 +6,8 @@
 #include "base/ui/GuiInteraction.h"
 #include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "orders/OrderFill.h"
-#include "orders/ui/OrderEdit.h"
 #include "orders/ui/InvoiceCancel.h"
+#include "orders/ui/OrderEdit.h"
 #include "orders/ui/OrderItemEditDlg.h"
 
 #include <QApplication>
