@@ -4,6 +4,7 @@
 
 #include "Columns.h"
 #include "base/SqlStatement.h"
+#include "base/SqlTransaction.h"
 #include "base/SqlValue.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,49 @@ Result LabelTranslations::load()
             continue;
         set(st.value(1).toString(), int(ToInteger(st.value(0))), st.value(2).toString());
     }
+    return Result::success();
+}
+
+Result LabelTranslations::saveForeign() const
+{
+    const auto failed = [] {
+        return QCoreApplication::translate("LabelTranslations", "Unable to save data.");
+    };
+    SqlTransaction transaction;
+    SqlStatement clear(Sql("delete from %1 where %2 <> ?",
+                           {Tbl::ORDERLABELTRANSLATION, Col::ORDERLABELTRANSLATION_LANG_ID}),
+                       {Hungarian});
+    if (!clear.exec())
+        return clear.failure(failed());
+    for (auto it = m_texts.cbegin(); it != m_texts.cend(); ++it) {
+        for (auto text = it.value().cbegin(); text != it.value().cend(); ++text) {
+            if (text.key() == Hungarian || text.value().isEmpty())
+                continue;
+            SqlStatement insert(
+                Sql("insert into %1 (%2, %3, %4) values (?, ?, ?)",
+                    {Tbl::ORDERLABELTRANSLATION, Col::ORDERLABELTRANSLATION_LANG_ID,
+                     Col::ORDERLABELTRANSLATION_KEY, Col::ORDERLABELTRANSLATION_TEXT}),
+                {text.key(), it.key(), text.value()});
+            if (!insert.exec())
+                return insert.failure(failed());
+        }
+    }
+    if (!transaction.commit())
+        return Result::failure(failed() + u'&' + transaction.errorText());
+    return Result::success();
+}
+
+Result LabelTranslations::languages(QList<std::pair<int, QString>>& out)
+{
+    out.clear();
+    SqlStatement st(Sql("select %1, %2 from %3 where %1 <> ? order by %1",
+                        {Col::LANG_ID, Col::LANG_NAME, Tbl::LANG}),
+                    {Hungarian});
+    if (!st.exec())
+        return st.failure(QCoreApplication::translate(
+            "LabelTranslations", "Unable to load invoice label translations."));
+    while (st.next())
+        out.append({int(ToInteger(st.value(0))), st.value(1).toString()});
     return Result::success();
 }
 

@@ -36,6 +36,12 @@ public:
     QStringList keys() const { return m_texts.keys(); }
     void set(const QString& key, int language, const QString& text);
 
+    // Replaces every foreign row of the database by this store's non-empty foreign texts, in one
+    // transaction. The Hungarian rows are the shipped ones and are never written here.
+    Result saveForeign() const;
+    // The invoice languages of the language table besides Hungarian: id and name, by id.
+    static Result languages(QList<std::pair<int, QString>>& out);
+
     // The labels of the open company; to be reloaded when a database is opened and after the
     // label editor saves.
     static LabelTranslations& current();

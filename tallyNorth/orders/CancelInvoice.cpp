@@ -92,6 +92,19 @@ Result CancelInvoice::check(qint64 orderId)
     return Result::success();
 }
 
+Result CancelInvoice::checkData(const CancelData& data, bool byItems)
+{
+    if (!byItems && !data.dateShipped.isValid())
+        return Result::failure(tr("Date Shipped field must have a value."));
+    if (!data.datePaymentDue.isValid())
+        return Result::failure(tr("Date Payment Due field must have a value."));
+    if (!data.paymentMethodId)
+        return Result::failure(tr("Payment Method field is required."));
+    if (data.dateShipped.isValid() && data.datePaymentDue < data.dateShipped)
+        return Result::failure(tr("The payment due date can not be before the shipping date."));
+    return Result::success();
+}
+
 Result CancelInvoice::create(qint64 orderId, const CancelData& data, qint64& newId,
                              const QDate& today)
 {

@@ -25,6 +25,8 @@ class CancelInvoice
 public:
     // Whether the order is an issued invoice that can still be cancelled.
     static Result check(qint64 orderId);
+    // What the "Cancel the Invoice" window may accept; byItems keeps each item's own date.
+    static Result checkData(const CancelData& data, bool byItems);
     // The cancelling order with its items, in one transaction; newId receives its id.
     static Result create(qint64 orderId, const CancelData& data, qint64& newId,
                          const QDate& today = QDate::currentDate());

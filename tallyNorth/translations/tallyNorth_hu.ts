@@ -97,11 +97,11 @@
             <translation>A Fizetett összeg mezőt ki kell tölteni.</translation>
         </message>
         <message>
-            <source>&quot;%s&quot; is not an amount. Type digits, with a decimal comma or point.</source>
+            <source>"%s" is not an amount. Type digits, with a decimal comma or point.</source>
             <translation>„%s” nem összeg. Számjegyeket írjon, tizedesvesszővel vagy -ponttal.</translation>
         </message>
         <message>
-            <source>Bankitem Transfer Date mustn&apos;t not be empty.</source>
+            <source>Bankitem Transfer Date mustn't not be empty.</source>
             <translation>Az átutalás dátuma nem lehet üres.</translation>
         </message>
         <message>
@@ -117,7 +117,7 @@
             <translation>Adatbázishiba:&amp;</translation>
         </message>
         <message>
-            <source>Can&apos;t create bank item in database.</source>
+            <source>Can't create bank item in database.</source>
             <translation>A banki tétel nem hozható létre az adatbázisban.</translation>
         </message>
     </context>
@@ -156,7 +156,7 @@
             <translation>Az átutalás dátuma nem érvényes dátum.</translation>
         </message>
         <message>
-            <source>Bankitem Transfer Date mustn&apos;t not be empty.</source>
+            <source>Bankitem Transfer Date mustn't not be empty.</source>
             <translation>Az átutalás dátuma nem lehet üres.</translation>
         </message>
         <message>
@@ -164,7 +164,7 @@
             <translation>Ehhez a számlához nincs banki tétel.</translation>
         </message>
         <message>
-            <source>Record a payment received for this invoice, as it stands on the bank statement: its record number, the date of the transfer and the amount in the invoice&apos;s currency.&amp;When the payments reach the invoice&apos;s total the invoice becomes paid; an overpayment stays as a negative unpaid total.</source>
+            <source>Record a payment received for this invoice, as it stands on the bank statement: its record number, the date of the transfer and the amount in the invoice's currency.&amp;When the payments reach the invoice's total the invoice becomes paid; an overpayment stays as a negative unpaid total.</source>
             <translation>Rögzítse a számlára érkezett befizetést a bankszámlakivonat szerint: a tétel számát, az átutalás dátumát és az összeget a számla pénznemében.&amp;Amikor a befizetések elérik a számla végösszegét, a számla fizetetté válik; a túlfizetés negatív kifizetetlen összegként marad meg.</translation>
         </message>
     </context>
@@ -209,6 +209,22 @@
         <message>
             <source>This is the cancel invoice of No %s</source>
             <translation>Ez a(z) %s sorszámú számla sztornó számlája</translation>
+        </message>
+        <message>
+            <source>Date Shipped field must have a value.</source>
+            <translation>A teljesítés dátumát meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Date Payment Due field must have a value.</source>
+            <translation>A fizetési határidőt meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Payment Method field is required.</source>
+            <translation>A fizetési módot meg kell adni.</translation>
+        </message>
+        <message>
+            <source>The payment due date can not be before the shipping date.</source>
+            <translation>A fizetési határidő nem lehet korábbi a teljesítés dátumánál.</translation>
         </message>
     </context>
     <context>
@@ -844,6 +860,69 @@
         </message>
     </context>
     <context>
+        <name>InvoiceCancel</name>
+        <message>
+            <source>Cancel the Invoice</source>
+            <translation>A számla sztornózása</translation>
+        </message>
+        <message>
+            <source>Original Invoice Data</source>
+            <translation>Az eredeti számla adatai</translation>
+        </message>
+        <message>
+            <source>Partner</source>
+            <translation>Partner</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés</translation>
+        </message>
+        <message>
+            <source>By Items</source>
+            <translation>Tételenként</translation>
+        </message>
+        <message>
+            <source>Date Created</source>
+            <translation>Kelt</translation>
+        </message>
+        <message>
+            <source>Date Payment Due</source>
+            <translation>Fizetési határidő</translation>
+        </message>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Total Net</source>
+            <translation>Nettó összesen</translation>
+        </message>
+        <message>
+            <source>Total VAT</source>
+            <translation>ÁFA összesen</translation>
+        </message>
+        <message>
+            <source>Total Gross</source>
+            <translation>Bruttó összesen</translation>
+        </message>
+        <message>
+            <source>Cancel Invoice Data</source>
+            <translation>A sztornó számla adatai</translation>
+        </message>
+        <message>
+            <source>The cancelling invoice repeats this invoice with negative quantities and totals.&amp;It gets its number when it is printed; the invoice is marked as cancelled then.</source>
+            <translation>A sztornó számla negatív mennyiségekkel és összegekkel ismétli meg ezt a számlát.&amp;Sorszámát a nyomtatáskor kapja; a számla ekkor válik sztornózottá.</translation>
+        </message>
+        <message>
+            <source>Invalid date.</source>
+            <translation>Érvénytelen dátum.</translation>
+        </message>
+    </context>
+    <context>
         <name>InvoiceIssue</name>
         <message>
             <source>Database error:&amp;</source>
@@ -964,6 +1043,10 @@
         <message>
             <source>Unable to load invoice label translations.</source>
             <translation>Nem sikerült betölteni a számlafeliratok fordításait.</translation>
+        </message>
+        <message>
+            <source>Unable to save data.</source>
+            <translation>Az adatok mentése nem sikerült.</translation>
         </message>
     </context>
     <context>
@@ -2189,6 +2272,37 @@ Folytatja?</translation>
         <message>
             <source>Total Gross</source>
             <translation>Bruttó összesen</translation>
+        </message>
+    </context>
+    <context>
+        <name>OrderLabelTranslationBrowse</name>
+        <message>
+            <source>Invoice Label Translations</source>
+            <translation>Számlafeliratok fordításai</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Every label is printed in Hungarian; the partner's language, when it has a text here, is printed beside it.</source>
+            <translation>Minden felirat magyarul kerül a számlára; a partner nyelvén, ha itt van szövege, mellette is.</translation>
+        </message>
+        <message>
+            <source>Key</source>
+            <translation>Kulcs</translation>
+        </message>
+        <message>
+            <source>Select a row to edit.</source>
+            <translation>Válasszon ki egy sort a szerkesztéshez.</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Saving data</source>
+            <translation>Adatok mentése</translation>
         </message>
     </context>
     <context>

@@ -1,6 +1,6 @@
 // The shell's widgets: Enter as Tab in edit dialogs, the date field, and the dialogs of start-up
 // (the company chooser can add a company, the check list reports its ticks, the SQL error dialog
-// answers Retry or Cancel).
+// answers Retry or Cancel, the copies question gives its number).
 #include "ModalDriver.h"
 #include "TestData.h"
 
@@ -11,6 +11,7 @@
 #include "base/ui/CheckItemsDlg.h"
 #include "base/ui/DateEdit.h"
 #include "base/ui/EnterLikeTab.h"
+#include "base/ui/GuiInteraction.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
@@ -88,6 +89,8 @@ private Q_SLOTS:
     void checkItemsReportsTicks();
     void sqlErrorRetryOrCancel_data();
     void sqlErrorRetryOrCancel();
+    void copiesQuestion_data();
+    void copiesQuestion();
 
 private:
     template <class T = QWidget> T* field(const QString& name) const
@@ -265,6 +268,45 @@ void TestShellWidgets::sqlErrorRetryOrCancel()
     }});
     QCOMPARE(SqlErrorDlg::askRetry("no such index: X", "drop index X", nullptr), retry);
     QCOMPARE(statement, "drop index X");
+}
+
+void TestShellWidgets::copiesQuestion_data()
+{
+    QTest::addColumn<int>("proposed");
+    QTest::addColumn<QString>("typed"); // empty: the proposal is taken as it is
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<int>("answer"); // -1: nothing, the printing is not started
+    AddRow("proposal taken", 2, QString(), true, 2);
+    AddRow("typed over", 2, QString("5"), true, 5);
+    AddRow("cancelled", 2, QString("5"), false, -1);
+}
+
+void TestShellWidgets::copiesQuestion()
+{
+    QFETCH(int, proposed);
+    QFETCH(QString, typed);
+    QFETCH(bool, ok);
+    QFETCH(int, answer);
+    GuiInteraction gui;
+    QString title;
+    int shown = 0;
+    ModalDriver driver({[&](QWidget* dlg) {
+        title = dlg->windowTitle();
+        auto* number = Child<QSpinBox>(dlg, "m_number");
+        shown = number->value();
+        if (!typed.isEmpty()) {
+            number->selectAll();
+            QTest::keyClicks(number, typed);
+        }
+        if (ok)
+            static_cast<QDialog*>(dlg)->accept();
+        else
+            static_cast<QDialog*>(dlg)->reject();
+    }});
+    QCOMPARE(gui.askNumber("Invoice copies to print", proposed).value_or(-1), answer);
+    QVERIFY(driver.done());
+    QCOMPARE(title, "Invoice copies to print");
+    QCOMPARE(shown, proposed);
 }
 
 QTEST_MAIN(TestShellWidgets)

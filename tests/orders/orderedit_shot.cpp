@@ -1,10 +1,12 @@
 // Shows the order editor (or its item dialog) in Hungarian on a temporary company with a sample
-// order, for looking at the windows: orderedit_shot [TAB | item].
+// order, for looking at the windows: orderedit_shot [TAB | item | cancel | labels].
 #include "TestCompany.h"
 
 #include "app/Language.h"
 #include "base/ui/GuiInteraction.h"
+#include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "orders/OrderFill.h"
+#include "orders/ui/InvoiceCancel.h"
 #include "orders/ui/OrderEdit.h"
 #include "orders/ui/OrderItemEditDlg.h"
 
@@ -36,6 +38,21 @@ int main(int argc, char* argv[])
             return 1;
         OrderItemEditDlg dlg(order, order.items.first(), interaction);
         dlg.show();
+        return app.exec();
+    }
+    if (what == QLatin1String("cancel")) {
+        OrderFill::recalcTotals(order);
+        order.invoiceNoStr = QStringLiteral("2026/00007");
+        order.datePaymentDue = order.dateShipped.addDays(8);
+        InvoiceCancel window(order, interaction);
+        window.show();
+        return app.exec();
+    }
+    if (what == QLatin1String("labels")) {
+        OrderLabelTranslationBrowse browse(interaction);
+        if (!browse.load())
+            return 1;
+        browse.show();
         return app.exec();
     }
     OrderEdit edit(order, interaction);

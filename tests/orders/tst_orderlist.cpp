@@ -281,20 +281,6 @@ private Q_SLOTS:
         QCOMPARE(OrderList::cancelRefusal(ids[which]).message(), message);
     }
 
-    void cancelCreatesTheCancelInvoice()
-    {
-        m_list->selectId(m_invoice);
-        m_ask.yesNoAnswers << true;
-        m_list->cancelInvoice();
-        QCOMPARE(m_ask.questions, QStringList{"Create the cancel invoice of No A-3?"});
-        QCOMPARE(m_ask.lastMessage(), QString());
-        QCOMPARE(m_list->model()->rowCount(), 6);
-        const OrderListRow& made = m_list->model()->row(0);
-        QCOMPARE(made.kind.text, "Unprinted");
-        QCOMPARE(made.totalGross, -1234567.5);
-        QCOMPARE(m_list->selectedIds(), QList<qint64>{made.id});
-    }
-
 private:
     std::optional<TestCompany> m_company;
     std::optional<OrderList> m_list;

@@ -8,6 +8,7 @@
 #include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
 #include "documents/ui/InvoicePrinting.h"
+#include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "documents/ui/OrderListPrinting.h"
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
@@ -28,6 +29,7 @@ void RegisterCommands(MainWindow& window)
 {
     RegisterFileCommands(window);
     RegisterMasterdataCommands(window);
+    RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);
     RegisterOrderList(window);
 }

@@ -4,10 +4,14 @@
 #include "base/ProgramInfo.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
 
 class DialogProgress : public Progress
 {
@@ -112,6 +116,33 @@ bool GuiInteraction::askYesNo(const QString& text)
                     QMessageBox::Yes | QMessageBox::No, topWindow());
     KeepTitleVisible(box);
     return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<int> GuiInteraction::askNumber(const QString& title, int value)
+{
+    QDialog dialog(topWindow());
+    dialog.setObjectName(QStringLiteral("askNumber"));
+    dialog.setWindowTitle(title);
+    auto* label = new QLabel(title);
+    auto* number = new QSpinBox;
+    number->setObjectName(QStringLiteral("m_number"));
+    // Copies are printed one by one; more than a few dozen is a typing slip.
+    number->setRange(1, 99);
+    number->setValue(qBound(1, value, 99));
+    number->selectAll();
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(label);
+    layout->addWidget(number);
+    layout->addWidget(buttons);
+    label->setBuddy(number);
+    number->setFocus();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    number->interpretText();
+    return number->value();
 }
 
 Interaction::Choice GuiInteraction::choose3(const QString& text, const QString& first,

@@ -23,6 +23,7 @@ public:
                                           const QString& checkCaption,
                                           const QStringList& items) override;
     std::unique_ptr<Progress> progress(const QString& text) override;
+    std::optional<int> askNumber(const QString& title, int value) override;
 
     // The shell installs these at start-up: message texts are formatted by the documents layer
     // and the SQL error window belongs to the shell, both above this folder. Without them a

@@ -1,6 +1,7 @@
 #include "OrderList.h"
 
 #include "BankitemEdit.h"
+#include "InvoiceCancel.h"
 #include "OrderEditCommands.h"
 #include "OrderFilter.h"
 #include "OrderListModel.h"
@@ -261,17 +262,12 @@ void OrderList::cancelInvoice()
         interaction().exclamation(r.message());
         return;
     }
-    const QString number = m_model->row(m_model->rowOf(ids.first())).invoiceNoStr;
-    if (!interaction().askYesNo(FillArgs(tr("Create the cancel invoice of No %s?"), {number})))
+    const std::optional<qint64> newId = InvoiceCancel::run(ids.first(), interaction(), this);
+    if (!newId)
         return;
-    qint64 newId = 0;
-    if (Result r = CancelInvoice::create(ids.first(), {}, newId); !r) {
-        interaction().error(r.message());
-        return;
-    }
     m_view->clearSelection();
     reload();
-    selectId(newId);
+    selectId(*newId);
 }
 
 void OrderList::addBankItem()

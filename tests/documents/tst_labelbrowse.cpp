@@ -1,0 +1,145 @@
+// "Invoice Label Translations" on the offscreen platform: one column per language, only the
+// foreign texts are saved, a cleared text loses its row, and the next invoice sees the saved
+// labels.
+#include "ModalDriver.h"
+#include "ScriptedInteraction.h"
+#include "TestCompany.h"
+#include "TestData.h"
+
+#include "documents/LabelTranslations.h"
+#include "documents/ui/OrderLabelTranslationBrowse.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int RowOf(QTableWidget* table, const QString& key)
+{
+    for (int row = 0; row < table->rowCount(); ++row) {
+        if (table->item(row, 0)->text() == key)
+            return row;
+    }
+    return -1;
+}
+
+QString Stored(int language, const QString& key)
+{
+    return QueryText(u"select group_concat(ORDERLABELTRANSLATION_TEXT, '|') from "
+                     "ORDERLABELTRANSLATION where ORDERLABELTRANSLATION_LANG_ID = ? and "
+                     "ORDERLABELTRANSLATION_KEY = ?"_s,
+                     {language, key});
+}
+
+} // namespace
+
+class TestLabelBrowse : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(m_company.emplace().isValid());
+        m_ask = ScriptedInteraction();
+        QVERIFY(LabelTranslations::current().load());
+    }
+    void cleanup() { m_company.reset(); }
+
+    void columnsPerLanguage()
+    {
+        // A language added to the table gets its own column.
+        QVERIFY(ExecSql(u"insert into LANG (LANG_ID, LANG_CODE, LANG_NAME) values (3, 'FR', "
+                        "'Français')"_s));
+        OrderLabelTranslationBrowse browse(m_ask);
+        QVERIFY(browse.load());
+        QTableWidget* table = browse.table();
+        QStringList headers;
+        for (int c = 0; c < table->columnCount(); ++c)
+            headers << table->horizontalHeaderItem(c)->text();
+        QCOMPARE(headers.mid(1), QStringList({"Magyar", "Angol", u"Német"_s, u"Français"_s}));
+        const int row = RowOf(table, u"TR_STAT_CODE"_s);
+        QVERIFY(row >= 0);
+        QCOMPARE(table->item(row, 1)->text(), "VTSZ/SZJ");
+        QCOMPARE(table->item(row, 3)->text(), QString());
+    }
+
+    // The Hungarian text is shown, never saved; an emptied text loses its row.
+    void savesOnlyForeignTexts()
+    {
+        OrderLabelTranslationBrowse browse(m_ask);
+        QVERIFY(browse.load());
+        const int stat = RowOf(browse.table(), u"TR_STAT_CODE"_s);
+        const int invoice = RowOf(browse.table(), u"TR_INVOICE"_s);
+        browse.setRowTexts(stat, {u"ignored"_s, u"Stat. Code"_s, u"Zolltarifnummer"_s});
+        browse.setRowTexts(invoice, {u"Számla"_s, QString(), u"Rechnung"_s});
+        browse.accept();
+        QCOMPARE(m_ask.lastMessage(), QString());
+        QCOMPARE(browse.result(), int(QDialog::Accepted));
+        QCOMPARE(Stored(0, u"TR_STAT_CODE"_s), "VTSZ/SZJ");
+        QCOMPARE(Stored(2, u"TR_STAT_CODE"_s), "Zolltarifnummer");
+        QCOMPARE(Stored(1, u"TR_INVOICE"_s), QString());
+        QCOMPARE(Stored(2, u"TR_INVOICE"_s), "Rechnung");
+        // Untouched rows are written back once, not twice.
+        QCOMPARE(Stored(1, u"TR_CUSTOMER"_s), "Customer");
+        // The next invoice is rendered with the saved labels.
+        QCOMPARE(LabelTranslations::current().bilingual(u"TR_STAT_CODE"_s, 2),
+                 "Zolltarifnummer / VTSZ/SZJ");
+        QCOMPARE(LabelTranslations::current().bilingual(u"TR_INVOICE"_s, 1), u"Számla"_s);
+    }
+
+    void cancelKeepsTheLabels()
+    {
+        OrderLabelTranslationBrowse browse(m_ask);
+        QVERIFY(browse.load());
+        browse.setRowTexts(RowOf(browse.table(), u"TR_INVOICE"_s), {QString(), u"Bill"_s});
+        browse.reject();
+        QCOMPARE(Stored(1, u"TR_INVOICE"_s), "Invoice");
+        QCOMPARE(LabelTranslations::current().get(u"TR_INVOICE"_s, 1), "Invoice");
+    }
+
+    void editDialog()
+    {
+        OrderLabelTranslationBrowse browse(m_ask);
+        QVERIFY(browse.load());
+        browse.table()->clearSelection();
+        browse.editRow();
+        QCOMPARE(m_ask.lastMessage(), "Select a row to edit.");
+
+        const int row = RowOf(browse.table(), u"TR_RATE"_s);
+        browse.table()->selectRow(row);
+        bool hungarianLocked = false;
+        ModalDriver driver({[&](QWidget* dlg) {
+            hungarianLocked = Child<QLineEdit>(dlg, "LANG_0")->isReadOnly();
+            Child<QLineEdit>(dlg, "LANG_1")->setText(u"Exchange Rate"_s);
+            static_cast<QDialog*>(dlg)->accept();
+        }});
+        browse.editRow();
+        QVERIFY(driver.done());
+        QVERIFY(hungarianLocked);
+        QCOMPARE(browse.table()->item(row, 2)->text(), "Exchange Rate");
+        QCOMPARE(browse.labels().get(u"TR_RATE"_s, 1), "Exchange Rate");
+    }
+
+    void saveFailureIsShown()
+    {
+        OrderLabelTranslationBrowse browse(m_ask);
+        QVERIFY(browse.load());
+        browse.setRowTexts(RowOf(browse.table(), u"TR_RATE"_s), {QString(), u"Exchange"_s});
+        QVERIFY(ExecSql(u"drop table ORDERLABELTRANSLATION"_s));
+        browse.accept();
+        QVERIFY(m_ask.lastMessage().startsWith("Unable to save data."));
+        QVERIFY(browse.result() != int(QDialog::Accepted));
+        QCOMPARE(LabelTranslations::current().get(u"TR_RATE"_s, 1), "Rate");
+    }
+
+private:
+    std::optional<TestCompany> m_company;
+    ScriptedInteraction m_ask;
+};
+
+QTEST_MAIN(TestLabelBrowse)
+#include "tst_labelbrowse.moc"
