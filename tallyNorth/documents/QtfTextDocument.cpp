@@ -531,7 +531,7 @@ void Builder::table(QTextCursor& cursor, const Block& block, double width, doubl
         return;
     const TableFormat& f = t.format;
     QTextTableFormat tf;
-    tf.setBorderCollapse(true);
+    tf.setBorderCollapse(!m_layout.ownTableLines);
     tf.setBorder(0);
     tf.setCellPadding(0);
     tf.setCellSpacing(0);
@@ -584,10 +584,13 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     cf.setVerticalAlignment(valign == VAlign::Top      ? QTextCharFormat::AlignTop
                             : valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
                                                        : QTextCharFormat::AlignMiddle);
-    cf.setLeftPadding(units(f.margin[0]));
-    cf.setTopPadding(units(f.margin[1]));
-    cf.setRightPadding(units(f.margin[2]));
-    cf.setBottomPadding(units(f.margin[3]));
+    QtfCellLines lines;
+    if (m_layout.ownTableLines)
+        lines = CellLines(t, row, col);
+    cf.setLeftPadding(units(f.margin[0] + lines.room(0)));
+    cf.setTopPadding(units(f.margin[1] + lines.room(1)));
+    cf.setRightPadding(units(f.margin[2] + lines.room(2)));
+    cf.setBottomPadding(units(f.margin[3] + lines.room(3)));
     // White cells on the page's white paper need no painting.
     if (f.background.alpha() > 0 && !m_layout.topAlignedCells &&
         (f.background != Qt::white || m_depth > 0 || m_layout.units != QtfUnits::Dots))
@@ -603,7 +606,7 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     // Every property a cell's format holds more slows Qt's table layout down: sides without a
     // line get none, and a document only measured needs no colours.
     for (int s = 0; s < 4; ++s) {
-        if (width[s] <= 0)
+        if (width[s] <= 0 || m_layout.ownTableLines)
             continue;
         static constexpr QTextFormat::Property kWidth[4] = {
             QTextFormat::TableCellLeftBorder, QTextFormat::TableCellTopBorder,
@@ -770,6 +773,96 @@ void PaintRuler(QPainter& painter, const QTextBlock& block, const QRectF& rect)
 }
 
 } // namespace
+
+QtfCellLines CellLines(const Qtf::Table& t, int row, int col)
+{
+    const CellFormat& f = t.rows[row][col].format;
+    const TableFormat& tf = t.format;
+    const int rows = int(t.rows.size());
+    const int cols = t.columns();
+    const int right = col + f.hspan + 1;
+    const int below = row + f.vspan + 1;
+    QtfCellLines out;
+    out.edge[0] = col == 0;
+    out.edge[1] = row == 0;
+    out.edge[2] = right >= cols;
+    out.edge[3] = below >= rows;
+    // The neighbour across each side, for the width of a shared line.
+    const Cell* next[4] = {
+        out.edge[0] ? nullptr : &t.rows[row][col - 1],
+        out.edge[1] ? nullptr : &t.rows[row - 1][col],
+        out.edge[2] ? nullptr : &t.rows[row][std::min(right, cols - 1)],
+        out.edge[3] ? nullptr : &t.rows[std::min(below, rows - 1)][col],
+    };
+    for (int s = 0; s < 4; ++s) {
+        const int line = out.edge[s] ? tf.frame : tf.grid;
+        const int own = f.border[s];
+        const int other = next[s] ? next[s]->format.border[(s + 2) % 4] : 0;
+        out.width[s] = std::max({line, own, other});
+        out.color[s] = own > line && own >= other ? f.borderColor
+                       : other > line             ? next[s]->format.borderColor
+                       : out.edge[s]              ? tf.frameColor
+                                                  : tf.gridColor;
+    }
+    return out;
+}
+
+void PaintQtfTableLines(QPainter& painter, const Qtf::Table& t, double left, double right,
+                        double top, const QList<double>& rowBottoms)
+{
+    const int rows = std::min(int(t.rows.size()), int(rowBottoms.size()));
+    const int cols = t.columns();
+    if (rows == 0 || cols == 0)
+        return;
+    QList<double> x(cols + 1);
+    int share = 0;
+    for (int c = 0; c <= cols; ++c) {
+        x[c] = left + (right - left) * share / 10000.0;
+        if (c < cols)
+            share += t.format.widths.value(c);
+    }
+    x[cols] = right;
+    const auto rowTop = [&](int r) { return r == 0 ? top : rowBottoms.at(r - 1); };
+    // Every cell draws its top and left line, the last row and column their bottom and right.
+    std::vector<std::pair<QRgb, QRectF>> lines;
+    for (int r = 0; r < rows; ++r) {
+        for (int c = 0; c < cols; ++c) {
+            const Cell& cell = t.rows[r][c];
+            if (cell.covered)
+                continue;
+            const QtfCellLines l = CellLines(t, r, c);
+            const double x0 = x[c];
+            const double x1 = x[std::min(c + cell.format.hspan + 1, cols)];
+            const double y0 = rowTop(r);
+            const double y1 = rowBottoms.at(std::min(r + cell.format.vspan, rows - 1));
+            const auto add = [&](int side, const QRectF& rect) {
+                if (l.width[side] > 0)
+                    lines.emplace_back(l.color[side].rgba(), rect);
+            };
+            const double w[4] = {l.width[0], l.width[1], l.width[2], l.width[3]};
+            add(0, l.edge[0] ? QRectF(x0, y0, w[0], y1 - y0)
+                             : QRectF(x0 - w[0] / 2, y0, w[0], y1 - y0));
+            add(1, l.edge[1] ? QRectF(x0, y0, x1 - x0, w[1])
+                             : QRectF(x0, y0 - w[1] / 2, x1 - x0, w[1]));
+            if (l.edge[2])
+                add(2, QRectF(x1 - w[2], y0, w[2], y1 - y0));
+            if (l.edge[3] || r + cell.format.vspan >= rows - 1)
+                add(3, QRectF(x0, y1 - w[3], x1 - x0, w[3]));
+        }
+    }
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    QList<QRectF> rects;
+    for (size_t i = 0; i < lines.size();) {
+        const QRgb color = lines[i].first;
+        rects.clear();
+        for (; i < lines.size() && lines[i].first == color; ++i)
+            rects.append(lines[i].second);
+        painter.setBrush(QColor::fromRgba(color));
+        painter.drawRects(rects.constData(), int(rects.size()));
+    }
+    painter.restore();
+}
 
 double QtfUnitsPerDot(QtfUnits units)
 {
