@@ -182,6 +182,8 @@ private:
     void setBlockCharFormat(QTextCursor& cursor, const QTextCharFormat& format);
     void applyMinHeights();
     double units(double dots) const { return dots * m_unit; }
+    // The caller draws the lines of top-level tables only.
+    bool ownLines() const { return m_layout.ownTableLines && m_depth == 0; }
 
     // A cell with a minimum height, sized once the document is laid out.
     struct MinHeight
@@ -531,7 +533,7 @@ void Builder::table(QTextCursor& cursor, const Block& block, double width, doubl
         return;
     const TableFormat& f = t.format;
     QTextTableFormat tf;
-    tf.setBorderCollapse(!m_layout.ownTableLines);
+    tf.setBorderCollapse(!ownLines());
     tf.setBorder(0);
     tf.setCellPadding(0);
     tf.setCellSpacing(0);
@@ -585,7 +587,7 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
                             : valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
                                                        : QTextCharFormat::AlignMiddle);
     QtfCellLines lines;
-    if (m_layout.ownTableLines)
+    if (ownLines())
         lines = CellLines(t, row, col);
     cf.setLeftPadding(units(f.margin[0] + lines.room(0)));
     cf.setTopPadding(units(f.margin[1] + lines.room(1)));
@@ -606,7 +608,7 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     // Every property a cell's format holds more slows Qt's table layout down: sides without a
     // line get none, and a document only measured needs no colours.
     for (int s = 0; s < 4; ++s) {
-        if (width[s] <= 0 || m_layout.ownTableLines)
+        if (width[s] <= 0 || ownLines())
             continue;
         static constexpr QTextFormat::Property kWidth[4] = {
             QTextFormat::TableCellLeftBorder, QTextFormat::TableCellTopBorder,

@@ -26,9 +26,9 @@ struct QtfLayout
     // For measuring only: cells top-aligned, so that the top of each table row shows in its
     // cells' first lines, and without the colours only painting needs.
     bool topAlignedCells = false;
-    // Table lines left to the caller (PaintQtfTableLines): Qt's own collapsed borders cost a
-    // lookup of the neighbouring cells for every edge, on every layout and paint. The cells
-    // keep the room the lines take.
+    // Lines of top-level tables left to the caller (PaintQtfTableLines): Qt's own collapsed
+    // borders cost a lookup of the neighbouring cells for every edge, on every layout and
+    // paint. The cells keep the room the lines take.
     bool ownTableLines = false;
 };
 

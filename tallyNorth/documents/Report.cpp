@@ -143,8 +143,12 @@ QList<TopItem> TopItems(const QTextDocument& doc)
     for (QTextBlock b = doc.begin(); b.isValid();) {
         if (next < frames.size() && b.position() >= frames.at(next)->firstPosition()) {
             QTextFrame* frame = frames.at(next++);
-            if (auto* table = qobject_cast<QTextTable*>(frame))
-                items.append({QTextBlock(), table, layout->frameBoundingRect(frame).top()});
+            // A table starts where the filler block before it ends (Qt's frame rectangle
+            // starts at the first cell's content).
+            if (auto* table = qobject_cast<QTextTable*>(frame)) {
+                const QTextBlock filler = doc.findBlock(frame->firstPosition() - 1);
+                items.append({QTextBlock(), table, layout->blockBoundingRect(filler).bottom()});
+            }
             spacerTop = -1;
             b = doc.findBlock(frame->lastPosition() + 1);
             continue;
@@ -482,18 +486,15 @@ Qtf::Document PageText(const Qtf::Document& body, const Page& page)
 
 // The page's part of a table is drawn row by row from the measured heights: Qt tells no row's
 // place.
-void PaintTableLines(QPainter& painter, const QTextDocument& doc, const QTextTable& table,
-                     const Qtf::Table& slice, const Qtf::Table& source, const QList<double>& cores,
-                     const Piece& piece, double width)
+void PaintTableLines(QPainter& painter, double tableTop, const Qtf::Table& slice,
+                     const Qtf::Table& source, const QList<double>& cores, const Piece& piece,
+                     double width)
 {
     if (cores.isEmpty())
         return;
     const int header = piece.header ? HeaderRows(source) : 0;
     const int rows = int(slice.rows.size());
-    // The filler block before the table ends where the table starts.
-    QAbstractTextDocumentLayout* layout = doc.documentLayout();
-    const QTextBlock filler = doc.findBlock(table.firstPosition() - 1);
-    const double top = layout->blockBoundingRect(filler).bottom() + slice.format.before;
+    const double top = tableTop + slice.format.before;
     QList<double> bottoms;
     bottoms.reserve(rows);
     double y = top;
@@ -806,7 +807,7 @@ void Report::paintPage(QPainter& painter, int page) const
         const Piece& piece = pg.pieces.at(i);
         const Qtf::Block& b = s.cachedText.blocks.at(i);
         if (items.at(i).table && b.isTable())
-            PaintTableLines(painter, doc, *items.at(i).table, *b.table,
+            PaintTableLines(painter, items.at(i).top, *b.table,
                             *s.text.blocks.at(piece.block).table, s.rowCores.at(piece.block), piece,
                             width);
     }
