@@ -544,8 +544,18 @@ void Builder::table(QTextCursor& cursor, const Block& block, double width, doubl
     tf.setWidth(QTextLength(QTextLength::PercentageLength, 100));
     tf.setAlignment(Qt::AlignLeft);
     QList<QTextLength> widths;
-    for (int w : f.widths)
-        widths << QTextLength(QTextLength::PercentageLength, w / 100.0);
+    if (ownLines()) {
+        // Where Qt's collapsed borders put the columns.
+        const double span = std::max(1.0, width - f.leftIndent - f.rightIndent);
+        const QList<double> x = QtfColumnEdges(t, 0, span);
+        // The last column takes what Qt's rounding leaves.
+        for (int c = 0; c + 1 < cols; ++c)
+            widths << QTextLength(QTextLength::PercentageLength, (x[c + 1] - x[c]) * 100 / span);
+        widths << QTextLength(QTextLength::VariableLength, 0);
+    } else {
+        for (int w : f.widths)
+            widths << QTextLength(QTextLength::PercentageLength, w / 100.0);
+    }
     tf.setColumnWidthConstraints(widths);
     tf.setHeaderRowCount(f.headerRows);
     if (block.pageBreak || f.pageBreak)
@@ -809,6 +819,24 @@ QtfCellLines CellLines(const Qtf::Table& t, int row, int col)
     return out;
 }
 
+QList<double> QtfColumnEdges(const Qtf::Table& t, double left, double right)
+{
+    // Half the frame lies outside the columns' shares, as with Qt's collapsed borders.
+    const int cols = t.columns();
+    const double half = t.format.frame / 2.0;
+    const double share = std::max(0.0, right - left - 2 * half);
+    QList<double> x(cols + 1);
+    int sum = 0;
+    for (int c = 0; c <= cols; ++c) {
+        x[c] = left + half + share * sum / 10000.0;
+        if (c < cols)
+            sum += t.format.widths.value(c);
+    }
+    x[0] = left;
+    x[cols] = right;
+    return x;
+}
+
 void PaintQtfTableLines(QPainter& painter, const Qtf::Table& t, double left, double right,
                         double top, const QList<double>& rowBottoms)
 {
@@ -816,14 +844,7 @@ void PaintQtfTableLines(QPainter& painter, const Qtf::Table& t, double left, dou
     const int cols = t.columns();
     if (rows == 0 || cols == 0)
         return;
-    QList<double> x(cols + 1);
-    int share = 0;
-    for (int c = 0; c <= cols; ++c) {
-        x[c] = left + (right - left) * share / 10000.0;
-        if (c < cols)
-            share += t.format.widths.value(c);
-    }
-    x[cols] = right;
+    const QList<double> x = QtfColumnEdges(t, left, right);
     const auto rowTop = [&](int r) { return r == 0 ? top : rowBottoms.at(r - 1); };
     // Every cell draws its top and left line, the last row and column their bottom and right.
     std::vector<std::pair<QRgb, QRectF>> lines;

@@ -44,6 +44,9 @@ struct QtfCellLines
 };
 QtfCellLines CellLines(const Qtf::Table& table, int row, int col);
 
+// The edges of table's columns between left and right, as laid out with ownTableLines.
+QList<double> QtfColumnEdges(const Qtf::Table& table, double left, double right);
+
 // Draws the lines of table, laid out with ownTableLines: its columns span left to right and its
 // rows end at rowBottoms, the first starting at top.
 void PaintQtfTableLines(QPainter& painter, const Qtf::Table& table, double left, double right,

@@ -278,7 +278,8 @@ void TestReportPages::ownLinesKeepCellPlaces_data()
 {
     QTest::addColumn<QString>("qtf");
     QTest::newRow("frame and grid") << u"[ Top&]{{1:1f20g4B30A40 a:: b:: c:: d}}&[ End]"_s;
-    QTest::newRow("cell borders") << u"{{1:1:1f10g4 a::l30 b:: c:: d::t40 e:: f::b16 g:: h:: i}}"_s;
+    QTest::newRow("cell borders")
+        << u"{{1:1:1f10g4 a::l30 b::! c:: d:: e::t40 f::! g:: h::b16 i}}"_s;
     QTest::newRow("spans") << u"{{1:1:1 A::-1 B:: x:: C::|1 D:: E:: F:: G:: H}}"_s;
     QTest::newRow("no lines, indented") << u"{{1:2<100>200~ a:: b&c:: d:: e}}"_s;
     QTest::newRow("table in a cell") << u"{{1:1 a:: {{1:1g10 x:: y}}:: c:: d}}"_s;
@@ -297,10 +298,9 @@ void TestReportPages::ownLinesKeepCellPlaces()
     for (QTextBlock x = a->begin(), y = b->begin(); x.isValid(); x = x.next(), y = y.next()) {
         const QRectF rx = a->documentLayout()->blockBoundingRect(x);
         const QRectF ry = b->documentLayout()->blockBoundingRect(y);
-        // Qt's collapsed borders move columns by a few dots where cells have borders of
-        // their own; rows keep their places exactly.
-        QVERIFY2(std::abs(rx.top() - ry.top()) < 0.5 && std::abs(rx.left() - ry.left()) <= 12 &&
-                     std::abs(rx.width() - ry.width()) <= 12,
+        // Within Qt's rounding.
+        QVERIFY2(std::abs(rx.top() - ry.top()) <= 2 && std::abs(rx.left() - ry.left()) <= 2 &&
+                     std::abs(rx.width() - ry.width()) <= 2,
                  qPrintable(x.text()));
     }
     QCOMPARE(b->documentLayout()->documentSize().height(),
