@@ -182,6 +182,8 @@ private:
     void setBlockCharFormat(QTextCursor& cursor, const QTextCharFormat& format);
     void applyMinHeights();
     double units(double dots) const { return dots * m_unit; }
+    // The caller draws the lines of top-level tables only.
+    bool ownLines() const { return m_layout.ownTableLines && m_depth == 0; }
 
     // A cell with a minimum height, sized once the document is laid out.
     struct MinHeight
@@ -531,7 +533,7 @@ void Builder::table(QTextCursor& cursor, const Block& block, double width, doubl
         return;
     const TableFormat& f = t.format;
     QTextTableFormat tf;
-    tf.setBorderCollapse(true);
+    tf.setBorderCollapse(!ownLines());
     tf.setBorder(0);
     tf.setCellPadding(0);
     tf.setCellSpacing(0);
@@ -542,8 +544,18 @@ void Builder::table(QTextCursor& cursor, const Block& block, double width, doubl
     tf.setWidth(QTextLength(QTextLength::PercentageLength, 100));
     tf.setAlignment(Qt::AlignLeft);
     QList<QTextLength> widths;
-    for (int w : f.widths)
-        widths << QTextLength(QTextLength::PercentageLength, w / 100.0);
+    if (ownLines()) {
+        // Where Qt's collapsed borders put the columns.
+        const double span = std::max(1.0, width - f.leftIndent - f.rightIndent);
+        const QList<double> x = QtfColumnEdges(t, 0, span);
+        // The last column takes what Qt's rounding leaves.
+        for (int c = 0; c + 1 < cols; ++c)
+            widths << QTextLength(QTextLength::PercentageLength, (x[c + 1] - x[c]) * 100 / span);
+        widths << QTextLength(QTextLength::VariableLength, 0);
+    } else {
+        for (int w : f.widths)
+            widths << QTextLength(QTextLength::PercentageLength, w / 100.0);
+    }
     tf.setColumnWidthConstraints(widths);
     tf.setHeaderRowCount(f.headerRows);
     if (block.pageBreak || f.pageBreak)
@@ -584,10 +596,13 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     cf.setVerticalAlignment(valign == VAlign::Top      ? QTextCharFormat::AlignTop
                             : valign == VAlign::Bottom ? QTextCharFormat::AlignBottom
                                                        : QTextCharFormat::AlignMiddle);
-    cf.setLeftPadding(units(f.margin[0]));
-    cf.setTopPadding(units(f.margin[1]));
-    cf.setRightPadding(units(f.margin[2]));
-    cf.setBottomPadding(units(f.margin[3]));
+    QtfCellLines lines;
+    if (ownLines())
+        lines = CellLines(t, row, col);
+    cf.setLeftPadding(units(f.margin[0] + lines.room(0)));
+    cf.setTopPadding(units(f.margin[1] + lines.room(1)));
+    cf.setRightPadding(units(f.margin[2] + lines.room(2)));
+    cf.setBottomPadding(units(f.margin[3] + lines.room(3)));
     // White cells on the page's white paper need no painting.
     if (f.background.alpha() > 0 && !m_layout.topAlignedCells &&
         (f.background != Qt::white || m_depth > 0 || m_layout.units != QtfUnits::Dots))
@@ -603,7 +618,7 @@ void Builder::cell(QTextTable* table, const Table& t, int row, int col, double t
     // Every property a cell's format holds more slows Qt's table layout down: sides without a
     // line get none, and a document only measured needs no colours.
     for (int s = 0; s < 4; ++s) {
-        if (width[s] <= 0)
+        if (width[s] <= 0 || ownLines())
             continue;
         static constexpr QTextFormat::Property kWidth[4] = {
             QTextFormat::TableCellLeftBorder, QTextFormat::TableCellTopBorder,
@@ -770,6 +785,107 @@ void PaintRuler(QPainter& painter, const QTextBlock& block, const QRectF& rect)
 }
 
 } // namespace
+
+QtfCellLines CellLines(const Qtf::Table& t, int row, int col)
+{
+    const CellFormat& f = t.rows[row][col].format;
+    const TableFormat& tf = t.format;
+    const int rows = int(t.rows.size());
+    const int cols = t.columns();
+    const int right = col + f.hspan + 1;
+    const int below = row + f.vspan + 1;
+    QtfCellLines out;
+    out.edge[0] = col == 0;
+    out.edge[1] = row == 0;
+    out.edge[2] = right >= cols;
+    out.edge[3] = below >= rows;
+    // The neighbour across each side, for the width of a shared line.
+    const Cell* next[4] = {
+        out.edge[0] ? nullptr : &t.rows[row][col - 1],
+        out.edge[1] ? nullptr : &t.rows[row - 1][col],
+        out.edge[2] ? nullptr : &t.rows[row][std::min(right, cols - 1)],
+        out.edge[3] ? nullptr : &t.rows[std::min(below, rows - 1)][col],
+    };
+    for (int s = 0; s < 4; ++s) {
+        const int line = out.edge[s] ? tf.frame : tf.grid;
+        const int own = f.border[s];
+        const int other = next[s] ? next[s]->format.border[(s + 2) % 4] : 0;
+        out.width[s] = std::max({line, own, other});
+        out.color[s] = own > line && own >= other ? f.borderColor
+                       : other > line             ? next[s]->format.borderColor
+                       : out.edge[s]              ? tf.frameColor
+                                                  : tf.gridColor;
+    }
+    return out;
+}
+
+QList<double> QtfColumnEdges(const Qtf::Table& t, double left, double right)
+{
+    // Half the frame lies outside the columns' shares, as with Qt's collapsed borders.
+    const int cols = t.columns();
+    const double half = t.format.frame / 2.0;
+    const double share = std::max(0.0, right - left - 2 * half);
+    QList<double> x(cols + 1);
+    int sum = 0;
+    for (int c = 0; c <= cols; ++c) {
+        x[c] = left + half + share * sum / 10000.0;
+        if (c < cols)
+            sum += t.format.widths.value(c);
+    }
+    x[0] = left;
+    x[cols] = right;
+    return x;
+}
+
+void PaintQtfTableLines(QPainter& painter, const Qtf::Table& t, double left, double right,
+                        double top, const QList<double>& rowBottoms)
+{
+    const int rows = std::min(int(t.rows.size()), int(rowBottoms.size()));
+    const int cols = t.columns();
+    if (rows == 0 || cols == 0)
+        return;
+    const QList<double> x = QtfColumnEdges(t, left, right);
+    const auto rowTop = [&](int r) { return r == 0 ? top : rowBottoms.at(r - 1); };
+    // Every cell draws its top and left line, the last row and column their bottom and right.
+    std::vector<std::pair<QRgb, QRectF>> lines;
+    for (int r = 0; r < rows; ++r) {
+        for (int c = 0; c < cols; ++c) {
+            const Cell& cell = t.rows[r][c];
+            if (cell.covered)
+                continue;
+            const QtfCellLines l = CellLines(t, r, c);
+            const double x0 = x[c];
+            const double x1 = x[std::min(c + cell.format.hspan + 1, cols)];
+            const double y0 = rowTop(r);
+            const double y1 = rowBottoms.at(std::min(r + cell.format.vspan, rows - 1));
+            const auto add = [&](int side, const QRectF& rect) {
+                if (l.width[side] > 0)
+                    lines.emplace_back(l.color[side].rgba(), rect);
+            };
+            const double w[4] = {l.width[0], l.width[1], l.width[2], l.width[3]};
+            add(0, l.edge[0] ? QRectF(x0, y0, w[0], y1 - y0)
+                             : QRectF(x0 - w[0] / 2, y0, w[0], y1 - y0));
+            add(1, l.edge[1] ? QRectF(x0, y0, x1 - x0, w[1])
+                             : QRectF(x0, y0 - w[1] / 2, x1 - x0, w[1]));
+            if (l.edge[2])
+                add(2, QRectF(x1 - w[2], y0, w[2], y1 - y0));
+            if (l.edge[3] || r + cell.format.vspan >= rows - 1)
+                add(3, QRectF(x0, y1 - w[3], x1 - x0, w[3]));
+        }
+    }
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    QList<QRectF> rects;
+    for (size_t i = 0; i < lines.size();) {
+        const QRgb color = lines[i].first;
+        rects.clear();
+        for (; i < lines.size() && lines[i].first == color; ++i)
+            rects.append(lines[i].second);
+        painter.setBrush(QColor::fromRgba(color));
+        painter.drawRects(rects.constData(), int(rects.size()));
+    }
+    painter.restore();
+}
 
 double QtfUnitsPerDot(QtfUnits units)
 {

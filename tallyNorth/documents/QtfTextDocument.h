@@ -3,6 +3,8 @@
 
 #include "QtfDocument.h"
 
+#include <QColor>
+#include <QList>
 #include <QRectF>
 #include <QTextFormat>
 
@@ -24,7 +26,31 @@ struct QtfLayout
     // For measuring only: cells top-aligned, so that the top of each table row shows in its
     // cells' first lines, and without the colours only painting needs.
     bool topAlignedCells = false;
+    // Lines of top-level tables left to the caller (PaintQtfTableLines): Qt's own collapsed
+    // borders cost a lookup of the neighbouring cells for every edge, on every layout and
+    // paint. The cells keep the room the lines take.
+    bool ownTableLines = false;
 };
+
+// The lines around a table cell as drawn: left, top, right, bottom. An inside line is shared
+// with the neighbour (the wider one wins) and lies half in each cell; the frame lies inside.
+struct QtfCellLines
+{
+    double width[4] = {};
+    QColor color[4];
+    bool edge[4] = {};
+    // The room a side takes in the cell.
+    double room(int side) const { return edge[side] ? width[side] : width[side] / 2; }
+};
+QtfCellLines CellLines(const Qtf::Table& table, int row, int col);
+
+// The edges of table's columns between left and right, as laid out with ownTableLines.
+QList<double> QtfColumnEdges(const Qtf::Table& table, double left, double right);
+
+// Draws the lines of table, laid out with ownTableLines: its columns span left to right and its
+// rows end at rowBottoms, the first starting at top.
+void PaintQtfTableLines(QPainter& painter, const Qtf::Table& table, double left, double right,
+                        double top, const QList<double>& rowBottoms);
 
 // Format properties the builder leaves for painting and paging.
 namespace QtfProperty {

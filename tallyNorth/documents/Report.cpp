@@ -45,6 +45,7 @@ struct Measured
     int block = 0;
     int row = -1; // -1 for a paragraph
     double height = 0;
+    double core = 0;      // table row: its height less the room its lines take
     double firstLine = 0; // paragraph: its first line's top below the item's top
     QList<double> cuts;   // paragraph: the bottoms of its lines below the item's top
 };
@@ -53,6 +54,24 @@ struct Measured
 int HeaderRows(const Qtf::Table& t)
 {
     return t.format.headerRows < int(t.rows.size()) ? t.format.headerRows : 0;
+}
+
+// The room the lines above and below a row take in its cells; a row's own height, less these,
+// is the same wherever the table is cut.
+std::pair<double, double> RowRoom(const Qtf::Table& t, int row)
+{
+    double above = 0;
+    double below = 0;
+    for (int c = 0; c < int(t.rows.at(row).size()); ++c) {
+        const Qtf::Cell& cell = t.rows.at(row).at(c);
+        if (cell.covered)
+            continue;
+        const QtfCellLines lines = CellLines(t, row, c);
+        above = std::max(above, lines.room(1));
+        if (cell.format.vspan == 0)
+            below = std::max(below, lines.room(3));
+    }
+    return {above, below};
 }
 
 // Rows [0, header) and [from, to) of t as a table of their own; the space before and after
@@ -124,8 +143,12 @@ QList<TopItem> TopItems(const QTextDocument& doc)
     for (QTextBlock b = doc.begin(); b.isValid();) {
         if (next < frames.size() && b.position() >= frames.at(next)->firstPosition()) {
             QTextFrame* frame = frames.at(next++);
-            if (auto* table = qobject_cast<QTextTable*>(frame))
-                items.append({QTextBlock(), table, layout->frameBoundingRect(frame).top()});
+            // A table starts where the filler block before it ends (Qt's frame rectangle
+            // starts at the first cell's content).
+            if (auto* table = qobject_cast<QTextTable*>(frame)) {
+                const QTextBlock filler = doc.findBlock(frame->firstPosition() - 1);
+                items.append({QTextBlock(), table, layout->blockBoundingRect(filler).bottom()});
+            }
             spacerTop = -1;
             b = doc.findBlock(frame->lastPosition() + 1);
             continue;
@@ -198,35 +221,40 @@ bool MeasureChunk(const Qtf::Document& body, const QList<ChunkPart>& parts, QtfL
             out.push_back(m);
             continue;
         }
-        // Cells are top-aligned here: a row starts where its highest first line does, less
-        // the distance the first row shows between the table's top and its first line.
+        // Cells are top-aligned here: a row starts where its cells' first lines do, less
+        // their top margins and lines.
         QTextTable* table = item.table;
         const Qtf::Table& source = *body.blocks.at(part.block).table;
-        const Qtf::Table* slice = chunk.blocks.at(i).table.get();
-        QList<double> contentTop(table->rows(), 1e300);
-        for (int r = 0; r < table->rows(); ++r) {
+        const Qtf::Table& slice = *chunk.blocks.at(i).table;
+        const int rows = table->rows();
+        QList<double> rowTop(rows + 1, 1e300);
+        for (int r = 0; r < rows; ++r) {
             for (int c = 0; c < table->columns(); ++c) {
                 // Qt's cell geometry calls copy the cell's whole format: the source knows.
-                if (slice->rows.at(r).at(c).covered)
+                const Qtf::Cell& cell = slice.rows.at(r).at(c);
+                if (cell.covered)
                     continue;
-                const QTextTableCell cell = table->cellAt(r, c);
-                const QTextBlock b = doc->findBlock(cell.firstPosition());
-                contentTop[r] = std::min(contentTop[r], docLayout->blockBoundingRect(b).top());
+                const QTextTableCell qcell = table->cellAt(r, c);
+                const QTextBlock b = doc->findBlock(qcell.firstPosition());
+                const double pad = cell.format.margin[1] + CellLines(slice, r, c).room(1);
+                rowTop[r] = std::min(rowTop[r], docLayout->blockBoundingRect(b).top() - pad);
             }
         }
+        // The table's own end: Qt keeps the space after it as its bottom margin.
+        rowTop[rows] = bottom - table->format().bottomMargin();
         const double before = part.from == 0 ? source.format.before : 0;
-        const double offset = contentTop.value(0) - item.top - before;
-        double top = item.top;
-        for (int r = 0; r < table->rows(); ++r) {
-            const double next = r + 1 < table->rows()
-                                    ? std::clamp(contentTop[r + 1] - offset, top, bottom)
-                                    : bottom;
+        for (int r = 0; r < rows; ++r) {
+            const double own = std::clamp(rowTop[r + 1], rowTop[r], bottom) - rowTop[r];
+            const auto [sliceAbove, sliceBelow] = RowRoom(slice, r);
+            const auto [above, below] = RowRoom(source, part.from + r);
             Measured m;
             m.block = part.block;
             m.row = part.from + r;
-            m.height = next - top;
+            m.core = std::max(0.0, own - sliceAbove - sliceBelow);
+            // The first row carries the space before the table, the last the space after.
+            m.height = m.core + above + below + (r == 0 ? before : 0) +
+                       (r + 1 == rows ? bottom - rowTop[rows] : 0);
             out.push_back(m);
-            top = next;
         }
     }
     return true;
@@ -375,12 +403,18 @@ private:
             newPage();
         if (t.format.keep && !empty() && m_used + total > m_height && total <= m_height)
             newPage();
+        // Rows were measured with grid lines above and below; where the table is cut the
+        // frame takes their place.
+        const double frame = std::max(0.0, t.format.frame - t.format.grid / 2.0);
         bool startPiece = true;
         for (size_t i = k; i < end; ++i) {
             const Measured& m = items[i];
             if (m.row < header)
                 continue;
-            const bool fits = m_used + (startPiece ? headerHeight : 0) + m.height <= m_height;
+            const double opening = header == 0 && m.row > 0 ? frame : 0;
+            const double closing = m.row + 1 < int(t.rows.size()) ? frame : 0;
+            const bool fits =
+                m_used + (startPiece ? headerHeight + opening : 0) + m.height + closing <= m_height;
             if (!fits && !empty()) {
                 newPage();
                 startPiece = true;
@@ -390,10 +424,10 @@ private:
                 piece.block = block;
                 piece.from = piece.to = m.row;
                 add(piece);
-                m_used += headerHeight;
+                m_used += headerHeight + opening;
                 startPiece = false;
             }
-            if (m_used + m.height > m_height) {
+            if (m_used + m.height + closing > m_height) {
                 tallRow(m);
                 startPiece = true;
                 continue;
@@ -450,6 +484,30 @@ Qtf::Document PageText(const Qtf::Document& body, const Page& page)
     return out;
 }
 
+// The page's part of a table is drawn row by row from the measured heights: Qt tells no row's
+// place.
+void PaintTableLines(QPainter& painter, double tableTop, const Qtf::Table& slice,
+                     const Qtf::Table& source, const QList<double>& cores, const Piece& piece,
+                     double width)
+{
+    if (cores.isEmpty())
+        return;
+    const int header = piece.header ? HeaderRows(source) : 0;
+    const int rows = int(slice.rows.size());
+    const double top = tableTop + slice.format.before;
+    QList<double> bottoms;
+    bottoms.reserve(rows);
+    double y = top;
+    for (int r = 0; r < rows; ++r) {
+        const int row = r < header ? r : piece.from + r - header;
+        const auto [above, below] = RowRoom(slice, r);
+        y += cores.value(row) + above + below;
+        bottoms.append(y);
+    }
+    PaintQtfTableLines(painter, slice, slice.format.leftIndent, width - slice.format.rightIndent,
+                       top, bottoms);
+}
+
 QString Substitute(QString qtf, int page, const QDate& date)
 {
     qtf.replace(QLatin1String("$$P"), QString::number(page));
@@ -468,6 +526,8 @@ struct Report::Section
     QString usedHeader;
     QString usedFooter;
     Qtf::Document text;
+    // The height of every table row less the room its lines take, by block and row.
+    std::vector<QList<double>> rowCores;
     std::vector<Page> pageList;
     double headerHeight = 0;
     double footerHeight = 0;
@@ -477,6 +537,7 @@ struct Report::Section
     // The last page's document: the pages of a paragraph longer than a page share it.
     mutable int cachedPage = -1;
     mutable std::unique_ptr<QTextDocument> cached;
+    mutable Qtf::Document cachedText;
 };
 
 Report::Report() = default;
@@ -571,6 +632,7 @@ void Report::layoutSection(Section& s) const
     QtfLayout layout;
     layout.units = QtfUnits::Dots;
     layout.width = m_page.width();
+    layout.ownTableLines = true;
     // Page fields are measured at their widest.
     layout.pageNumber = layout.pageCount = 10000;
     s.text = ReadQtf(s.body);
@@ -622,6 +684,15 @@ void Report::layoutSection(Section& s) const
         }
     }
     measure();
+    s.rowCores.assign(body.blocks.size(), {});
+    for (const Measured& m : items) {
+        if (m.row < 0)
+            continue;
+        QList<double>& cores = s.rowCores[m.block];
+        if (cores.isEmpty())
+            cores.resize(body.blocks.at(m.block).table->rows.size());
+        cores[m.row] = m.core;
+    }
     s.pageList = Paginator(body, s.bodyHeight).run(items);
     s.pages = int(s.pageList.size());
 }
@@ -704,7 +775,9 @@ void Report::paintPage(QPainter& painter, int page) const
             layout.width = m_page.width();
             layout.pageNumber = local + 1;
             layout.pageCount = s.pages;
-            s.cached = MakeTextDocument(PageText(s.text, pg), layout);
+            layout.ownTableLines = true;
+            s.cachedText = PageText(s.text, pg);
+            s.cached = MakeTextDocument(s.cachedText, layout);
         }
         s.cachedPage = local;
     }
@@ -730,6 +803,14 @@ void Report::paintPage(QPainter& painter, int page) const
     context.palette.setColor(QPalette::Text, Qt::black);
     doc.documentLayout()->draw(&painter, context);
     PaintQtfExtras(painter, doc, context.clip);
+    for (qsizetype i = 0; i < items.size() && i < pg.pieces.size(); ++i) {
+        const Piece& piece = pg.pieces.at(i);
+        const Qtf::Block& b = s.cachedText.blocks.at(i);
+        if (items.at(i).table && b.isTable())
+            PaintTableLines(painter, items.at(i).top, *b.table,
+                            *s.text.blocks.at(piece.block).table, s.rowCores.at(piece.block), piece,
+                            width);
+    }
     painter.restore();
 }
 

@@ -145,6 +145,10 @@ private Q_SLOTS:
     void minimumCellHeight_data();
     void minimumCellHeight();
     void documentTallerThanQtLayout();
+    void ownLinesKeepCellPlaces_data();
+    void ownLinesKeepCellPlaces();
+    void linesAtRowEdges_data();
+    void linesAtRowEdges();
 };
 
 void TestReportPages::tableClosedOnEveryPage_data()
@@ -268,6 +272,81 @@ void TestReportPages::documentTallerThanQtLayout()
     QCOMPARE(
         RunProcess(u"pdftotext"_s, {u"-f"_s, QString::number(pages), pdf, u"-"_s}).out.trimmed(),
         u"page %1"_s.arg(pages));
+}
+
+void TestReportPages::ownLinesKeepCellPlaces_data()
+{
+    QTest::addColumn<QString>("qtf");
+    QTest::newRow("frame and grid") << u"[ Top&]{{1:1f20g4B30A40 a:: b:: c:: d}}&[ End]"_s;
+    QTest::newRow("cell borders")
+        << u"{{1:1:1f10g4 a::l30 b::! c:: d:: e::t40 f::! g:: h::b16 i}}"_s;
+    QTest::newRow("spans") << u"{{1:1:1 A::-1 B:: x:: C::|1 D:: E:: F:: G:: H}}"_s;
+    QTest::newRow("no lines, indented") << u"{{1:2<100>200~ a:: b&c:: d:: e}}"_s;
+    QTest::newRow("table in a cell") << u"{{1:1 a:: {{1:1g10 x:: y}}:: c:: d}}"_s;
+}
+
+// The report draws table lines itself; the cells keep the room Qt's own lines took.
+void TestReportPages::ownLinesKeepCellPlaces()
+{
+    QFETCH(QString, qtf);
+    QtfLayout qt{QtfUnits::Dots, 2000};
+    QtfLayout own = qt;
+    own.ownTableLines = true;
+    auto a = QtfToTextDocument(qtf, qt);
+    auto b = QtfToTextDocument(qtf, own);
+    QCOMPARE(a->blockCount(), b->blockCount());
+    for (QTextBlock x = a->begin(), y = b->begin(); x.isValid(); x = x.next(), y = y.next()) {
+        const QRectF rx = a->documentLayout()->blockBoundingRect(x);
+        const QRectF ry = b->documentLayout()->blockBoundingRect(y);
+        // Within Qt's rounding.
+        QVERIFY2(std::abs(rx.top() - ry.top()) <= 2 && std::abs(rx.left() - ry.left()) <= 2 &&
+                     std::abs(rx.width() - ry.width()) <= 2,
+                 qPrintable(x.text()));
+    }
+    QCOMPARE(b->documentLayout()->documentSize().height(),
+             a->documentLayout()->documentSize().height());
+}
+
+void TestReportPages::linesAtRowEdges_data()
+{
+    QTest::addColumn<QString>("qtf");
+    QTest::addColumn<QList<int>>("thickness"); // of the horizontal rules, top to bottom
+    QTest::newRow("frame and grid") << u"{{1:1f20g4 a:: b:: c&two:: d}}"_s << QList<int>{20, 4, 20};
+    QTest::newRow("cell border below")
+        << u"{{1f10g4 a::b16 b::! c}}"_s << QList<int>{10, 4, 16, 10};
+    QTest::newRow("space before and after")
+        << u"[ x&]{{1f12B60A90 a:: b}}&[ y]"_s << QList<int>{12, 4, 12};
+}
+
+// The rules lie where Qt puts the rows: the frame's outer edges are the table's.
+void TestReportPages::linesAtRowEdges()
+{
+    QFETCH(QString, qtf);
+    QFETCH(QList<int>, thickness);
+    Report report;
+    report.setPageSize(QSize(2000, 2500));
+    report.setBody(qtf);
+    QCOMPARE(report.pageCount(), 1);
+    RecordingDevice device;
+    QPainter painter(&device);
+    report.paintPage(painter, 0);
+    painter.end();
+    const std::map<int, int> rules = Rules(device.recorder(), 1000);
+    QList<int> got;
+    for (const auto& [top, height] : rules)
+        got << height;
+    QCOMPARE(got, thickness);
+    // The same table laid out by Qt alone: its rows from the top rule to the bottom one.
+    QtfLayout layout{QtfUnits::Dots, 2000};
+    auto doc = QtfToTextDocument(qtf, layout);
+    QTextFrame* table = doc->rootFrame()->childFrames().value(0);
+    QVERIFY(table);
+    const QTextFrameFormat tf = table->frameFormat();
+    const double height = doc->documentLayout()->frameBoundingRect(table).height() -
+                          tf.topMargin() - tf.bottomMargin();
+    const int bottom = rules.rbegin()->first + rules.rbegin()->second;
+    QVERIFY2(std::abs(bottom - rules.begin()->first - height) <= 1,
+             qPrintable(u"%1 vs %2"_s.arg(bottom - rules.begin()->first).arg(height)));
 }
 
 QTEST_MAIN(TestReportPages)
