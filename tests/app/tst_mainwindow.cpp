@@ -13,7 +13,6 @@
 #include "base/SqlStatement.h"
 #include "base/ui/ListTab.h"
 
-#include <QFileDialog>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTableView>
@@ -61,13 +60,9 @@ class TestMainWindow : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void titleWithNullRow();
     void menusAndHandlers();
     void listLoading_data();
     void listLoading();
-    void backupAndRestoreCommands();
-    void masterDataPagesFollowLoadingRules_data();
-    void masterDataPagesFollowLoadingRules();
     void changeCompanyCommand();
 
 private:
@@ -108,13 +103,6 @@ MainWindow& TestMainWindow::open(std::initializer_list<MainTab> counted)
     }
     m_window->companyChanged();
     return *m_window;
-}
-
-void TestMainWindow::titleWithNullRow()
-{
-    QVERIFY(ExecSql("delete from SETUP"));
-    QVERIFY(ExecSql("insert into SETUP (SETUP_NAME) values (NULL)"));
-    QCOMPARE(open().windowTitle(), "Vantrell Invoicer -  (adószám:)");
 }
 
 // Every command is in a menu with a help line and is enabled only with a handler; a submenu is
@@ -185,70 +173,6 @@ void TestMainWindow::listLoading()
     }
     QCOMPARE(seenOrders, orders);
     QCOMPARE(seenProducts, products);
-}
-
-// The backup is proposed in the backup folder under the company's name; restored after later
-// work, it brings the saved company back into the window.
-void TestMainWindow::backupAndRestoreCommands()
-{
-    SetCompany("Mentett Kft", "1");
-    MainWindow& window = open();
-    QString folder, proposed;
-    ModalDriver saving({[&](QWidget* w) {
-                            auto* dialog = qobject_cast<QFileDialog*>(w);
-                            QVERIFY2(dialog, w->metaObject()->className());
-                            folder = dialog->directory().absolutePath();
-                            proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-                            static_cast<QDialog*>(dialog)->accept();
-                        },
-                        Answer(&m_messages)});
-    window.action(MainCommand::DoBackup)->trigger();
-    QVERIFY(saving.done());
-    QCOMPARE(folder, BaseFolder::backupFolder());
-    QCOMPARE(proposed, "company.dbk");
-    QVERIFY(Database::isOpen());
-
-    SetCompany("Későbbi Kft", "2");
-    window.companyChanged();
-    const int reloadsBefore = reloads(MainTab::Orders);
-    ModalDriver restoring({Answer(&m_messages, QMessageBox::Yes),
-                           ChooseFile(BaseFolder::backupFolder() + "/company.dbk"),
-                           Answer(&m_messages)});
-    window.action(MainCommand::RestoreBackup)->trigger();
-    QVERIFY(restoring.done());
-    QCOMPARE(m_messages, QStringList({"Backup file saved successfully.",
-                                      "The content of current database will be overwritten&by "
-                                      "the backup file you select to restore.&Do you want to "
-                                      "continue?",
-                                      "Backup file restored successfully."}));
-    QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Mentett Kft (adószám:1)");
-    QCOMPARE(reloads(MainTab::Orders), reloadsBefore + 1);
-}
-
-void TestMainWindow::masterDataPagesFollowLoadingRules_data()
-{
-    QTest::addColumn<bool>("onStart");
-    QTest::addColumn<int>("rowsOnOpening");
-    AddRow("load on start", true, 1);
-    AddRow("both off", false, 0);
-}
-
-// The real Products and Partners pages are read by the window's rules, not when they are made.
-void TestMainWindow::masterDataPagesFollowLoadingRules()
-{
-    QFETCH(bool, onStart);
-    QFETCH(int, rowsOnOpening);
-    SetLoading(onStart, false);
-    MainWindow& window = open({});
-    auto* products = Child<QTableView>(window.tabPage(MainTab::Products), "m_list");
-    auto* partners = Child<QTableView>(window.tabPage(MainTab::Partners), "m_list");
-    window.showTab(MainTab::Products);
-    QCOMPARE(products->model()->rowCount(), rowsOnOpening);
-    window.showTab(MainTab::Partners);
-    QCOMPARE(partners->model()->rowCount(), rowsOnOpening);
-    // Asked for by the user, the list is read whatever the settings say.
-    Child<QPushButton>(window.tabPage(MainTab::Partners), "m_find")->click();
-    QCOMPARE(partners->model()->rowCount(), 1);
 }
 
 // The lists must never go on showing the rows of the company that was left.
