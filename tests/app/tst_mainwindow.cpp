@@ -1,5 +1,5 @@
-// The main window's rules: title, menus, commands without handlers, when lists are read, and
-// the backup and company commands as the user drives them.
+// The main window's rules: commands without handlers, when lists are read, and changing the
+// company as the user drives it.
 #include "ModalDriver.h"
 #include "TestCompany.h"
 #include "TestData.h"
@@ -37,19 +37,6 @@ void SetLoading(bool onStart, bool onTabChange)
     QVERIFY(Setup::write(
         {{Col::SETUP_LOAD_MAIN_WINDOW_DATA_ON_START, onStart ? "1" : "0"},
          {Col::SETUP_REFRESH_MAIN_WINDOW_DATA_ON_TAB_CHANGE, onTabChange ? "1" : "0"}}));
-}
-
-// "menu/command | status tip" for every command, submenus after their entry.
-void MenuTree(const QMenu* menu, const QString& path, QStringList& lines)
-{
-    for (const QAction* a : menu->actions()) {
-        if (a->isSeparator())
-            continue;
-        const QString line = path + '/' + a->text();
-        lines << (a->statusTip().isEmpty() ? line : line + " | " + a->statusTip());
-        if (a->menu())
-            MenuTree(a->menu(), line, lines);
-    }
 }
 
 } // namespace
@@ -105,20 +92,12 @@ MainWindow& TestMainWindow::open(std::initializer_list<MainTab> counted)
     return *m_window;
 }
 
-// Every command is in a menu with a help line and is enabled only with a handler; a submenu is
-// enabled only while one of its commands is.
+// A command is enabled only with a handler; a submenu only while one of its commands is.
 void TestMainWindow::menusAndHandlers()
 {
     MainWindow window;
-    QStringList lines;
-    for (const QAction* top : window.menuBar()->actions())
-        MenuTree(top->menu(), top->text(), lines);
-    for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c) {
-        const QAction* a = window.action(MainCommand(c));
-        QVERIFY2(!a->text().isEmpty() && !a->statusTip().isEmpty(), qPrintable(a->text()));
-        QVERIFY2(lines.filter("/" + a->text() + " | ").size() == 1, qPrintable(a->text()));
-        QVERIFY2(!a->isEnabled(), qPrintable(a->text()));
-    }
+    for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c)
+        QVERIFY2(!window.action(MainCommand(c))->isEnabled(), qPrintable(QString::number(c)));
     QAction* receivables = window.action(MainCommand::ReceivablesByInvoices);
     QAction* submenu = nullptr;
     for (QAction* top : window.menuBar()->actions()) {
