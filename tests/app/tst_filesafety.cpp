@@ -160,14 +160,11 @@ void TestFileSafety::refused_data()
     const QString newer = "The database version is newer, than the version of the billing "
                           "software.&Upgrade the software to a newer version.";
     AddRow("opening a foreign SQLite file", false, "foreign", foreign);
-    AddRow("opening a text file", false, "text", foreign);
     AddRow("opening a truncated company", false, "truncated", damaged);
     AddRow("opening a newer version", false, "newer", newer);
-    AddRow("restoring a foreign SQLite file", true, "foreign", foreign);
     AddRow("restoring an SQLite file without tables", true, "sqlite without tables", foreign);
     AddRow("restoring a truncated backup", true, "truncated", damaged);
     AddRow("restoring a newer version", true, "newer", newer);
-    AddRow("restoring a text file", true, "text", foreign);
     AddRow("restoring an empty file", true, "empty", foreign);
     AddRow("restoring a folder", true, "folder", "Error restoring backup database file.");
     AddRow("restoring another company's backup", true, "other company",

@@ -1,5 +1,5 @@
-// The main window's rules: title, menus, commands without handlers, when lists are read, and
-// the backup and company commands as the user drives them.
+// The main window's rules: commands without handlers, when lists are read, and changing the
+// company as the user drives it.
 #include "ModalDriver.h"
 #include "TestCompany.h"
 #include "TestData.h"
@@ -13,7 +13,6 @@
 #include "base/SqlStatement.h"
 #include "base/ui/ListTab.h"
 
-#include <QFileDialog>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTableView>
@@ -40,19 +39,6 @@ void SetLoading(bool onStart, bool onTabChange)
          {Col::SETUP_REFRESH_MAIN_WINDOW_DATA_ON_TAB_CHANGE, onTabChange ? "1" : "0"}}));
 }
 
-// "menu/command | status tip" for every command, submenus after their entry.
-void MenuTree(const QMenu* menu, const QString& path, QStringList& lines)
-{
-    for (const QAction* a : menu->actions()) {
-        if (a->isSeparator())
-            continue;
-        const QString line = path + '/' + a->text();
-        lines << (a->statusTip().isEmpty() ? line : line + " | " + a->statusTip());
-        if (a->menu())
-            MenuTree(a->menu(), line, lines);
-    }
-}
-
 } // namespace
 
 class TestMainWindow : public QObject
@@ -61,13 +47,9 @@ class TestMainWindow : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void titleWithNullRow();
     void menusAndHandlers();
     void listLoading_data();
     void listLoading();
-    void backupAndRestoreCommands();
-    void masterDataPagesFollowLoadingRules_data();
-    void masterDataPagesFollowLoadingRules();
     void changeCompanyCommand();
 
 private:
@@ -110,27 +92,12 @@ MainWindow& TestMainWindow::open(std::initializer_list<MainTab> counted)
     return *m_window;
 }
 
-void TestMainWindow::titleWithNullRow()
-{
-    QVERIFY(ExecSql("delete from SETUP"));
-    QVERIFY(ExecSql("insert into SETUP (SETUP_NAME) values (NULL)"));
-    QCOMPARE(open().windowTitle(), "Vantrell Invoicer -  (adószám:)");
-}
-
-// Every command is in a menu with a help line and is enabled only with a handler; a submenu is
-// enabled only while one of its commands is.
+// A command is enabled only with a handler; a submenu only while one of its commands is.
 void TestMainWindow::menusAndHandlers()
 {
     MainWindow window;
-    QStringList lines;
-    for (const QAction* top : window.menuBar()->actions())
-        MenuTree(top->menu(), top->text(), lines);
-    for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c) {
-        const QAction* a = window.action(MainCommand(c));
-        QVERIFY2(!a->text().isEmpty() && !a->statusTip().isEmpty(), qPrintable(a->text()));
-        QVERIFY2(lines.filter("/" + a->text() + " | ").size() == 1, qPrintable(a->text()));
-        QVERIFY2(!a->isEnabled(), qPrintable(a->text()));
-    }
+    for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c)
+        QVERIFY2(!window.action(MainCommand(c))->isEnabled(), qPrintable(QString::number(c)));
     QAction* receivables = window.action(MainCommand::ReceivablesByInvoices);
     QAction* submenu = nullptr;
     for (QAction* top : window.menuBar()->actions()) {
@@ -185,70 +152,6 @@ void TestMainWindow::listLoading()
     }
     QCOMPARE(seenOrders, orders);
     QCOMPARE(seenProducts, products);
-}
-
-// The backup is proposed in the backup folder under the company's name; restored after later
-// work, it brings the saved company back into the window.
-void TestMainWindow::backupAndRestoreCommands()
-{
-    SetCompany("Mentett Kft", "1");
-    MainWindow& window = open();
-    QString folder, proposed;
-    ModalDriver saving({[&](QWidget* w) {
-                            auto* dialog = qobject_cast<QFileDialog*>(w);
-                            QVERIFY2(dialog, w->metaObject()->className());
-                            folder = dialog->directory().absolutePath();
-                            proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-                            static_cast<QDialog*>(dialog)->accept();
-                        },
-                        Answer(&m_messages)});
-    window.action(MainCommand::DoBackup)->trigger();
-    QVERIFY(saving.done());
-    QCOMPARE(folder, BaseFolder::backupFolder());
-    QCOMPARE(proposed, "company.dbk");
-    QVERIFY(Database::isOpen());
-
-    SetCompany("Későbbi Kft", "2");
-    window.companyChanged();
-    const int reloadsBefore = reloads(MainTab::Orders);
-    ModalDriver restoring({Answer(&m_messages, QMessageBox::Yes),
-                           ChooseFile(BaseFolder::backupFolder() + "/company.dbk"),
-                           Answer(&m_messages)});
-    window.action(MainCommand::RestoreBackup)->trigger();
-    QVERIFY(restoring.done());
-    QCOMPARE(m_messages, QStringList({"Backup file saved successfully.",
-                                      "The content of current database will be overwritten&by "
-                                      "the backup file you select to restore.&Do you want to "
-                                      "continue?",
-                                      "Backup file restored successfully."}));
-    QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Mentett Kft (adószám:1)");
-    QCOMPARE(reloads(MainTab::Orders), reloadsBefore + 1);
-}
-
-void TestMainWindow::masterDataPagesFollowLoadingRules_data()
-{
-    QTest::addColumn<bool>("onStart");
-    QTest::addColumn<int>("rowsOnOpening");
-    AddRow("load on start", true, 1);
-    AddRow("both off", false, 0);
-}
-
-// The real Products and Partners pages are read by the window's rules, not when they are made.
-void TestMainWindow::masterDataPagesFollowLoadingRules()
-{
-    QFETCH(bool, onStart);
-    QFETCH(int, rowsOnOpening);
-    SetLoading(onStart, false);
-    MainWindow& window = open({});
-    auto* products = Child<QTableView>(window.tabPage(MainTab::Products), "m_list");
-    auto* partners = Child<QTableView>(window.tabPage(MainTab::Partners), "m_list");
-    window.showTab(MainTab::Products);
-    QCOMPARE(products->model()->rowCount(), rowsOnOpening);
-    window.showTab(MainTab::Partners);
-    QCOMPARE(partners->model()->rowCount(), rowsOnOpening);
-    // Asked for by the user, the list is read whatever the settings say.
-    Child<QPushButton>(window.tabPage(MainTab::Partners), "m_find")->click();
-    QCOMPARE(partners->model()->rowCount(), 1);
 }
 
 // The lists must never go on showing the rows of the company that was left.

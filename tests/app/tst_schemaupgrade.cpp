@@ -251,10 +251,8 @@ void TestSchemaUpgrade::failureKeepsOriginal_data()
     const QString unable = "Unable to upgrade database.";
     const QString failed = kErrorUpgrading;
     const QString aborted = "Upgrading database aborted.";
-    AddRow("first step fails", -1, 0, "", 1, -1, QStringList{unable, failed});
     // The file must come back without a version table, not at version 3.
     AddRow("U4 fails after U1-U3", -1, 0, "", 4, -1, QStringList{unable, failed});
-    AddRow("last step of the whole chain fails", -1, 0, "", 6, -1, QStringList{unable, failed});
     AddRow("U6 from 301 fails", 301, 0, "", 6, -1, QStringList{unable, failed});
     AddRow("index to drop is missing", 3, 0, "partner index", 0, -1, QStringList{unable, failed});
     AddRow("old rounding setting is missing", 1, 0, "round digits", 0, -1,

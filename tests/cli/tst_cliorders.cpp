@@ -1,5 +1,6 @@
-// tallynorth-cli order and orders, driven as a script drives them: the demonstration company,
-// exit statuses, the questions answered yes or refused with --no, and what ends up stored.
+// tallynorth-cli driven as a script drives it on the demonstration company: orders added, shown,
+// listed, cloned and deleted; invoices issued, printed and cancelled with numbers 1 and 2; 40 % of
+// an invoice paid and then the rest. Bad usage exits 2, refusals 1, and nothing is written.
 #include "TestData.h"
 
 #include "base/Database.h"
@@ -13,6 +14,8 @@ class TestCliOrders : public QObject
 private Q_SLOTS:
     void init();
     void addShowListCloneDelete();
+    void issuePrintCancel();
+    void payFortyPercentThenTheRest();
     void badInput_data();
     void badInput();
 
@@ -23,6 +26,8 @@ private:
                           m_runtime.path());
     }
     QString stored(const QString& sql) const;
+    QString pdf(const QString& name) const { return m_base->path() + "/" + name; }
+    QString db() const { return m_base->path() + "/DB/demo.db"; }
 
     std::optional<QTemporaryDir> m_base;
     QTemporaryDir m_runtime;
@@ -32,6 +37,7 @@ void TestCliOrders::init()
 {
     QVERIFY(m_base.emplace().isValid());
     QCOMPARE(cli({"check"}).exitCode, 0);
+    QCOMPARE(cli({"--db", db(), "template", "install", TN_TEMPLATE_DIR}).exitCode, 0);
     // A euro price for the demo product, and a second product without any price.
     QCOMPARE(stored("insert into PRODUCTPRICE values (1, 1, 4.5)"), QString());
     QCOMPARE(stored("insert into PRODUCT (PRODUCT_NAME, PRODUCT_NAME_ASCII, PRODUCT_VAT_ID) "
@@ -41,7 +47,7 @@ void TestCliOrders::init()
 
 QString TestCliOrders::stored(const QString& sql) const
 {
-    if (!Database::open(m_base->path() + "/DB/demo.db"))
+    if (!Database::open(db()))
         return "<no database>";
     const QString text = QueryText(sql);
     Database::close();
@@ -92,20 +98,76 @@ void TestCliOrders::addShowListCloneDelete()
     QCOMPARE(stored("select count(*) from ORDERHEAD where ORDERHEAD_ID = " + copy), "0");
 }
 
+void TestCliOrders::issuePrintCancel()
+{
+    ProcessRun run = cli({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out.trimmed(), QString("000001"));
+    QVERIFY(QFileInfo(pdf("1.pdf")).size() > 1000);
+    run = cli({"print", "000001", "--pdf", pdf("1b.pdf")});
+    QCOMPARE(run.exitCode, 0);
+    run = cli({"cancel", "000001", "--pdf", pdf("2.pdf"), "--shipped", "2024.03.05."});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out.trimmed(), QString("000002"));
+    QCOMPARE(stored("select ORDERHEAD_INVOICE_NO, ORDERHEAD_TYPE, ORDERHEAD_CANCELLING_INVOICE_NO, "
+                    "ORDERHEAD_CANCELLED_INVOICE_NO, ORDERHEAD_PRINTED_COPIES from ORDERHEAD "
+                    "order by 1"),
+             QString("1|0|2||4; 2|1||1|2"));
+    run = cli({"orders"});
+    QVERIFY(run.out.contains("Cancelled Invoice") && run.out.contains("Cancel Invoice"));
+    QCOMPARE(cli({"sample", "--pdf", pdf("sample.pdf")}).exitCode, 0);
+}
+
+void TestCliOrders::payFortyPercentThenTheRest()
+{
+    // The demonstration order: 3175 Ft by transfer, unpaid once issued.
+    QCOMPARE(cli({"issue", "1", "--pdf", pdf("1.pdf")}).exitCode, 0);
+    QCOMPARE(cli({"payments", "000001"}).err.trimmed(),
+             QString("There are no bank items to this invoice."));
+    ProcessRun run = cli({"pay", "000001", "1270", "--date", "2024-05-02", "--record-no", "K/12"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out.trimmed(), QString("000001: unpaid 1905 Ft"));
+    run = cli({"orders", "--kind", "6"});
+    QVERIFY2(run.out.contains("000001") && run.out.contains("\t3175\t1905\t"), qPrintable(run.out));
+
+    run = cli({"pay", "000001", "1905,00", "--date", "2024.05.09.", "--comment", "a maradék"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out.trimmed(), QString("000001: paid"));
+    QVERIFY(!cli({"orders", "--kind", "6"}).out.contains("000001"));
+    run = cli({"payments", "000001"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts),
+             (QStringList{"Record No\tTransfer Date\tPaid\tComment", "K/12\t2024-05-02\t1270\t",
+                          "\t2024-05-09\t1905\ta maradék", "000001: paid"}));
+    QCOMPARE(stored("select ORDERHEAD_PAID, ORDERHEAD_UNPAID_TOTAL from ORDERHEAD where "
+                    "ORDERHEAD_INVOICE_NO = 1"),
+             QString("1|0"));
+}
+
 void TestCliOrders::badInput_data()
 {
     QTest::addColumn<QStringList>("args");
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("message");
-    QTest::newRow("letters in the quantity")
-        << QStringList{"--partner", "1", "--item", "1:x"} << 2 << "Invalid order item \"1:x\"";
-    QTest::newRow("no price at all")
-        << QStringList{"--partner", "1", "--item", "2:1"} << 1 << "Price field must have a value.";
-    QTest::newRow("unknown partner")
-        << QStringList{"--partner", "Senki", "--item", "1:1"} << 1 << "Partner not found: Senki";
-    QTest::newRow("old shipping refused")
-        << QStringList{"--partner", "1", "--item", "1:1", "--shipped", "2020-01-01", "--no"} << 1
-        << "-> no";
+    const QStringList order{"order", "add", "--partner"};
+    AddRow("letters in the quantity", order + QStringList{"1", "--item", "1:x"}, 2,
+           QString("Invalid order item \"1:x\""));
+    AddRow("unknown partner", order + QStringList{"Senki", "--item", "1:1"}, 1,
+           QString("Partner not found: Senki"));
+    AddRow("old shipping refused",
+           order + QStringList{"1", "--item", "1:1", "--shipped", "2020-01-01", "--no"}, 1,
+           QString("-> no"));
+    AddRow("issue without id", QStringList{"issue"}, 2, QString("usage"));
+    AddRow("copies not a number", QStringList{"issue", "1", "--copies", "x"}, 2, QString("usage"));
+    AddRow("print of no invoice", QStringList{"print", "X", "--pdf", "x.pdf"}, 1,
+           QString("There is no invoice with No. X."));
+    AddRow("pdf in a missing folder", QStringList{"issue", "1", "--pdf", "/nonexistent/x.pdf"}, 1,
+           QString("Can't print invoice"));
+    AddRow("payment without date", QStringList{"pay", "000001", "10"}, 2, QString("usage"));
+    AddRow("payment date not a date", QStringList{"pay", "000001", "10", "--date", "soon"}, 2,
+           QString("Not a date: soon"));
+    AddRow("payment of no invoice", QStringList{"pay", "000009", "10", "--date", "2024-05-02"}, 1,
+           QString("There is no invoice"));
 }
 
 void TestCliOrders::badInput()
@@ -113,14 +175,13 @@ void TestCliOrders::badInput()
     QFETCH(QStringList, args);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
-    const QString before =
-        stored("select count(*) from ORDERHEAD") + "/" + stored("select count(*) from ORDERITEM");
-    const ProcessRun run = cli(QStringList{"order", "add"} + args);
+    const QString written = "select (select count(*) from ORDERHEAD) || '/' || (select count(*) "
+                            "from ORDERITEM) || '/' || (select count(*) from BANKITEM)";
+    const QString before = stored(written);
+    const ProcessRun run = cli(args);
     QCOMPARE(run.exitCode, exitCode);
     QVERIFY2(run.err.contains(message), qPrintable(run.err));
-    QCOMPARE(stored("select count(*) from ORDERHEAD") + "/" +
-                 stored("select count(*) from ORDERITEM"),
-             before);
+    QCOMPARE(stored(written), before);
 }
 
 QTEST_GUILESS_MAIN(TestCliOrders)
