@@ -93,8 +93,6 @@ private Q_SLOTS:
         QTest::newRow("due before shipped")
             << false << false << "2024.06.01."
             << "2024.05.31." << 1 << "The payment due date can not be before the shipping date.";
-        QTest::newRow("not a date") << false << false << "2024.13.45."
-                                    << "2024.06.09." << 1 << "Invalid date.";
         QTest::newRow("consolidated by items needs no date") << true << true << ""
                                                              << "2024.06.09." << 1 << QString();
         QTest::newRow("consolidated with one date")

@@ -53,29 +53,6 @@ private Q_SLOTS:
     void init() { QVERIFY(m_company.emplace().isValid()); }
     void cleanup() { m_company.reset(); }
 
-    void checksInOrder_data()
-    {
-        QTest::addColumn<QStringList>("edits");
-        QTest::addColumn<QString>("message");
-        AddRow("rate letters", QStringList{"m_currency_rate=abc"},
-               QString("Currency Rate field is required."));
-        AddRow("shipped empty", QStringList{"m_date_shipped="},
-               QString("Date Shipped field must have a value."));
-    }
-    void checksInOrder()
-    {
-        QFETCH(QStringList, edits);
-        QFETCH(QString, message);
-        ScriptedInteraction interaction;
-        OrderEdit edit(PartnerOrder(), interaction);
-        for (const QString& e : std::as_const(edits))
-            SetText(&edit, qPrintable(e.section('=', 0, 0)), e.section('=', 1));
-        edit.accept();
-        QCOMPARE(interaction.lastMessage(), message);
-        QVERIFY(interaction.questions.isEmpty());
-        QCOMPARE(edit.result(), int(QDialog::Rejected));
-    }
-
     void partnerNotInBasicData_data()
     {
         QTest::addColumn<bool>("store");

@@ -1,5 +1,5 @@
-// The "Orders/Invoices" tab on the offscreen platform against a real company: the commands'
-// preconditions and messages, sorting, and the refusals of cancelling.
+// The "Orders/Invoices" tab on the offscreen platform against a real company: sorting, the
+// refusal to print unverified orders and the refusals of cancelling.
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
 #include "TestData.h"
@@ -67,37 +67,6 @@ private Q_SLOTS:
         m_list.reset();
         m_company.reset();
         SetOrderPrintHooks({});
-    }
-
-    void selectionPreconditions_data()
-    {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<QString>("message");
-        AddRow("edit, none", QString("edit"), 0,
-               QString("Select an order/invoice to edit or view."));
-        AddRow("delete, none", QString("delete"), 0,
-               QString("Select at least an order/invoice to delete."));
-        AddRow("preview, two", QString("preview"), 2, QString("Select an order to print."));
-        AddRow("print, none", QString("print"), 0, QString("Select at least an order to print."));
-        AddRow("cancel, none", QString("cancel"), 0, QString("Select an order/invoice to cancel."));
-    }
-    void selectionPreconditions()
-    {
-        QFETCH(QString, command);
-        QFETCH(int, selected);
-        QFETCH(QString, message);
-        const qint64 ids[] = {m_invoice, m_cancelled};
-        for (int i = 0; i < selected; ++i)
-            m_list->selectId(ids[i]);
-        const QHash<QString, void (OrderList::*)()> commands = {
-            {"edit", &OrderList::editOrder},       {"delete", &OrderList::deleteOrders},
-            {"preview", &OrderList::previewOrder}, {"print", &OrderList::printOrders},
-            {"cancel", &OrderList::cancelInvoice},
-        };
-        (m_list.operator->()->*commands.value(command))();
-        QCOMPARE(m_ask.lastMessage(), message);
-        QVERIFY(m_ask.questions.isEmpty());
     }
 
     void sortByColumnAndBack()
