@@ -67,17 +67,226 @@ class TestInvoiceRender : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        QVERIFY(m_company.emplace().isValid());
+        QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
+        QVERIFY(
+            ExecSql("update SETUP set SETUP_NAME = 'Minta Kft.', SETUP_TAX_NO = '12345676-2-41', "
+                    "SETUP_BANK_NAME = 'OTP', SETUP_BANK_ACCT_NO = '11700000-1'"));
+        QVERIFY(Setup::current().load());
+        QVERIFY(LabelTranslations::current().load());
+        QVERIFY(LoadTemplateFromSetup().certified());
+    }
     void cleanup() { m_company.reset(); }
-    void render_data();
-    void render();
-    void dataIsNeverFormatting();
-    void titleAndCopyMark_data();
-    void titleAndCopyMark();
-    void refusals_data();
-    void refusals();
-    void logo();
-    void pdfCopiesAndSample();
+
+    void render_data()
+    {
+        QTest::addColumn<qint64>("currency");
+        QTest::addColumn<qint64>("language");
+        QTest::addColumn<bool>("consolidated");
+        QTest::addColumn<QStringList>("present");
+        QTest::addColumn<QStringList>("absent");
+        // 3 + 2 + 3 pieces of 1000 Ft at 27%; a euro at 280 Ft makes 3.57 EUR a piece.
+        AddRow("forint", qint64(0), qint64(0), false,
+               QStringList{"Sorszám: !P.INVOICE.NO.STR!", "Minta Kft.", "Adószám: 12345676-2-41",
+                           "Számlavezető: OTP", "2024.03.05.", "8 000 Ft", "10 160 Ft",
+                           "Bruttó végösszeg: tízezer egyszázhatvan Ft", "Teszt termék", "27%"},
+               QStringList{"Árfolyam", " / "});
+        AddRow("euro with rate block", qint64(1), qint64(0), false,
+               QStringList{"Árfolyam: 1 EUR = 280 Ft", "28,56 EUR", "Végösszegek forintban",
+                           "7 997 Ft"},
+               QStringList{"Bruttó végösszeg:"});
+        AddRow("consolidated", qint64(0), qint64(0), true,
+               QStringList{"Teljesítés: 2024.03.05.; ÁFA: 27%", "Összesen (2024.03.06., 27%)",
+                           "By Items"},
+               QStringList{});
+        AddRow("English partner", qint64(0), qint64(1), false,
+               QStringList{"Invoice No / Sorszám", "Bill To / Vevő", "Hungarian Tax No. / Adószám",
+                           "Page / oldal: 1/"},
+               QStringList{});
+    }
+
+    void render()
+    {
+        QFETCH(qint64, currency);
+        QFETCH(qint64, language);
+        QFETCH(bool, consolidated);
+        QFETCH(QStringList, present);
+        QFETCH(QStringList, absent);
+        QVERIFY(CalcLocalCurrencyTotals(NewOrder({currency, language, consolidated, {}})));
+        FrozenInvoice f;
+        const Result r = renderOrder(2, f);
+        QVERIFY2(r, qPrintable(r.message()));
+        const QString text = Plain(f);
+        for (const QString& s : present)
+            QVERIFY2(text.contains(s), qPrintable(s + " missing from:\n" + text));
+        for (const QString& s : absent)
+            QVERIFY2(!text.contains(s), qPrintable(s + " unexpected in:\n" + text));
+        QVERIFY2(!text.contains("ERROR"), qPrintable(text));
+    }
+
+    void dataIsNeverFormatting()
+    {
+        const QString subject = "[* x] {{a}} `b` \\c !P.TITLE! 100% & C++ --";
+        const qint64 id = NewOrder({0, 0, false, subject});
+        QVERIFY(ExecSql("update ORDERITEM set ORDERITEM_NAME = '!ORDERHEAD.SUBJECT! ]::||' where "
+                        "ORDERITEM_ORDERHEAD_ID = ?",
+                        {id}));
+        FrozenInvoice f;
+        QVERIFY(renderOrder(id, f));
+        Report report;
+        QVERIFY(PrintCopy(report, f, {0, false, 0, 0, "7", false}, LabelTranslations::current()));
+        const QString text = Plain(f);
+        QVERIFY2(text.contains(subject), qPrintable(text));
+        QVERIFY2(text.contains("!ORDERHEAD.SUBJECT! ]::||"), qPrintable(text));
+        QVERIFY(!text.contains("ERROR"));
+    }
+
+    // The title of each kind of invoice and copy, and the copy mark, in the partner's language.
+    void titleAndCopyMark_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("copy");
+        QTest::addColumn<bool>("consolidated");
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("mark");
+        AddRow("invoice", 0, 1, false, 0, QString("Számla"), QString("1. (eredeti)"));
+        AddRow("copy", 0, 2, false, 0, QString("Számla (másolat)"), QString("2."));
+        AddRow("English", 0, 1, false, 1, QString("Számla / Invoice"),
+               QString("1. (Original copy/eredeti)"));
+        AddRow("consolidated German", 0, 0, true, 2, QString("Gyűjtőszámla / Konzernrechnung"),
+               QString());
+        AddRow("cancelling", 1, 0, true, 0, QString("Sztornó számla"), QString());
+        AddRow("unknown type", 5, 0, false, 0, QString("Error: invalid ORDERHEAD_TYPE"), QString());
+    }
+
+    void titleAndCopyMark()
+    {
+        QFETCH(int, type);
+        QFETCH(int, copy);
+        QFETCH(bool, consolidated);
+        QFETCH(int, language);
+        QFETCH(QString, title);
+        QFETCH(QString, mark);
+        const LabelTranslations& labels = LabelTranslations::current();
+        QCOMPARE(InvoiceTitle(type, copy > 1 ? copy - 1 : 0, consolidated, language, labels),
+                 title);
+        if (!mark.isEmpty())
+            QCOMPARE(InvoiceCopyMark(copy, language, labels), mark);
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("message");
+        AddRow("no items", QString("delete from ORDERITEM"),
+               QString("It is not allowed to print an invoice without items."));
+        AddRow("uncertified template", QString("update SETUP set SETUP_INVOICE_BODY_QTF = 'x'"),
+               QString("Invoice template currently set up is not certified."));
+        AddRow(
+            "consolidated without its piece",
+            QString(
+                "update ORDERHEAD set ORDERHEAD_CONSOLIDATED_INVOICE = '1'; update SETUP set "
+                "SETUP_INVOICE_CONSOLIDATED_HEADER_QTF = '', SETUP_INVOICE_DIGEST = 'recompute'"),
+            QString("doesn't support consolidated invoice"));
+        AddRow("logo not a picture",
+               QString("insert into LOGO values (1, 'bm90IGEgcGljdHVyZQ=='); update SETUP set "
+                       "SETUP_INVOICE_LOGO_PRINT = '1', SETUP_INVOICE_LOGO_ID = 1"),
+               QString("is not a picture"));
+        AddRow("forint row gone",
+               QString("delete from CURRENCYY where CURRENCY_ID = 0; update "
+                       "ORDERHEAD set ORDERHEAD_CURRENCY_ID = 1"),
+               QString("forint"));
+    }
+
+    void refusals()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, message);
+        const qint64 id = NewOrder({});
+        for (const QString& sql : change.split("; "))
+            QVERIFY(ExecSql(sql));
+        if (change.contains("recompute")) {
+            InvoiceTemplate t = LoadTemplateFromSetup(Setup::current());
+            QVERIFY(Setup::current().load());
+            t = LoadTemplateFromSetup();
+            t.setDigest(t.computeDigest());
+            QVERIFY(SaveTemplateToSetup(t));
+        }
+        QVERIFY(Setup::current().load());
+        const QString before =
+            QueryText("select * from ORDERHEAD") + QueryText("select * from INVOICE");
+        ScriptedInteraction interaction;
+        InvoiceIssue::Outcome outcome;
+        const Result r = InvoiceIssue::print(id, interaction, nullptr, outcome);
+        QVERIFY(!r);
+        QVERIFY2(r.message().contains(message), qPrintable(r.message()));
+        QCOMPARE(QueryText("select * from ORDERHEAD") + QueryText("select * from INVOICE"), before);
+    }
+
+    void logo()
+    {
+        QImage image(40, 20, QImage::Format_RGB32);
+        image.fill(Qt::darkBlue);
+        QByteArray png;
+        QBuffer buffer(&png);
+        QVERIFY(image.save(&buffer, "PNG"));
+        QVERIFY(ExecSql("insert into LOGO values (1, ?)", {QString::fromLatin1(png.toBase64())}));
+        QVERIFY(
+            ExecSql("update SETUP set SETUP_INVOICE_LOGO_PRINT = '1', SETUP_INVOICE_LOGO_ID = 1, "
+                    "SETUP_INVOICE_LOGO_SIZE_PERCENT = 50"));
+        FrozenInvoice f;
+        QVERIFY(renderOrder(NewOrder({}), f));
+        QCOMPARE(f.logoId, std::optional<qint64>(1));
+        QCOMPARE(f.logoSizePercent, 50.0);
+        QVERIFY(f.header.contains("!P.LOGO!"));
+        Report report;
+        QVERIFY(PrintCopy(report, f, {}, LabelTranslations::current()));
+        QVERIFY(report.pageCount() == 1);
+    }
+
+    void pdfCopiesAndSample()
+    {
+        const auto pdfText = [](const QString& path) {
+            return RunProcess("pdftotext", {"-layout", path, "-"}).out.replace(QChar(0xA0), u' ');
+        };
+        const qint64 id = NewOrder({1, 1, false, "Gépek"});
+        const QString path = m_company->dir() + "/invoice.pdf";
+        PdfInvoiceOutput pdf(path);
+        ScriptedInteraction interaction;
+        InvoicePrintOptions options;
+        options.copies = 2;
+        InvoiceIssue::Outcome outcome;
+        const Result r = InvoiceIssue::print(id, interaction, &pdf, outcome, options);
+        QVERIFY2(r, qPrintable(r.message()));
+        QCOMPARE(outcome.invoice.numberText, QString("000001"));
+        QString text = pdfText(path);
+        QVERIFY2(text.contains("1. (Original copy/eredeti)") && text.contains("Invoice (copy)") &&
+                     text.contains("1 EUR = 280 Ft") && text.contains("1/1"),
+                 qPrintable(text));
+        QCOMPARE(interaction.progressTexts, QStringList{"Printing invoices. Please wait."});
+
+        // A later print is built from the frozen row alone and counts on.
+        QVERIFY(ExecSql("update SETUP set SETUP_INVOICE_BODY_QTF = 'changed'"));
+        QVERIFY(Setup::current().load());
+        options.copies = 1;
+        QVERIFY(InvoiceIssue::print(id, interaction, &pdf, outcome, options));
+        text = pdfText(path);
+        QVERIFY2(text.contains("3.") && text.contains("Gépek") && !text.contains("changed"),
+                 qPrintable(text));
+        QCOMPARE(QueryText("select ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = ?",
+                           {id}),
+                 QString("3"));
+
+        QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
+        QVERIFY(Setup::current().load());
+        QVERIFY(InvoiceIssue::printSample(pdf));
+        text = pdfText(path);
+        QVERIFY2(text.contains("Invoice Sample") && text.contains("This is an invoice sample."),
+                 qPrintable(text));
+    }
 
 private:
     Result renderOrder(qint64 id, FrozenInvoice& f) const
@@ -86,226 +295,6 @@ private:
     }
     std::optional<TestCompany> m_company;
 };
-
-void TestInvoiceRender::init()
-{
-    QVERIFY(m_company.emplace().isValid());
-    QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
-    QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Minta Kft.', SETUP_TAX_NO = '12345676-2-41', "
-                    "SETUP_BANK_NAME = 'OTP', SETUP_BANK_ACCT_NO = '11700000-1'"));
-    QVERIFY(Setup::current().load());
-    QVERIFY(LabelTranslations::current().load());
-    QVERIFY(LoadTemplateFromSetup().certified());
-}
-
-void TestInvoiceRender::render_data()
-{
-    QTest::addColumn<qint64>("currency");
-    QTest::addColumn<qint64>("language");
-    QTest::addColumn<bool>("consolidated");
-    QTest::addColumn<QStringList>("present");
-    QTest::addColumn<QStringList>("absent");
-    // 3 + 2 + 3 pieces of 1000 Ft at 27%; a euro at 280 Ft makes 3.57 EUR a piece.
-    AddRow("forint", qint64(0), qint64(0), false,
-           QStringList{"Sorszám: !P.INVOICE.NO.STR!", "Minta Kft.", "Adószám: 12345676-2-41",
-                       "Számlavezető: OTP", "2024.03.05.", "8 000 Ft", "10 160 Ft",
-                       "Bruttó végösszeg: tízezer egyszázhatvan Ft", "Teszt termék", "27%"},
-           QStringList{"Árfolyam", " / "});
-    AddRow(
-        "euro with rate block", qint64(1), qint64(0), false,
-        QStringList{"Árfolyam: 1 EUR = 280 Ft", "28,56 EUR", "Végösszegek forintban", "7 997 Ft"},
-        QStringList{"Bruttó végösszeg:"});
-    AddRow(
-        "consolidated", qint64(0), qint64(0), true,
-        QStringList{"Teljesítés: 2024.03.05.; ÁFA: 27%", "Összesen (2024.03.06., 27%)", "By Items"},
-        QStringList{});
-    AddRow("English partner", qint64(0), qint64(1), false,
-           QStringList{"Invoice No / Sorszám", "Bill To / Vevő", "Hungarian Tax No. / Adószám",
-                       "Page / oldal: 1/"},
-           QStringList{});
-    AddRow("German partner, label without German text", qint64(0), qint64(2), false,
-           QStringList{"VTSZ/SZJ", "Kunde"}, QStringList{"/ VTSZ/SZJ"});
-}
-
-void TestInvoiceRender::render()
-{
-    QFETCH(qint64, currency);
-    QFETCH(qint64, language);
-    QFETCH(bool, consolidated);
-    QFETCH(QStringList, present);
-    QFETCH(QStringList, absent);
-    QVERIFY(CalcLocalCurrencyTotals(NewOrder({currency, language, consolidated, {}})));
-    FrozenInvoice f;
-    const Result r = renderOrder(2, f);
-    QVERIFY2(r, qPrintable(r.message()));
-    const QString text = Plain(f);
-    for (const QString& s : present)
-        QVERIFY2(text.contains(s), qPrintable(s + " missing from:\n" + text));
-    for (const QString& s : absent)
-        QVERIFY2(!text.contains(s), qPrintable(s + " unexpected in:\n" + text));
-    QVERIFY2(!text.contains("ERROR"), qPrintable(text));
-}
-
-void TestInvoiceRender::dataIsNeverFormatting()
-{
-    const QString subject = "[* x] {{a}} `b` \\c !P.TITLE! 100% & C++ --";
-    const qint64 id = NewOrder({0, 0, false, subject});
-    QVERIFY(ExecSql("update ORDERITEM set ORDERITEM_NAME = '!ORDERHEAD.SUBJECT! ]::||' where "
-                    "ORDERITEM_ORDERHEAD_ID = ?",
-                    {id}));
-    FrozenInvoice f;
-    QVERIFY(renderOrder(id, f));
-    Report report;
-    QVERIFY(PrintCopy(report, f, {0, false, 0, 0, "7", false}, LabelTranslations::current()));
-    const QString text = Plain(f);
-    QVERIFY2(text.contains(subject), qPrintable(text));
-    QVERIFY2(text.contains("!ORDERHEAD.SUBJECT! ]::||"), qPrintable(text));
-    QVERIFY(!text.contains("ERROR"));
-}
-
-// The title of each kind of invoice and copy, and the copy mark, in the partner's language.
-void TestInvoiceRender::titleAndCopyMark_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("copy");
-    QTest::addColumn<bool>("consolidated");
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("mark");
-    AddRow("invoice", 0, 1, false, 0, QString("Számla"), QString("1. (eredeti)"));
-    AddRow("copy", 0, 2, false, 0, QString("Számla (másolat)"), QString("2."));
-    AddRow("English", 0, 1, false, 1, QString("Számla / Invoice"),
-           QString("1. (Original copy/eredeti)"));
-    AddRow("English copy", 0, 2, false, 1, QString("Számla (másolat) / Invoice (copy)"),
-           QString("2."));
-    AddRow("consolidated German", 0, 0, true, 2, QString("Gyűjtőszámla / Konzernrechnung"),
-           QString());
-    AddRow("cancelling", 1, 0, true, 0, QString("Sztornó számla"), QString());
-    AddRow("unknown type", 5, 0, false, 0, QString("Error: invalid ORDERHEAD_TYPE"), QString());
-}
-
-void TestInvoiceRender::titleAndCopyMark()
-{
-    QFETCH(int, type);
-    QFETCH(int, copy);
-    QFETCH(bool, consolidated);
-    QFETCH(int, language);
-    QFETCH(QString, title);
-    QFETCH(QString, mark);
-    const LabelTranslations& labels = LabelTranslations::current();
-    QCOMPARE(InvoiceTitle(type, copy > 1 ? copy - 1 : 0, consolidated, language, labels), title);
-    if (!mark.isEmpty())
-        QCOMPARE(InvoiceCopyMark(copy, language, labels), mark);
-}
-
-void TestInvoiceRender::refusals_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<QString>("message");
-    AddRow("no items", QString("delete from ORDERITEM"),
-           QString("It is not allowed to print an invoice without items."));
-    AddRow("uncertified template", QString("update SETUP set SETUP_INVOICE_BODY_QTF = 'x'"),
-           QString("Invoice template currently set up is not certified."));
-    AddRow(
-        "consolidated without its piece",
-        QString("update ORDERHEAD set ORDERHEAD_CONSOLIDATED_INVOICE = '1'; update SETUP set "
-                "SETUP_INVOICE_CONSOLIDATED_HEADER_QTF = '', SETUP_INVOICE_DIGEST = 'recompute'"),
-        QString("doesn't support consolidated invoice"));
-    AddRow("logo not a picture",
-           QString("insert into LOGO values (1, 'bm90IGEgcGljdHVyZQ=='); update SETUP set "
-                   "SETUP_INVOICE_LOGO_PRINT = '1', SETUP_INVOICE_LOGO_ID = 1"),
-           QString("is not a picture"));
-    AddRow("forint row gone",
-           QString("delete from CURRENCYY where CURRENCY_ID = 0; update "
-                   "ORDERHEAD set ORDERHEAD_CURRENCY_ID = 1"),
-           QString("forint"));
-}
-
-void TestInvoiceRender::refusals()
-{
-    QFETCH(QString, change);
-    QFETCH(QString, message);
-    const qint64 id = NewOrder({});
-    for (const QString& sql : change.split("; "))
-        QVERIFY(ExecSql(sql));
-    if (change.contains("recompute")) {
-        InvoiceTemplate t = LoadTemplateFromSetup(Setup::current());
-        QVERIFY(Setup::current().load());
-        t = LoadTemplateFromSetup();
-        t.setDigest(t.computeDigest());
-        QVERIFY(SaveTemplateToSetup(t));
-    }
-    QVERIFY(Setup::current().load());
-    const QString before =
-        QueryText("select * from ORDERHEAD") + QueryText("select * from INVOICE");
-    ScriptedInteraction interaction;
-    InvoiceIssue::Outcome outcome;
-    const Result r = InvoiceIssue::print(id, interaction, nullptr, outcome);
-    QVERIFY(!r);
-    QVERIFY2(r.message().contains(message), qPrintable(r.message()));
-    QCOMPARE(QueryText("select * from ORDERHEAD") + QueryText("select * from INVOICE"), before);
-}
-
-void TestInvoiceRender::logo()
-{
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(Qt::darkBlue);
-    QByteArray png;
-    QBuffer buffer(&png);
-    QVERIFY(image.save(&buffer, "PNG"));
-    QVERIFY(ExecSql("insert into LOGO values (1, ?)", {QString::fromLatin1(png.toBase64())}));
-    QVERIFY(ExecSql("update SETUP set SETUP_INVOICE_LOGO_PRINT = '1', SETUP_INVOICE_LOGO_ID = 1, "
-                    "SETUP_INVOICE_LOGO_SIZE_PERCENT = 50"));
-    FrozenInvoice f;
-    QVERIFY(renderOrder(NewOrder({}), f));
-    QCOMPARE(f.logoId, std::optional<qint64>(1));
-    QCOMPARE(f.logoSizePercent, 50.0);
-    QVERIFY(f.header.contains("!P.LOGO!"));
-    Report report;
-    QVERIFY(PrintCopy(report, f, {}, LabelTranslations::current()));
-    QVERIFY(report.pageCount() == 1);
-}
-
-void TestInvoiceRender::pdfCopiesAndSample()
-{
-    const auto pdfText = [](const QString& path) {
-        return RunProcess("pdftotext", {"-layout", path, "-"}).out.replace(QChar(0xA0), u' ');
-    };
-    const qint64 id = NewOrder({1, 1, false, "Gépek"});
-    const QString path = m_company->dir() + "/invoice.pdf";
-    PdfInvoiceOutput pdf(path);
-    ScriptedInteraction interaction;
-    InvoicePrintOptions options;
-    options.copies = 2;
-    InvoiceIssue::Outcome outcome;
-    const Result r = InvoiceIssue::print(id, interaction, &pdf, outcome, options);
-    QVERIFY2(r, qPrintable(r.message()));
-    QCOMPARE(outcome.invoice.numberText, QString("000001"));
-    QString text = pdfText(path);
-    QVERIFY2(text.contains("1. (Original copy/eredeti)") && text.contains("Invoice (copy)") &&
-                 text.contains("1 EUR = 280 Ft") && text.contains("1/1"),
-             qPrintable(text));
-    QCOMPARE(interaction.progressTexts, QStringList{"Printing invoices. Please wait."});
-
-    // A later print is built from the frozen row alone and counts on.
-    QVERIFY(ExecSql("update SETUP set SETUP_INVOICE_BODY_QTF = 'changed'"));
-    QVERIFY(Setup::current().load());
-    options.copies = 1;
-    QVERIFY(InvoiceIssue::print(id, interaction, &pdf, outcome, options));
-    text = pdfText(path);
-    QVERIFY2(text.contains("3.") && text.contains("Gépek") && !text.contains("changed"),
-             qPrintable(text));
-    QCOMPARE(
-        QueryText("select ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = ?", {id}),
-        QString("3"));
-
-    QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
-    QVERIFY(Setup::current().load());
-    QVERIFY(InvoiceIssue::printSample(pdf));
-    text = pdfText(path);
-    QVERIFY2(text.contains("Invoice Sample") && text.contains("This is an invoice sample."),
-             qPrintable(text));
-}
 
 QTEST_MAIN(TestInvoiceRender)
 #include "tst_invoicerender.moc"

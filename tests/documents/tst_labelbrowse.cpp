@@ -1,7 +1,5 @@
-// "Invoice Label Translations" on the offscreen platform: one column per language, only the
-// foreign texts are saved, a cleared text loses its row, and the next invoice sees the saved
-// labels.
-#include "ModalDriver.h"
+// "Invoice Label Translations" on the offscreen platform: only the foreign texts are saved, a
+// cleared text loses its row, and the next invoice sees the saved labels.
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
 #include "TestData.h"
@@ -9,8 +7,6 @@
 #include "documents/LabelTranslations.h"
 #include "documents/ui/OrderLabelTranslationBrowse.h"
 
-#include <QHeaderView>
-#include <QLineEdit>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -49,24 +45,6 @@ private Q_SLOTS:
     }
     void cleanup() { m_company.reset(); }
 
-    void columnsPerLanguage()
-    {
-        // A language added to the table gets its own column.
-        QVERIFY(ExecSql(u"insert into LANG (LANG_ID, LANG_CODE, LANG_NAME) values (3, 'FR', "
-                        "'Français')"_s));
-        OrderLabelTranslationBrowse browse(m_ask);
-        QVERIFY(browse.load());
-        QTableWidget* table = browse.table();
-        QStringList headers;
-        for (int c = 0; c < table->columnCount(); ++c)
-            headers << table->horizontalHeaderItem(c)->text();
-        QCOMPARE(headers.mid(1), QStringList({"Magyar", "Angol", u"Német"_s, u"Français"_s}));
-        const int row = RowOf(table, u"TR_STAT_CODE"_s);
-        QVERIFY(row >= 0);
-        QCOMPARE(table->item(row, 1)->text(), "VTSZ/SZJ");
-        QCOMPARE(table->item(row, 3)->text(), QString());
-    }
-
     // The Hungarian text is shown, never saved; an emptied text loses its row.
     void savesOnlyForeignTexts()
     {
@@ -89,39 +67,6 @@ private Q_SLOTS:
         QCOMPARE(LabelTranslations::current().bilingual(u"TR_STAT_CODE"_s, 2),
                  "Zolltarifnummer / VTSZ/SZJ");
         QCOMPARE(LabelTranslations::current().bilingual(u"TR_INVOICE"_s, 1), u"Számla"_s);
-    }
-
-    void cancelKeepsTheLabels()
-    {
-        OrderLabelTranslationBrowse browse(m_ask);
-        QVERIFY(browse.load());
-        browse.setRowTexts(RowOf(browse.table(), u"TR_INVOICE"_s), {QString(), u"Bill"_s});
-        browse.reject();
-        QCOMPARE(Stored(1, u"TR_INVOICE"_s), "Invoice");
-        QCOMPARE(LabelTranslations::current().get(u"TR_INVOICE"_s, 1), "Invoice");
-    }
-
-    void editDialog()
-    {
-        OrderLabelTranslationBrowse browse(m_ask);
-        QVERIFY(browse.load());
-        browse.table()->clearSelection();
-        browse.editRow();
-        QCOMPARE(m_ask.lastMessage(), "Select a row to edit.");
-
-        const int row = RowOf(browse.table(), u"TR_RATE"_s);
-        browse.table()->selectRow(row);
-        bool hungarianLocked = false;
-        ModalDriver driver({[&](QWidget* dlg) {
-            hungarianLocked = Child<QLineEdit>(dlg, "LANG_0")->isReadOnly();
-            Child<QLineEdit>(dlg, "LANG_1")->setText(u"Exchange Rate"_s);
-            static_cast<QDialog*>(dlg)->accept();
-        }});
-        browse.editRow();
-        QVERIFY(driver.done());
-        QVERIFY(hungarianLocked);
-        QCOMPARE(browse.table()->item(row, 2)->text(), "Exchange Rate");
-        QCOMPARE(browse.labels().get(u"TR_RATE"_s, 1), "Exchange Rate");
     }
 
     void saveFailureIsShown()

