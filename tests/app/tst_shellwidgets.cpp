@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -71,6 +72,8 @@ private Q_SLOTS:
     void dateTyping_data();
     void dateTyping();
     void copiesQuestion();
+    void bothLanguagesReadProperly_data();
+    void bothLanguagesReadProperly();
 
 private:
     template <class T = QWidget> T* field(const QString& name) const
@@ -195,4 +198,38 @@ void TestShellWidgets::copiesQuestion()
 }
 
 QTEST_MAIN(TestShellWidgets)
+// Source texts written in Hungarian without accents read properly in both languages, and the
+// counts of the "used by" messages take their plural.
+void TestShellWidgets::bothLanguagesReadProperly_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("context");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("expected");
+    AddRow("hu menu", "hu", "MainWindow", "Szamlak importalasa fajlbol", -1,
+           "Számlák importálása fájlból");
+    AddRow("en menu", "en", "MainWindow", "Szamlak importalasa fajlbol", -1,
+           "Import invoices from file");
+    AddRow("en dialog", "en", "PartnerEditLayout", "Levelezesi cim", -1, "Mailing Address");
+    AddRow("en order list", "en", "OrderList", "Egyeb muveletek", -1, "Other Operations");
+    AddRow("en plural", "en", "VatTable", "This VAT key is used by %n product(s).", 3,
+           "This VAT key is used by %n products.");
+    AddRow("hu count", "hu", "VatTable", "This VAT key is used by %n product(s).", 3,
+           "Ezt az ÁFA-kulcsot %n termék használja.");
+}
+
+void TestShellWidgets::bothLanguagesReadProperly()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, context);
+    QFETCH(QString, source);
+    QFETCH(int, count);
+    QFETCH(QString, expected);
+    QTranslator translator;
+    QVERIFY(translator.load(":/i18n/tallyNorth_" + language + ".qm"));
+    QCOMPARE(translator.translate(qPrintable(context), qPrintable(source), nullptr, count),
+             expected);
+}
+
 #include "tst_shellwidgets.moc"

@@ -8,6 +8,7 @@
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "masterdata/MasterTables.h"
+#include "masterdata/ui/FieldBinding.h"
 #include "masterdata/ui/MasterBrowses.h"
 #include "masterdata/ui/NumberEdit.h"
 #include "masterdata/ui/PartnerEdit.h"
@@ -175,6 +176,17 @@ private Q_SLOTS:
         QCOMPARE(finder.text(), "Teszt termék");
         QCOMPARE(finder.pickedId(), std::optional<qint64>(1));
         QCOMPARE(picked.count(), 1);
+    }
+
+    // What a control gives to the store: single-line texts without the blanks around them.
+    void fieldValuesAsStored()
+    {
+        QLineEdit line;
+        line.setText("  Kovács Kft. ");
+        QCOMPARE(FieldValue(&line), "Kovács Kft.");
+        QPlainTextEdit text;
+        text.setPlainText(" first\nsecond ");
+        QCOMPARE(FieldValue(&text), " first\nsecond ");
     }
 
     void numberEditReadsBothSeparators()
