@@ -38,15 +38,121 @@ class TestBackup : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        InstallLabelLoading();
+        m_company.emplace();
+        QVERIFY(m_company->isValid());
+        AddMarker("own");
+        m_folder.emplace();
+        m_backup = m_folder->filePath("company.dbk");
+        m_ui = {};
+    }
     void cleanup() { m_company.reset(); }
-    void names_data();
-    void names();
-    void backup_data();
-    void backup();
-    void restoreReplacesTheFile();
-    void restoreWithoutOpenDatabaseAsks();
-    void restoreUpgradesOlderBackup();
+    void names_data()
+    {
+        AddColumns<QString, QString, bool>({"database", "backup", "belongs"});
+        AddRow("dots in name", "DB/minta.kft.db", "minta.kft.dbk", true);
+        AddRow("longer name", "/b/DB/ceg.db", "ceg.2024.dbk", false);
+        AddRow("other case", "/b/DB/ceg.db", "CEG.dbk", false);
+        AddRow("aside copy", "/b/DB/ceg.db", "/b/DB/ceg.db.dbk", false);
+    }
+
+    // A backup is proposed under the company's name and belongs to it only under that name.
+    void names()
+    {
+        auto [database, backup, belongs] =
+            Fetch<QString, QString, bool>({"database", "backup", "belongs"});
+        QCOMPARE(BackupBelongsTo(backup, database), belongs);
+        QCOMPARE(BackupFileName(database) == QFileInfo(backup).fileName(), belongs);
+    }
+
+    void backup_data()
+    {
+        AddColumns<QString, QString>({"target", "message"});
+        AddRow("over an older backup", "company.dbk", kSaved);
+        AddRow("missing folder", "no/such/folder/company.dbk", kBackupError);
+        AddRow("the database itself", "company.db", kBackupError);
+        AddRow("a folder", "", kBackupError);
+    }
+
+    // Whatever happens, the company's own file is open again afterwards.
+    void backup()
+    {
+        auto [target, message] = Fetch<QString, QString>({"target", "message"});
+        const bool saved = message == kSaved;
+        const QString file = m_company->dir() + '/' + target;
+        QVERIFY(!saved || WriteFile(file, "an older backup"));
+        const QByteArray before = FileBytes(path());
+        QCOMPARE(DoBackup(path(), file, m_ui), saved);
+        QCOMPARE(m_ui.lastMessage(), message);
+        QVERIFY(Database::isOpen());
+        QCOMPARE(Database::path(), path());
+        QCOMPARE(FileBytes(path()), before);
+        QCOMPARE(Markers(), "own");
+        if (saved)
+            QCOMPARE(MarkersOf(file), "own");
+        // No temporary file is left beside the target.
+        QCOMPARE(QDir(QFileInfo(file).absolutePath()).entryList({"*.tmp"}, QDir::Files), {});
+    }
+
+    void restoreReplacesTheFile()
+    {
+        QVERIFY(Setup::write({{Col::SETUP_NAME, "Régi Kft"}}));
+        QVERIFY(DoBackup(path(), m_backup, m_ui));
+        AddMarker("after backup");
+        QVERIFY(Setup::write({{Col::SETUP_NAME, "Új Kft"}}));
+        QVERIFY(RestoreBackup(path(), m_backup, m_ui));
+        QCOMPARE(m_ui.lastMessage(), kRestored);
+        QVERIFY(Database::isOpen());
+        QCOMPARE(Markers(), "own");
+        // The settings of the restored file are the ones in use.
+        QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kft");
+        // The replaced file stays aside, with the work done after the backup.
+        QVERIFY(Database::open(RestoreAsidePath(path())));
+        QCOMPARE(Markers(), "own; after backup");
+    }
+
+    // After a failed opening no database is open; the restore then asks before opening the file.
+    void restoreWithoutOpenDatabaseAsks()
+    {
+        QVERIFY(DoBackup(path(), m_backup, m_ui));
+        AddMarker("later");
+        Database::close();
+        m_ui.yesNoAnswers << false << true;
+        QVERIFY(RestoreBackup(path(), m_backup, m_ui));
+        QCOMPARE(m_ui.questions,
+                 QStringList{"Database restored successfully.&Do you want to open it now?"});
+        QVERIFY(!Database::isOpen());
+        QCOMPARE(FileBytes(path()), FileBytes(m_backup));
+
+        QVERIFY(RestoreBackup(path(), m_backup, m_ui));
+        QCOMPARE(m_ui.questions.size(), 2);
+        QVERIFY(Database::isOpen());
+        QCOMPARE(Markers(), "own");
+    }
+
+    // A backup made by an older version of the program comes back upgraded, with its own data and
+    // invoice labels in use, and the file's replaced content kept aside.
+    void restoreUpgradesOlderBackup()
+    {
+        QVERIFY(OldCompanyFile{-1}.build(m_backup)); // without a version table
+        QVERIFY(Database::open(path()));
+        m_ui.checkAnswers.enqueue(QList<bool>{false, false, true});
+        QVERIFY(RestoreBackup(path(), m_backup, m_ui));
+        QCOMPARE(m_ui.lastMessage(), kRestored);
+        QVERIFY(m_ui.progressTexts.contains("Upgrading database."));
+        QVERIFY(Database::isOpen());
+        QCOMPARE(Database::path(), path());
+        QCOMPARE(ReadDbVersion(), 302);
+        QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kereskedő Kft.");
+        QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
+        QCOMPARE(Markers(), "");
+        QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
+
+        QVERIFY(Database::open(RestoreAsidePath(path())));
+        QCOMPARE(Markers(), "own");
+    }
 
 private:
     QString path() const { return m_company->path(); }
@@ -56,127 +162,6 @@ private:
     QString m_backup;
     ScriptedInteraction m_ui;
 };
-
-void TestBackup::init()
-{
-    InstallLabelLoading();
-    m_company.emplace();
-    QVERIFY(m_company->isValid());
-    AddMarker("own");
-    m_folder.emplace();
-    m_backup = m_folder->filePath("company.dbk");
-    m_ui = {};
-}
-
-void TestBackup::names_data()
-{
-    QTest::addColumn<QString>("database");
-    QTest::addColumn<QString>("backup");
-    QTest::addColumn<bool>("belongs");
-    AddRow("dots in name", "DB/minta.kft.db", "minta.kft.dbk", true);
-    AddRow("longer name", "/b/DB/ceg.db", "ceg.2024.dbk", false);
-    AddRow("other case", "/b/DB/ceg.db", "CEG.dbk", false);
-    AddRow("aside copy", "/b/DB/ceg.db", "/b/DB/ceg.db.dbk", false);
-}
-
-// A backup is proposed under the company's name and belongs to it only under that name.
-void TestBackup::names()
-{
-    QFETCH(QString, database);
-    QFETCH(QString, backup);
-    QFETCH(bool, belongs);
-    QCOMPARE(BackupBelongsTo(backup, database), belongs);
-    QCOMPARE(BackupFileName(database) == QFileInfo(backup).fileName(), belongs);
-}
-
-void TestBackup::backup_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<QString>("message");
-    AddRow("over an older backup", "company.dbk", kSaved);
-    AddRow("missing folder", "no/such/folder/company.dbk", kBackupError);
-    AddRow("the database itself", "company.db", kBackupError);
-    AddRow("a folder", "", kBackupError);
-}
-
-// Whatever happens, the company's own file is open again afterwards.
-void TestBackup::backup()
-{
-    QFETCH(QString, target);
-    QFETCH(QString, message);
-    const bool saved = message == kSaved;
-    const QString file = m_company->dir() + '/' + target;
-    QVERIFY(!saved || WriteFile(file, "an older backup"));
-    const QByteArray before = FileBytes(path());
-    QCOMPARE(DoBackup(path(), file, m_ui), saved);
-    QCOMPARE(m_ui.lastMessage(), message);
-    QVERIFY(Database::isOpen());
-    QCOMPARE(Database::path(), path());
-    QCOMPARE(FileBytes(path()), before);
-    QCOMPARE(Markers(), "own");
-    if (saved)
-        QCOMPARE(MarkersOf(file), "own");
-    // No temporary file is left beside the target.
-    QCOMPARE(QDir(QFileInfo(file).absolutePath()).entryList({"*.tmp"}, QDir::Files), {});
-}
-
-void TestBackup::restoreReplacesTheFile()
-{
-    QVERIFY(Setup::write({{Col::SETUP_NAME, "Régi Kft"}}));
-    QVERIFY(DoBackup(path(), m_backup, m_ui));
-    AddMarker("after backup");
-    QVERIFY(Setup::write({{Col::SETUP_NAME, "Új Kft"}}));
-    QVERIFY(RestoreBackup(path(), m_backup, m_ui));
-    QCOMPARE(m_ui.lastMessage(), kRestored);
-    QVERIFY(Database::isOpen());
-    QCOMPARE(Markers(), "own");
-    // The settings of the restored file are the ones in use.
-    QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kft");
-    // The replaced file stays aside, with the work done after the backup.
-    QVERIFY(Database::open(RestoreAsidePath(path())));
-    QCOMPARE(Markers(), "own; after backup");
-}
-
-// After a failed opening no database is open; the restore then asks before opening the file.
-void TestBackup::restoreWithoutOpenDatabaseAsks()
-{
-    QVERIFY(DoBackup(path(), m_backup, m_ui));
-    AddMarker("later");
-    Database::close();
-    m_ui.yesNoAnswers << false << true;
-    QVERIFY(RestoreBackup(path(), m_backup, m_ui));
-    QCOMPARE(m_ui.questions,
-             QStringList{"Database restored successfully.&Do you want to open it now?"});
-    QVERIFY(!Database::isOpen());
-    QCOMPARE(FileBytes(path()), FileBytes(m_backup));
-
-    QVERIFY(RestoreBackup(path(), m_backup, m_ui));
-    QCOMPARE(m_ui.questions.size(), 2);
-    QVERIFY(Database::isOpen());
-    QCOMPARE(Markers(), "own");
-}
-
-// A backup made by an older version of the program comes back upgraded, with its own data and
-// invoice labels in use, and the file's replaced content kept aside.
-void TestBackup::restoreUpgradesOlderBackup()
-{
-    QVERIFY(OldCompanyFile{-1}.build(m_backup)); // without a version table
-    QVERIFY(Database::open(path()));
-    m_ui.checkAnswers.enqueue(QList<bool>{false, false, true});
-    QVERIFY(RestoreBackup(path(), m_backup, m_ui));
-    QCOMPARE(m_ui.lastMessage(), kRestored);
-    QVERIFY(m_ui.progressTexts.contains("Upgrading database."));
-    QVERIFY(Database::isOpen());
-    QCOMPARE(Database::path(), path());
-    QCOMPARE(ReadDbVersion(), 302);
-    QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kereskedő Kft.");
-    QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
-    QCOMPARE(Markers(), "");
-    QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
-
-    QVERIFY(Database::open(RestoreAsidePath(path())));
-    QCOMPARE(Markers(), "own");
-}
 
 QTEST_GUILESS_MAIN(TestBackup)
 #include "tst_backup.moc"

@@ -51,213 +51,200 @@ class TestFileSafety : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        m_company.emplace();
+        QVERIFY(m_company->isValid());
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('own')"));
+        m_ui = {};
+    }
     void cleanup() { m_company.reset(); }
-    void failedCommitIsRolledBack();
-    void savepointsNest();
-    void refused_data();
-    void refused();
-    void lockedFileIsInUseNotNew();
-    void readOnlyFileKeepsItsMode();
-    void backupIsASnapshot();
-    void interruptedRestoreIsPutBack();
-    void interruptedUpgradeKeepsItsOriginal_data();
-    void interruptedUpgradeKeepsItsOriginal();
+    // A reader's lock outlasting the busy time-out makes COMMIT fail: the rows must not stay in an
+    // open transaction that every later one takes for its outer one.
+    void failedCommitIsRolledBack()
+    {
+        ScopedConnection reader(path(), ScopedConnection::Mode::ReadOnly);
+        QSqlQuery read(reader.db());
+        QVERIFY(read.exec("begin"));
+        QVERIFY(read.exec("select count(*) from STATNO") && read.next());
+        {
+            SqlTransaction t;
+            QVERIFY(t.active());
+            QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('lost')"));
+            QVERIFY(!t.commit());
+            QVERIFY(!t.errorText().isEmpty());
+        }
+        QCOMPARE(SqlTransaction::depth(), 0);
+        read.finish();
+        QVERIFY(read.exec("commit"));
+        {
+            SqlTransaction t;
+            QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('kept')"));
+            QVERIFY(t.commit());
+        }
+        Database::close();
+        QCOMPARE(MarkersOf(path()), "own; kept");
+    }
+
+    void savepointsNest()
+    {
+        SqlTransaction outer;
+        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('outer')"));
+        {
+            SqlTransaction inner;
+            QVERIFY(inner.active() && inner.nested());
+            QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('inner rolled back')"));
+        }
+        {
+            SqlTransaction inner;
+            QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('inner')"));
+            QVERIFY(inner.commit());
+        }
+        QVERIFY(outer.commit());
+        QCOMPARE(SqlTransaction::depth(), 0);
+        QCOMPARE(QueryText("select STATNO_NAME from STATNO order by STATNO_ID"),
+                 "own; outer; inner");
+    }
+
+    void refused_data()
+    {
+        // restore: or open
+        AddColumns<bool, QString, QString>({"restore", "kind", "message"});
+        const QString foreign = "The file is not a company database:&%1";
+        const QString damaged = "The company database file is damaged:&%1";
+        const QString newer = "The database version is newer, than the version of the billing "
+                              "software.&Upgrade the software to a newer version.";
+        AddRow("opening a foreign SQLite file", false, "foreign", foreign);
+        AddRow("opening a truncated company", false, "truncated", damaged);
+        AddRow("opening a newer version", false, "newer", newer);
+        AddRow("restoring an SQLite file without tables", true, "sqlite without tables", foreign);
+        AddRow("restoring a truncated backup", true, "truncated", damaged);
+        AddRow("restoring a newer version", true, "newer", newer);
+        AddRow("restoring an empty file", true, "empty", foreign);
+        AddRow("restoring a folder", true, "folder", "Error restoring backup database file.");
+        AddRow("restoring another company's backup", true, "other company",
+               "The selected file is not a backup of currently active database/company.");
+    }
+
+    // Refused with a message naming the file, and nothing written to it; a refused restore leaves
+    // the company's own file in place and in use.
+    void refused()
+    {
+        auto [restore, kind, message] =
+            Fetch<bool, QString, QString>({"restore", "kind", "message"});
+        const QString file = m_company->dir() + (!restore                  ? "/other.db"
+                                                 : kind == "other company" ? "/b/masik.dbk"
+                                                                           : "/b/company.dbk");
+        QVERIFY(QDir().mkpath(m_company->dir() + "/b"));
+        QVERIFY(MakeFile(kind, file, path()));
+        const QByteArray before = FileBytes(restore ? path() : file);
+        if (restore) {
+            QVERIFY(!RestoreBackup(path(), file, m_ui));
+            QVERIFY(Database::isOpen());
+            QCOMPARE(Database::path(), path());
+            QCOMPARE(QueryText("select STATNO_NAME from STATNO"), "own");
+            QVERIFY(!QFile::exists(RestoreAsidePath(path())));
+            QCOMPARE(QDir(m_company->dir()).entryList({"*.tmp"}, QDir::Files), {});
+        } else {
+            Database::close();
+            QVERIFY(!OpenCompany(file, m_ui));
+            QVERIFY(!Database::isOpen());
+            QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(file)));
+        }
+        QCOMPARE(m_ui.lastMessage(), message.arg(file));
+        QVERIFY(m_ui.sqlErrors.isEmpty() && m_ui.questions.isEmpty());
+        QCOMPARE(FileBytes(restore ? path() : file), before);
+    }
+
+    // A lock held by another connection was read as "no schema" and ended in a CREATE TABLE error.
+    void lockedFileIsInUseNotNew()
+    {
+        Database::close();
+        qputenv("TALLYNORTH_LOCK_WAIT_MS", "0");
+        ScopedConnection other(path(), ScopedConnection::Mode::ReadWrite);
+        QVERIFY(QSqlQuery(other.db()).exec("begin exclusive"));
+        QVERIFY(!OpenCompany(path(), m_ui));
+        QVERIFY2(m_ui.lastMessage().startsWith("The company database file is in use by another"),
+                 qPrintable(m_ui.lastMessage()));
+        QVERIFY(m_ui.sqlErrors.isEmpty());
+        QVERIFY(QSqlQuery(other.db()).exec("rollback"));
+        QVERIFY(OpenCompany(path(), m_ui));
+        qunsetenv("TALLYNORTH_LOCK_WAIT_MS");
+    }
+
+    void readOnlyFileKeepsItsMode()
+    {
+        Database::close();
+        const auto mode = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+        QVERIFY(QFile::setPermissions(path(), mode));
+        QVERIFY(!OpenCompany(path(), m_ui));
+        QCOMPARE(m_ui.lastMessage(), "The company file is read-only:&" + path());
+        QCOMPARE(QFile::permissions(path()) & 0x7077, mode);
+    }
+
+    // Another connection's uncommitted write is not in the backup, and the backup passes its check.
+    void backupIsASnapshot()
+    {
+        ScopedConnection writer(path(), ScopedConnection::Mode::ReadWrite);
+        QSqlQuery write(writer.db());
+        QVERIFY(write.exec("begin immediate"));
+        QVERIFY(write.exec("insert into STATNO (STATNO_NAME) values ('uncommitted')"));
+        QTemporaryDir folder;
+        const QString backup = folder.filePath("company.dbk");
+        QVERIFY(DoBackup(path(), backup, m_ui));
+        QVERIFY(write.exec("commit"));
+        QCOMPARE(MarkersOf(backup), "own");
+        QVERIFY(CompanyFile::checkRestorable(backup));
+    }
+
+    // A restore that died after moving the file aside (an older program's way) left no company
+    // file.
+    void interruptedRestoreIsPutBack()
+    {
+        Database::close();
+        const QString aside = RestoreAsidePath(path());
+        QVERIFY(QFile::rename(path(), aside));
+        const QString chosen = ChooseStartupDatabase(
+            {}, m_company->dir(), m_ui, [](const auto&) { return std::optional<QString>(); });
+        QCOMPARE(chosen, path());
+        QVERIFY(m_ui.lastMessage().startsWith("A restore of the company file was interrupted."));
+        QVERIFY(!QFile::exists(aside));
+        QCOMPARE(MarkersOf(path()), "own");
+    }
+
+    void interruptedUpgradeKeepsItsOriginal_data()
+    {
+        QTest::addColumn<bool>("interrupted");
+        AddRow("copy of an interrupted run is the original", true);
+        AddRow("copy of an earlier finished upgrade is replaced", false);
+    }
+
+    // A killed upgrade must not let the next start take the file it finds for the original.
+    void interruptedUpgradeKeepsItsOriginal()
+    {
+        QFETCH(bool, interrupted);
+        Database::close();
+        QVERIFY(QFile::remove(path()));
+        QVERIFY(OldCompanyFile{3}.build(path()));
+        const QString copy = DatabasePrepare::safetyCopyPath(path());
+        QVERIFY(OldCompanyFile{-1}.build(copy));
+        if (interrupted)
+            QVERIFY(WriteFile(DatabasePrepare::upgradeMarkerPath(path()), "x"));
+        const QByteArray original = FileBytes(interrupted ? copy : path());
+        QVERIFY(Database::open(path()));
+        DatabasePrepare prepare(m_ui);
+        prepare.setFailingStep(5);
+        m_ui.checkAnswers.enqueue(QList<bool>{false, false, false});
+        QVERIFY(!prepare.run());
+        QCOMPARE(FileBytes(path()), original);
+        QVERIFY(!QFile::exists(DatabasePrepare::upgradeMarkerPath(path())));
+    }
 
 private:
     QString path() const { return m_company->path(); }
     std::optional<TestCompany> m_company;
     ScriptedInteraction m_ui;
 };
-
-void TestFileSafety::init()
-{
-    m_company.emplace();
-    QVERIFY(m_company->isValid());
-    QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('own')"));
-    m_ui = {};
-}
-
-// A reader's lock outlasting the busy time-out makes COMMIT fail: the rows must not stay in an
-// open transaction that every later one takes for its outer one.
-void TestFileSafety::failedCommitIsRolledBack()
-{
-    ScopedConnection reader(path(), ScopedConnection::Mode::ReadOnly);
-    QSqlQuery read(reader.db());
-    QVERIFY(read.exec("begin"));
-    QVERIFY(read.exec("select count(*) from STATNO") && read.next());
-    {
-        SqlTransaction t;
-        QVERIFY(t.active());
-        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('lost')"));
-        QVERIFY(!t.commit());
-        QVERIFY(!t.errorText().isEmpty());
-    }
-    QCOMPARE(SqlTransaction::depth(), 0);
-    read.finish();
-    QVERIFY(read.exec("commit"));
-    {
-        SqlTransaction t;
-        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('kept')"));
-        QVERIFY(t.commit());
-    }
-    Database::close();
-    QCOMPARE(MarkersOf(path()), "own; kept");
-}
-
-void TestFileSafety::savepointsNest()
-{
-    SqlTransaction outer;
-    QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('outer')"));
-    {
-        SqlTransaction inner;
-        QVERIFY(inner.active() && inner.nested());
-        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('inner rolled back')"));
-    }
-    {
-        SqlTransaction inner;
-        QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('inner')"));
-        QVERIFY(inner.commit());
-    }
-    QVERIFY(outer.commit());
-    QCOMPARE(SqlTransaction::depth(), 0);
-    QCOMPARE(QueryText("select STATNO_NAME from STATNO order by STATNO_ID"), "own; outer; inner");
-}
-
-// A lock held by another connection was read as "no schema" and ended in a CREATE TABLE error.
-void TestFileSafety::lockedFileIsInUseNotNew()
-{
-    Database::close();
-    qputenv("TALLYNORTH_LOCK_WAIT_MS", "0");
-    ScopedConnection other(path(), ScopedConnection::Mode::ReadWrite);
-    QVERIFY(QSqlQuery(other.db()).exec("begin exclusive"));
-    QVERIFY(!OpenCompany(path(), m_ui));
-    QVERIFY2(m_ui.lastMessage().startsWith("The company database file is in use by another"),
-             qPrintable(m_ui.lastMessage()));
-    QVERIFY(m_ui.sqlErrors.isEmpty());
-    QVERIFY(QSqlQuery(other.db()).exec("rollback"));
-    QVERIFY(OpenCompany(path(), m_ui));
-    qunsetenv("TALLYNORTH_LOCK_WAIT_MS");
-}
-
-void TestFileSafety::readOnlyFileKeepsItsMode()
-{
-    Database::close();
-    const auto mode = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
-    QVERIFY(QFile::setPermissions(path(), mode));
-    QVERIFY(!OpenCompany(path(), m_ui));
-    QCOMPARE(m_ui.lastMessage(), "The company file is read-only:&" + path());
-    QCOMPARE(QFile::permissions(path()) & 0x7077, mode);
-}
-
-void TestFileSafety::refused_data()
-{
-    QTest::addColumn<bool>("restore"); // or open
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("message");
-    const QString foreign = "The file is not a company database:&%1";
-    const QString damaged = "The company database file is damaged:&%1";
-    const QString newer = "The database version is newer, than the version of the billing "
-                          "software.&Upgrade the software to a newer version.";
-    AddRow("opening a foreign SQLite file", false, "foreign", foreign);
-    AddRow("opening a truncated company", false, "truncated", damaged);
-    AddRow("opening a newer version", false, "newer", newer);
-    AddRow("restoring an SQLite file without tables", true, "sqlite without tables", foreign);
-    AddRow("restoring a truncated backup", true, "truncated", damaged);
-    AddRow("restoring a newer version", true, "newer", newer);
-    AddRow("restoring an empty file", true, "empty", foreign);
-    AddRow("restoring a folder", true, "folder", "Error restoring backup database file.");
-    AddRow("restoring another company's backup", true, "other company",
-           "The selected file is not a backup of currently active database/company.");
-}
-
-// Refused with a message naming the file, and nothing written to it; a refused restore leaves the
-// company's own file in place and in use.
-void TestFileSafety::refused()
-{
-    QFETCH(bool, restore);
-    QFETCH(QString, kind);
-    QFETCH(QString, message);
-    const QString file = m_company->dir() + (!restore                  ? "/other.db"
-                                             : kind == "other company" ? "/b/masik.dbk"
-                                                                       : "/b/company.dbk");
-    QVERIFY(QDir().mkpath(m_company->dir() + "/b"));
-    QVERIFY(MakeFile(kind, file, path()));
-    const QByteArray before = FileBytes(restore ? path() : file);
-    if (restore) {
-        QVERIFY(!RestoreBackup(path(), file, m_ui));
-        QVERIFY(Database::isOpen());
-        QCOMPARE(Database::path(), path());
-        QCOMPARE(QueryText("select STATNO_NAME from STATNO"), "own");
-        QVERIFY(!QFile::exists(RestoreAsidePath(path())));
-        QCOMPARE(QDir(m_company->dir()).entryList({"*.tmp"}, QDir::Files), {});
-    } else {
-        Database::close();
-        QVERIFY(!OpenCompany(file, m_ui));
-        QVERIFY(!Database::isOpen());
-        QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(file)));
-    }
-    QCOMPARE(m_ui.lastMessage(), message.arg(file));
-    QVERIFY(m_ui.sqlErrors.isEmpty() && m_ui.questions.isEmpty());
-    QCOMPARE(FileBytes(restore ? path() : file), before);
-}
-
-// Another connection's uncommitted write is not in the backup, and the backup passes its check.
-void TestFileSafety::backupIsASnapshot()
-{
-    ScopedConnection writer(path(), ScopedConnection::Mode::ReadWrite);
-    QSqlQuery write(writer.db());
-    QVERIFY(write.exec("begin immediate"));
-    QVERIFY(write.exec("insert into STATNO (STATNO_NAME) values ('uncommitted')"));
-    QTemporaryDir folder;
-    const QString backup = folder.filePath("company.dbk");
-    QVERIFY(DoBackup(path(), backup, m_ui));
-    QVERIFY(write.exec("commit"));
-    QCOMPARE(MarkersOf(backup), "own");
-    QVERIFY(CompanyFile::checkRestorable(backup));
-}
-
-// A restore that died after moving the file aside (an older program's way) left no company file.
-void TestFileSafety::interruptedRestoreIsPutBack()
-{
-    Database::close();
-    const QString aside = RestoreAsidePath(path());
-    QVERIFY(QFile::rename(path(), aside));
-    const QString chosen = ChooseStartupDatabase(
-        {}, m_company->dir(), m_ui, [](const auto&) { return std::optional<QString>(); });
-    QCOMPARE(chosen, path());
-    QVERIFY(m_ui.lastMessage().startsWith("A restore of the company file was interrupted."));
-    QVERIFY(!QFile::exists(aside));
-    QCOMPARE(MarkersOf(path()), "own");
-}
-
-void TestFileSafety::interruptedUpgradeKeepsItsOriginal_data()
-{
-    QTest::addColumn<bool>("interrupted");
-    AddRow("copy of an interrupted run is the original", true);
-    AddRow("copy of an earlier finished upgrade is replaced", false);
-}
-
-// A killed upgrade must not let the next start take the file it finds for the original.
-void TestFileSafety::interruptedUpgradeKeepsItsOriginal()
-{
-    QFETCH(bool, interrupted);
-    Database::close();
-    QVERIFY(QFile::remove(path()));
-    QVERIFY(OldCompanyFile{3}.build(path()));
-    const QString copy = DatabasePrepare::safetyCopyPath(path());
-    QVERIFY(OldCompanyFile{-1}.build(copy));
-    if (interrupted)
-        QVERIFY(WriteFile(DatabasePrepare::upgradeMarkerPath(path()), "x"));
-    const QByteArray original = FileBytes(interrupted ? copy : path());
-    QVERIFY(Database::open(path()));
-    DatabasePrepare prepare(m_ui);
-    prepare.setFailingStep(5);
-    m_ui.checkAnswers.enqueue(QList<bool>{false, false, false});
-    QVERIFY(!prepare.run());
-    QCOMPARE(FileBytes(path()), original);
-    QVERIFY(!QFile::exists(DatabasePrepare::upgradeMarkerPath(path())));
-}
 
 QTEST_GUILESS_MAIN(TestFileSafety)
 #include "tst_filesafety.moc"

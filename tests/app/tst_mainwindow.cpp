@@ -45,12 +45,119 @@ class TestMainWindow : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void menusAndHandlers();
-    void listLoading_data();
-    void listLoading();
-    void changeCompanyCommand();
+    void init()
+    {
+        m_company.emplace();
+        QVERIFY(m_company->isValid());
+        BaseFolder::set(m_company->dir() + "/base");
+        QVERIFY(QDir().mkpath(BaseFolder::backupFolder()) && QDir().mkpath(BaseFolder::dbFolder()));
+        SetLoading(false, false);
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_counted.clear();
+        m_messages.clear();
+        m_company.reset();
+    }
+
+    // A command is enabled only with a handler; a submenu only while one of its commands is.
+    void menusAndHandlers()
+    {
+        MainWindow window;
+        for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c)
+            QVERIFY2(!window.action(MainCommand(c))->isEnabled(), qPrintable(QString::number(c)));
+        QAction* receivables = window.action(MainCommand::ReceivablesByInvoices);
+        QAction* submenu = nullptr;
+        for (QAction* top : window.menuBar()->actions()) {
+            for (QAction* a : top->menu()->actions()) {
+                if (a->menu() && a->menu()->actions().contains(receivables))
+                    submenu = a;
+            }
+        }
+        QVERIFY(submenu && !submenu->isEnabled());
+        int runs = 0;
+        window.setCommand(MainCommand::ReceivablesByPartners, [&runs] { ++runs; });
+        QVERIFY(submenu->isEnabled());
+        QAction* partners = window.action(MainCommand::ReceivablesByPartners);
+        partners->trigger();
+        // Registering again replaces the handler; it does not add a second one.
+        window.setCommand(MainCommand::ReceivablesByPartners, [&runs] { runs += 10; });
+        partners->trigger();
+        QCOMPARE(runs, 11);
+        window.setCommand(MainCommand::ReceivablesByPartners, {});
+        QVERIFY(!submenu->isEnabled() && !partners->isEnabled());
+    }
+
+    void listLoading_data()
+    {
+        AddColumns<bool, bool>({"onStart", "onTabChange"});
+        // Reads of the orders and products lists after: opening, showing products, back to orders,
+        // products again.
+        AddColumns<QList<int>, QList<int>>({"orders", "products"});
+        AddRow("both off", false, false, QList<int>{0, 0, 0, 0}, QList<int>{0, 0, 0, 0});
+        AddRow("on start", true, false, QList<int>{1, 1, 1, 1}, QList<int>{0, 1, 1, 1});
+        AddRow("on tab change", false, true, QList<int>{0, 0, 1, 1}, QList<int>{0, 1, 1, 2});
+        AddRow("both on", true, true, QList<int>{1, 1, 2, 2}, QList<int>{0, 1, 1, 2});
+    }
+
+    void listLoading()
+    {
+        auto [onStart, onTabChange, orders, products] = Fetch<bool, bool, QList<int>, QList<int>>(
+            {"onStart", "onTabChange", "orders", "products"});
+        SetLoading(onStart, onTabChange);
+        MainWindow& window = open({MainTab::Orders, MainTab::Products});
+        window.show();
+        QList<int> seenOrders{reloads(MainTab::Orders)};
+        QList<int> seenProducts{reloads(MainTab::Products)};
+        for (MainTab tab : {MainTab::Products, MainTab::Orders, MainTab::Products}) {
+            window.showTab(tab);
+            seenOrders << reloads(MainTab::Orders);
+            seenProducts << reloads(MainTab::Products);
+        }
+        QCOMPARE(seenOrders, orders);
+        QCOMPARE(seenProducts, products);
+    }
+
+    // The lists must never go on showing the rows of the company that was left.
+    void changeCompanyCommand()
+    {
+        const QString first = BaseFolder::dbFolder() + "/elso.db";
+        const QString second = BaseFolder::dbFolder() + "/masodik.db";
+        SetCompany("Első Kft", "11111111-1-11");
+        QVERIFY(QFile::copy(m_company->path(), first) && QFile::copy(m_company->path(), second));
+        QVERIFY(Database::open(second));
+        SetCompany("Második Kft", "22222222-2-22");
+        QVERIFY(Database::open(first));
+        MainWindow& window = open({MainTab::Orders, MainTab::Partners, MainTab::Cheques});
+        window.showTab(MainTab::Partners);
+        QCOMPARE(reloads(MainTab::Partners), 0);
+
+        QStringList offered;
+        ModalDriver driver({[&offered](QWidget* w) {
+                                auto* list = Child<QTableView>(w, "m_list");
+                                for (int r = 0; r < list->model()->rowCount(); ++r)
+                                    offered << list->model()->index(r, 0).data().toString();
+                                list->selectRow(1);
+                                Child<QPushButton>(w, "m_ok")->click();
+                            },
+                            Answer(&m_messages)});
+        window.action(MainCommand::ChangeCompany)->trigger();
+        QVERIFY(driver.done());
+        QCOMPARE(offered, QStringList({"Első Kft", "Második Kft"}));
+        QCOMPARE(m_messages, QStringList{"Database/company changed successfully to:&Második Kft"});
+        QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Második Kft (adószám:22222222-2-22)");
+        QCOMPARE(window.companyFile(), second);
+        // The shown list is read at once, one seen before when shown again, one never seen not at
+        // all.
+        QCOMPARE(reloads(MainTab::Partners), 1);
+        QCOMPARE(reloads(MainTab::Orders), 0);
+        window.showTab(MainTab::Orders);
+        QCOMPARE(reloads(MainTab::Orders), 1);
+        window.showTab(MainTab::Cheques);
+        QCOMPARE(reloads(MainTab::Cheques), 0);
+    }
 
 private:
     // The window on the test company with every command, counting pages on the tabs given.
@@ -63,23 +170,6 @@ private:
     QStringList m_messages;
 };
 
-void TestMainWindow::init()
-{
-    m_company.emplace();
-    QVERIFY(m_company->isValid());
-    BaseFolder::set(m_company->dir() + "/base");
-    QVERIFY(QDir().mkpath(BaseFolder::backupFolder()) && QDir().mkpath(BaseFolder::dbFolder()));
-    SetLoading(false, false);
-}
-
-void TestMainWindow::cleanup()
-{
-    m_window.reset();
-    m_counted.clear();
-    m_messages.clear();
-    m_company.reset();
-}
-
 MainWindow& TestMainWindow::open(std::initializer_list<MainTab> counted)
 {
     m_window = std::make_unique<MainWindow>();
@@ -90,106 +180,6 @@ MainWindow& TestMainWindow::open(std::initializer_list<MainTab> counted)
     }
     m_window->companyChanged();
     return *m_window;
-}
-
-// A command is enabled only with a handler; a submenu only while one of its commands is.
-void TestMainWindow::menusAndHandlers()
-{
-    MainWindow window;
-    for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c)
-        QVERIFY2(!window.action(MainCommand(c))->isEnabled(), qPrintable(QString::number(c)));
-    QAction* receivables = window.action(MainCommand::ReceivablesByInvoices);
-    QAction* submenu = nullptr;
-    for (QAction* top : window.menuBar()->actions()) {
-        for (QAction* a : top->menu()->actions()) {
-            if (a->menu() && a->menu()->actions().contains(receivables))
-                submenu = a;
-        }
-    }
-    QVERIFY(submenu && !submenu->isEnabled());
-    int runs = 0;
-    window.setCommand(MainCommand::ReceivablesByPartners, [&runs] { ++runs; });
-    QVERIFY(submenu->isEnabled());
-    QAction* partners = window.action(MainCommand::ReceivablesByPartners);
-    partners->trigger();
-    // Registering again replaces the handler; it does not add a second one.
-    window.setCommand(MainCommand::ReceivablesByPartners, [&runs] { runs += 10; });
-    partners->trigger();
-    QCOMPARE(runs, 11);
-    window.setCommand(MainCommand::ReceivablesByPartners, {});
-    QVERIFY(!submenu->isEnabled() && !partners->isEnabled());
-}
-
-void TestMainWindow::listLoading_data()
-{
-    QTest::addColumn<bool>("onStart");
-    QTest::addColumn<bool>("onTabChange");
-    // Reads of the orders and products lists after: opening, showing products, back to orders,
-    // products again.
-    QTest::addColumn<QList<int>>("orders");
-    QTest::addColumn<QList<int>>("products");
-    AddRow("both off", false, false, QList<int>{0, 0, 0, 0}, QList<int>{0, 0, 0, 0});
-    AddRow("on start", true, false, QList<int>{1, 1, 1, 1}, QList<int>{0, 1, 1, 1});
-    AddRow("on tab change", false, true, QList<int>{0, 0, 1, 1}, QList<int>{0, 1, 1, 2});
-    AddRow("both on", true, true, QList<int>{1, 1, 2, 2}, QList<int>{0, 1, 1, 2});
-}
-
-void TestMainWindow::listLoading()
-{
-    QFETCH(bool, onStart);
-    QFETCH(bool, onTabChange);
-    QFETCH(QList<int>, orders);
-    QFETCH(QList<int>, products);
-    SetLoading(onStart, onTabChange);
-    MainWindow& window = open({MainTab::Orders, MainTab::Products});
-    window.show();
-    QList<int> seenOrders{reloads(MainTab::Orders)};
-    QList<int> seenProducts{reloads(MainTab::Products)};
-    for (MainTab tab : {MainTab::Products, MainTab::Orders, MainTab::Products}) {
-        window.showTab(tab);
-        seenOrders << reloads(MainTab::Orders);
-        seenProducts << reloads(MainTab::Products);
-    }
-    QCOMPARE(seenOrders, orders);
-    QCOMPARE(seenProducts, products);
-}
-
-// The lists must never go on showing the rows of the company that was left.
-void TestMainWindow::changeCompanyCommand()
-{
-    const QString first = BaseFolder::dbFolder() + "/elso.db";
-    const QString second = BaseFolder::dbFolder() + "/masodik.db";
-    SetCompany("Első Kft", "11111111-1-11");
-    QVERIFY(QFile::copy(m_company->path(), first) && QFile::copy(m_company->path(), second));
-    QVERIFY(Database::open(second));
-    SetCompany("Második Kft", "22222222-2-22");
-    QVERIFY(Database::open(first));
-    MainWindow& window = open({MainTab::Orders, MainTab::Partners, MainTab::Cheques});
-    window.showTab(MainTab::Partners);
-    QCOMPARE(reloads(MainTab::Partners), 0);
-
-    QStringList offered;
-    ModalDriver driver({[&offered](QWidget* w) {
-                            auto* list = Child<QTableView>(w, "m_list");
-                            for (int r = 0; r < list->model()->rowCount(); ++r)
-                                offered << list->model()->index(r, 0).data().toString();
-                            list->selectRow(1);
-                            Child<QPushButton>(w, "m_ok")->click();
-                        },
-                        Answer(&m_messages)});
-    window.action(MainCommand::ChangeCompany)->trigger();
-    QVERIFY(driver.done());
-    QCOMPARE(offered, QStringList({"Első Kft", "Második Kft"}));
-    QCOMPARE(m_messages, QStringList{"Database/company changed successfully to:&Második Kft"});
-    QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Második Kft (adószám:22222222-2-22)");
-    QCOMPARE(window.companyFile(), second);
-    // The shown list is read at once, one seen before when shown again, one never seen not at all.
-    QCOMPARE(reloads(MainTab::Partners), 1);
-    QCOMPARE(reloads(MainTab::Orders), 0);
-    window.showTab(MainTab::Orders);
-    QCOMPARE(reloads(MainTab::Orders), 1);
-    window.showTab(MainTab::Cheques);
-    QCOMPARE(reloads(MainTab::Cheques), 0);
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -74,15 +74,290 @@ class TestSchemaUpgrade : public QObject
 private Q_SLOTS:
     void init() { QVERIFY(m_dir.emplace().isValid()); }
     void cleanup() { Database::close(); }
-    void newFile();
-    void wholeChain_data();
-    void wholeChain();
-    void failureKeepsOriginal_data();
-    void failureKeepsOriginal();
-    void currentVersionOpensWithoutCopy();
-    void emptyFileGetsSchema();
-    void schemaExtensions_data();
-    void schemaExtensions();
+    // Every index by its exact name; the ids and rules other parts take for granted (the label
+    // texts are checked with their reader).
+    void newFile()
+    {
+        TestCompany company;
+        QVERIFY(company.isValid());
+        QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
+        QCOMPARE(QueryText("select count(*) from SETUP"), "1");
+        QCOMPARE(QueryText("select COUNTRY_INTERNATIONAL_CODE, COUNTRY_NAME from COUNTRY "
+                           "where COUNTRY_ID = 0"),
+                 "HU|Magyarország");
+        // Hungarian is language 0, kept in the main columns, never a LANG row.
+        QCOMPARE(QueryText("select LANG_ID, LANG_CODE from LANG order by LANG_ID"), "1|EN; 2|DE");
+        // The forint rounds line totals to 1 decimal but prints 2, and its invoice total to 0.
+        QCOMPARE(
+            QueryText(
+                "select CURRENCY_ABBREVIATION, CURRENCY_RATE, "
+                "CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, CURRENCY_LINE_TOTAL_PRINTING_DECIMALS, "
+                "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS from CURRENCYY where CURRENCY_ID = 0"),
+            "Ft|1|1|2|0");
+        // The sample order's total is the sum of its lines.
+        QCOMPARE(
+            QueryText("select count(*) from ORDERHEAD where ORDERHEAD_TOTAL_GROSS = (select "
+                      "sum(ORDERITEM_TOTAL_GROSS) from ORDERITEM where ORDERITEM_ORDERHEAD_ID = "
+                      "ORDERHEAD_ID)"),
+            QueryText("select count(*) from ORDERHEAD"));
+        // Rows made without these values read "0", never NULL.
+        QVERIFY(ExecSql("insert into PAYMENTMETHOD (PAYMENTMETHOD_NAME) values ('x')"));
+        QCOMPARE(QueryText("select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD "
+                           "where PAYMENTMETHOD_NAME = 'x'"),
+                 "0");
+        QVERIFY(ExecSql("insert into ORDERHEAD (ORDERHEAD_ID) values (99)"));
+        QCOMPARE(
+            QueryText(
+                "select ORDERHEAD_PAYMENTMETHOD_ROUND_TO_5, ORDERHEAD_TOTAL_NET, "
+                "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_TOTAL_CORRECTION_GROSS, "
+                "ORDERHEAD_UNPAID_TOTAL, ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE, "
+                "ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = 99"),
+            "0|0|0|0|0|0|0|0");
+    }
+
+    void wholeChain_data()
+    {
+        AddColumns<int, int>({"version", "roundDigits"});
+        AddRow("no version", -1, 0);
+        AddRow("1", 1, 2);
+        AddRow("2", 2, 1);
+        AddRow("3", 3, 1);
+        AddRow("300", 300, 1);
+        AddRow("301", 301, 1);
+    }
+
+    void wholeChain()
+    {
+        auto [version, roundDigits] = Fetch<int, int>({"version", "roundDigits"});
+        const QList<QPair<QString, QStringList>> fresh = FreshTables();
+        QVERIFY(!fresh.isEmpty());
+        const QString path = build({version, roundDigits});
+        QVERIFY(!path.isEmpty());
+        const QByteArray original = FileBytes(path);
+
+        ScriptedInteraction interaction;
+        // Of the methods on orders (sorted: "Csekk", "Készpénz", "Átutalás") bank transfers are
+        // unpaid.
+        interaction.checkAnswers.enqueue(QList<bool>{false, false, true});
+        QVERIFY(Database::open(path));
+        const Result r = PrepareDatabase(interaction);
+        QVERIFY2(r.ok(), qPrintable(r.message() + u' ' + r.sqlError() + u' ' + r.statement()));
+        QVERIFY(interaction.messages.isEmpty());
+        QVERIFY(interaction.progressTexts.contains("Upgrading database."));
+        QCOMPARE(FileBytes(DatabasePrepare::safetyCopyPath(path)), original);
+        QCOMPARE(ReadDbVersion(), 302);
+
+        // The same tables, columns and indexes as a new file; the unused legacy columns stay.
+        for (auto [table, columns] : fresh) {
+            if (table == "ORDERHEAD" || table == "SETUP")
+                columns << table + "_ITEM_ROUND_DIGITS";
+            QCOMPARE(Sorted(TableColumns(table)), Sorted(columns));
+        }
+        QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
+        // The program's extensions come beside the schema, DBVERSION stays the company schema's.
+        QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
+        QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
+
+        QCOMPARE(Setup::current().text("SETUP_NAME"), "Régi Kereskedő Kft.");
+        QCOMPARE(QueryText("select count(*), sum(ORDERITEM_TOTAL_GROSS) from ORDERITEM"),
+                 "4|11750");
+        QCOMPARE(QueryText("select count(*) from ORDERLABELTRANSLATION"), "131");
+        QCOMPARE(QueryText("select ORDERLABELTRANSLATION_TEXT from ORDERLABELTRANSLATION where "
+                           "ORDERLABELTRANSLATION_KEY = 'TR_PAYMENT_METHOD' and "
+                           "ORDERLABELTRANSLATION_LANG_ID = 0"),
+                 "Fizetési mód");
+        QCOMPARE(QueryText("select CURRENCY_BANK_BY_SETUP from CURRENCYY"), "1; 1; 1");
+
+        if (version < 1) {
+            QCOMPARE(QueryText("select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD"),
+                     "1; 0; 0; 0; 0");
+            QCOMPARE(QueryText("select ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE from ORDERHEAD where "
+                               "ORDERHEAD_ID = 1"),
+                     "0");
+        }
+        // Lines of older files take their order's shipping date; later ones keep their own.
+        QCOMPARE(QueryText("select ORDERITEM_DATE_SHIPPED from ORDERITEM"),
+                 version < 2 ? "2009-03-02; 2009-03-02; 2009-03-05; 2009-04-01"
+                             : "2009-02-27; 2009-02-27; 2009-02-27; 2009-02-27");
+        if (version < 2)
+            QCOMPARE(QueryText("select ORDERHEAD_CONSOLIDATED_INVOICE from ORDERHEAD where "
+                               "ORDERHEAD_ID = 6"),
+                     "0");
+        if (version < 3) {
+            QVERIFY(Setup::current().text("SETUP_DOWNLOAD_PARTNER_URL").endsWith("/partner.php"));
+            QCOMPARE(Setup::current().integer("SETUP_DOWNLOAD_MAX_PARTNERS"), 1000);
+        }
+
+        if (version < 300) {
+            QCOMPARE(interaction.checkLists,
+                     QList<QStringList>({{"Csekk", "Készpénz", "Átutalás"}}));
+            // Paid on issue unless bank transfer, cheque or a due date; cheques only for "Csekk".
+            QCOMPARE(
+                QueryText("select PAYMENTMETHOD_PAID, PAYMENTMETHOD_CHEQUE from PAYMENTMETHOD"),
+                "1|0; 0|0; 0|1; 1|0; 0|0");
+            // Only the issued, uncancelled bank-transfer invoice becomes unpaid, for its gross
+            // total.
+            QCOMPARE(QueryText("select ORDERHEAD_PAID, ORDERHEAD_PAYMENTMETHOD_PAID, "
+                               "ORDERHEAD_UNPAID_TOTAL from ORDERHEAD"),
+                     "0|0|1250; 1|1|0; 1|1|0; 1|1|0; 1|1|0; 1|1|0");
+            QCOMPARE(QueryText("select ORDERHEAD_PARTNER_COUNTRY_INTERNATIONAL_CODE, "
+                               "ORDERHEAD_PARTNER_MAIL_ADDRESS, ORDERHEAD_CURRENCY_ABBREVIATION, "
+                               "ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS from ORDERHEAD where "
+                               "ORDERHEAD_ID = 5"),
+                     "HUN|Fő u. 1.|Ft|-2500");
+            QCOMPARE(QueryText("select ORDERITEM_LIST_PRICE from ORDERITEM"), "12; 400; 400; 8000");
+            QCOMPARE(QueryText("select PARTNER_MAIL_CITY from PARTNER"), "Budapest; Debrecen");
+            // The company's old line rounding moves to the forint.
+            QCOMPARE(QueryText("select CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, "
+                               "CURRENCY_LINE_TOTAL_PRINTING_DECIMALS from CURRENCYY where "
+                               "CURRENCY_ID = 0"),
+                     QStringLiteral("%1|%2").arg(roundDigits).arg(roundDigits > 0 ? 2 : 0));
+            QVERIFY(Setup::current().value("SETUP_INVOICE_CURR_TMPL_DIR").isNull());
+            QVERIFY(Setup::current().value("SETUP_INVOICE_DIGEST").isNull());
+        } else {
+            QVERIFY(interaction.checkLists.isEmpty());
+            QCOMPARE(Setup::current().text("SETUP_INVOICE_CURR_TMPL_DIR"), "sablon_2009");
+        }
+        // Orders of version 300 get line decimals from their own old rounding: 2 prints 2, 0 prints
+        // 0.
+        QCOMPARE(QueryText("select ORDERHEAD_CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, "
+                           "ORDERHEAD_CURRENCY_LINE_TOTAL_PRINTING_DECIMALS from ORDERHEAD "
+                           "where ORDERHEAD_ID <= 2"),
+                 version <= 300 ? "2|2; 0|0" : "|; |");
+    }
+
+    void failureKeepsOriginal_data()
+    {
+        // recordedVersion: 0: as built
+        AddColumns<int, int, QString, int, int, QStringList>({"version", "recordedVersion",
+                                                              "breakage", "failingStep",
+                                                              "cancelAfterChecks", "messages"});
+        const QString unable = "Unable to upgrade database.";
+        const QString failed = kErrorUpgrading;
+        const QString aborted = "Upgrading database aborted.";
+        // The file must come back without a version table, not at version 3.
+        AddRow("U4 fails after U1-U3", -1, 0, "", 4, -1, QStringList{unable, failed});
+        AddRow("U6 from 301 fails", 301, 0, "", 6, -1, QStringList{unable, failed});
+        AddRow("index to drop is missing", 3, 0, "partner index", 0, -1,
+               QStringList{unable, failed});
+        AddRow("old rounding setting is missing", 1, 0, "round digits", 0, -1,
+               QStringList{"Unable to load rounding setup.", failed});
+        // No step starts from a version the chain does not know, so the file never reaches 302.
+        AddRow("unknown version", 3, 150, "", 0, -1, QStringList{unable, failed});
+        AddRow("newer version", 301, 303, "", 0, -1,
+               QStringList{"The database version is newer, than the version of the billing "
+                           "software.&Upgrade the software to a newer version."});
+        AddRow("safety copy cannot be made", 3, 0, "safety copy", 0, -1,
+               QStringList{"Error backing up database file before upgrade."});
+        AddRow("cancelled before the first step", -1, 0, "", 0, 0, QStringList{aborted});
+        AddRow("cancelled before U4", -1, 0, "", 0, 3, QStringList{aborted});
+        AddRow("payment method choice cancelled", -1, 0, "no answer", 0, -1,
+               QStringList{"Operation aborted.", aborted});
+    }
+
+    void failureKeepsOriginal()
+    {
+        auto [version, recordedVersion, breakage, failingStep, cancelAfterChecks, messages] =
+            Fetch<int, int, QString, int, int, QStringList>({"version", "recordedVersion",
+                                                             "breakage", "failingStep",
+                                                             "cancelAfterChecks", "messages"});
+        OldCompanyFile file{version};
+        file.withoutPartnerNameIndex = breakage == "partner index";
+        file.withoutRoundDigits = breakage == "round digits";
+        const QString path = build(file);
+        QVERIFY(!path.isEmpty());
+        if (recordedVersion) {
+            QVERIFY(Database::open(path));
+            QVERIFY(ExecSql("update DBVERSION set VERSION = ?", {recordedVersion}));
+            Database::close();
+        }
+        // A folder where the copy should go cannot be overwritten.
+        if (breakage == "safety copy")
+            QVERIFY(QDir().mkpath(DatabasePrepare::safetyCopyPath(path)));
+        const QByteArray original = FileBytes(path);
+
+        ScriptedInteraction interaction;
+        interaction.cancelAfterChecks = cancelAfterChecks;
+        if (breakage != "no answer")
+            interaction.checkAnswers.enqueue(QList<bool>{true, true, true});
+        QVERIFY(Database::open(path));
+        DatabasePrepare prepare(interaction);
+        prepare.setFailingStep(failingStep);
+        const Result r = prepare.run();
+        QVERIFY(!r.ok());
+        QCOMPARE(r.message(), messages.last());
+        QCOMPARE(Texts(interaction), messages);
+        QVERIFY(!Database::isOpen());
+        QCOMPARE(FileBytes(path), original);
+        QVERIFY(!QFileInfo(DatabasePrepare::safetyCopyPath(path)).isFile());
+        QVERIFY(!QFile::exists(path + "-journal"));
+    }
+
+    void currentVersionOpensWithoutCopy()
+    {
+        TestCompany company;
+        QVERIFY(company.isValid());
+        QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Jelen Kft.'"));
+        ScriptedInteraction interaction;
+        QVERIFY(PrepareDatabase(interaction).ok());
+        QVERIFY(interaction.messages.isEmpty());
+        QVERIFY(interaction.progressTexts.isEmpty());
+        QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(company.path())));
+        QCOMPARE(Setup::current().text("SETUP_NAME"), "Jelen Kft.");
+    }
+
+    void emptyFileGetsSchema()
+    {
+        QVERIFY(Database::open(m_dir->filePath("new.db")));
+        ScriptedInteraction interaction;
+        QVERIFY(PrepareDatabase(interaction).ok());
+        QVERIFY(interaction.progressTexts.contains("Creating database tables"));
+        QVERIFY(interaction.progressTexts.contains("Creating database indexes"));
+        QVERIFY(!interaction.progressTexts.contains("Upgrading database."));
+        QCOMPARE(ReadDbVersion(), 302);
+        QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
+    }
+
+    // The program's TN_ additions beside the company schema: put on a file that lacks them when it
+    // is opened, kept out of DBVERSION, and a file extended by a newer program is refused
+    // untouched.
+    void schemaExtensions_data()
+    {
+        AddColumns<QString, bool, int>({"change", "opens", "version"});
+        AddRow("current", QString(), true, kSchemaExtensionVersion);
+        AddRow("file without them",
+               QString("drop table TN_VERSION; drop index TN_IDX_ORDERHEAD_CANCEL"), true,
+               kSchemaExtensionVersion);
+        AddRow("newer program's", QString("update TN_VERSION set TN_VERSION_VERSION = 99"), false,
+               99);
+    }
+
+    void schemaExtensions()
+    {
+        auto [change, opens, version] = Fetch<QString, bool, int>({"change", "opens", "version"});
+        TestCompany company;
+        QVERIFY(company.isValid());
+        QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
+        for (const QString& statement : change.split(u';', Qt::SkipEmptyParts))
+            QVERIFY(ExecSql(statement.trimmed()));
+        ScriptedInteraction interaction;
+        const Result r = PrepareDatabase(interaction);
+        QCOMPARE(r.ok(), opens);
+        if (!opens) {
+            QCOMPARE(r.message(), SchemaExtensions::newerVersionMessage());
+            QVERIFY(Database::open(company.path()));
+        }
+        QCOMPARE(ReadSchemaExtensionVersion(), version);
+        QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
+        QCOMPARE(QueryText("select count(*) from sqlite_master where name like 'TN\\_IDX%' escape "
+                           "'\\'"),
+                 "6");
+        // The list's default view and its rare kinds come from the extension's indexes.
+        QVERIFY(
+            QueryText("explain query plan select ORDERHEAD_ID from ORDERHEAD where ORDERHEAD_TYPE "
+                      "= 1 order by ORDERHEAD_ID desc limit 10")
+                .contains("TN_IDX_ORDERHEAD_CANCEL"));
+    }
 
 private:
     QString build(const OldCompanyFile& file);
@@ -90,291 +365,10 @@ private:
     std::optional<QTemporaryDir> m_dir;
 };
 
-// Every index by its exact name; the ids and rules other parts take for granted (the label texts
-// are checked with their reader).
-void TestSchemaUpgrade::newFile()
-{
-    TestCompany company;
-    QVERIFY(company.isValid());
-    QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
-    QCOMPARE(QueryText("select count(*) from SETUP"), "1");
-    QCOMPARE(QueryText("select COUNTRY_INTERNATIONAL_CODE, COUNTRY_NAME from COUNTRY "
-                       "where COUNTRY_ID = 0"),
-             "HU|Magyarország");
-    // Hungarian is language 0, kept in the main columns, never a LANG row.
-    QCOMPARE(QueryText("select LANG_ID, LANG_CODE from LANG order by LANG_ID"), "1|EN; 2|DE");
-    // The forint rounds line totals to 1 decimal but prints 2, and its invoice total to 0.
-    QCOMPARE(
-        QueryText("select CURRENCY_ABBREVIATION, CURRENCY_RATE, "
-                  "CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, CURRENCY_LINE_TOTAL_PRINTING_DECIMALS, "
-                  "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS from CURRENCYY where CURRENCY_ID = 0"),
-        "Ft|1|1|2|0");
-    // The sample order's total is the sum of its lines.
-    QCOMPARE(QueryText("select count(*) from ORDERHEAD where ORDERHEAD_TOTAL_GROSS = (select "
-                       "sum(ORDERITEM_TOTAL_GROSS) from ORDERITEM where ORDERITEM_ORDERHEAD_ID = "
-                       "ORDERHEAD_ID)"),
-             QueryText("select count(*) from ORDERHEAD"));
-    // Rows made without these values read "0", never NULL.
-    QVERIFY(ExecSql("insert into PAYMENTMETHOD (PAYMENTMETHOD_NAME) values ('x')"));
-    QCOMPARE(QueryText("select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD "
-                       "where PAYMENTMETHOD_NAME = 'x'"),
-             "0");
-    QVERIFY(ExecSql("insert into ORDERHEAD (ORDERHEAD_ID) values (99)"));
-    QCOMPARE(
-        QueryText("select ORDERHEAD_PAYMENTMETHOD_ROUND_TO_5, ORDERHEAD_TOTAL_NET, "
-                  "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_TOTAL_CORRECTION_GROSS, "
-                  "ORDERHEAD_UNPAID_TOTAL, ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE, "
-                  "ORDERHEAD_PRINTED_COPIES from ORDERHEAD where ORDERHEAD_ID = 99"),
-        "0|0|0|0|0|0|0|0");
-}
-
 QString TestSchemaUpgrade::build(const OldCompanyFile& file)
 {
     const QString path = m_dir->filePath("old.db");
     return file.build(path) ? path : QString();
-}
-
-void TestSchemaUpgrade::wholeChain_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<int>("roundDigits");
-    AddRow("no version", -1, 0);
-    AddRow("1", 1, 2);
-    AddRow("2", 2, 1);
-    AddRow("3", 3, 1);
-    AddRow("300", 300, 1);
-    AddRow("301", 301, 1);
-}
-
-void TestSchemaUpgrade::wholeChain()
-{
-    QFETCH(int, version);
-    QFETCH(int, roundDigits);
-    const QList<QPair<QString, QStringList>> fresh = FreshTables();
-    QVERIFY(!fresh.isEmpty());
-    const QString path = build({version, roundDigits});
-    QVERIFY(!path.isEmpty());
-    const QByteArray original = FileBytes(path);
-
-    ScriptedInteraction interaction;
-    // Of the methods on orders (sorted: "Csekk", "Készpénz", "Átutalás") bank transfers are unpaid.
-    interaction.checkAnswers.enqueue(QList<bool>{false, false, true});
-    QVERIFY(Database::open(path));
-    const Result r = PrepareDatabase(interaction);
-    QVERIFY2(r.ok(), qPrintable(r.message() + u' ' + r.sqlError() + u' ' + r.statement()));
-    QVERIFY(interaction.messages.isEmpty());
-    QVERIFY(interaction.progressTexts.contains("Upgrading database."));
-    QCOMPARE(FileBytes(DatabasePrepare::safetyCopyPath(path)), original);
-    QCOMPARE(ReadDbVersion(), 302);
-
-    // The same tables, columns and indexes as a new file; the unused legacy columns stay.
-    for (auto [table, columns] : fresh) {
-        if (table == "ORDERHEAD" || table == "SETUP")
-            columns << table + "_ITEM_ROUND_DIGITS";
-        QCOMPARE(Sorted(TableColumns(table)), Sorted(columns));
-    }
-    QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
-    // The program's extensions come beside the schema, DBVERSION stays the company schema's.
-    QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
-    QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
-
-    QCOMPARE(Setup::current().text("SETUP_NAME"), "Régi Kereskedő Kft.");
-    QCOMPARE(QueryText("select count(*), sum(ORDERITEM_TOTAL_GROSS) from ORDERITEM"), "4|11750");
-    QCOMPARE(QueryText("select count(*) from ORDERLABELTRANSLATION"), "131");
-    QCOMPARE(QueryText("select ORDERLABELTRANSLATION_TEXT from ORDERLABELTRANSLATION where "
-                       "ORDERLABELTRANSLATION_KEY = 'TR_PAYMENT_METHOD' and "
-                       "ORDERLABELTRANSLATION_LANG_ID = 0"),
-             "Fizetési mód");
-    QCOMPARE(QueryText("select CURRENCY_BANK_BY_SETUP from CURRENCYY"), "1; 1; 1");
-
-    if (version < 1) {
-        QCOMPARE(QueryText("select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD"), "1; 0; 0; 0; 0");
-        QCOMPARE(QueryText("select ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE from ORDERHEAD where "
-                           "ORDERHEAD_ID = 1"),
-                 "0");
-    }
-    // Lines of older files take their order's shipping date; later ones keep their own.
-    QCOMPARE(QueryText("select ORDERITEM_DATE_SHIPPED from ORDERITEM"),
-             version < 2 ? "2009-03-02; 2009-03-02; 2009-03-05; 2009-04-01"
-                         : "2009-02-27; 2009-02-27; 2009-02-27; 2009-02-27");
-    if (version < 2)
-        QCOMPARE(QueryText("select ORDERHEAD_CONSOLIDATED_INVOICE from ORDERHEAD where "
-                           "ORDERHEAD_ID = 6"),
-                 "0");
-    if (version < 3) {
-        QVERIFY(Setup::current().text("SETUP_DOWNLOAD_PARTNER_URL").endsWith("/partner.php"));
-        QCOMPARE(Setup::current().integer("SETUP_DOWNLOAD_MAX_PARTNERS"), 1000);
-    }
-
-    if (version < 300) {
-        QCOMPARE(interaction.checkLists, QList<QStringList>({{"Csekk", "Készpénz", "Átutalás"}}));
-        // Paid on issue unless bank transfer, cheque or a due date; cheques only for "Csekk".
-        QCOMPARE(QueryText("select PAYMENTMETHOD_PAID, PAYMENTMETHOD_CHEQUE from PAYMENTMETHOD"),
-                 "1|0; 0|0; 0|1; 1|0; 0|0");
-        // Only the issued, uncancelled bank-transfer invoice becomes unpaid, for its gross total.
-        QCOMPARE(QueryText("select ORDERHEAD_PAID, ORDERHEAD_PAYMENTMETHOD_PAID, "
-                           "ORDERHEAD_UNPAID_TOTAL from ORDERHEAD"),
-                 "0|0|1250; 1|1|0; 1|1|0; 1|1|0; 1|1|0; 1|1|0");
-        QCOMPARE(QueryText("select ORDERHEAD_PARTNER_COUNTRY_INTERNATIONAL_CODE, "
-                           "ORDERHEAD_PARTNER_MAIL_ADDRESS, ORDERHEAD_CURRENCY_ABBREVIATION, "
-                           "ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS from ORDERHEAD where "
-                           "ORDERHEAD_ID = 5"),
-                 "HUN|Fő u. 1.|Ft|-2500");
-        QCOMPARE(QueryText("select ORDERITEM_LIST_PRICE from ORDERITEM"), "12; 400; 400; 8000");
-        QCOMPARE(QueryText("select PARTNER_MAIL_CITY from PARTNER"), "Budapest; Debrecen");
-        // The company's old line rounding moves to the forint.
-        QCOMPARE(QueryText("select CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, "
-                           "CURRENCY_LINE_TOTAL_PRINTING_DECIMALS from CURRENCYY where "
-                           "CURRENCY_ID = 0"),
-                 QStringLiteral("%1|%2").arg(roundDigits).arg(roundDigits > 0 ? 2 : 0));
-        QVERIFY(Setup::current().value("SETUP_INVOICE_CURR_TMPL_DIR").isNull());
-        QVERIFY(Setup::current().value("SETUP_INVOICE_DIGEST").isNull());
-    } else {
-        QVERIFY(interaction.checkLists.isEmpty());
-        QCOMPARE(Setup::current().text("SETUP_INVOICE_CURR_TMPL_DIR"), "sablon_2009");
-    }
-    // Orders of version 300 get line decimals from their own old rounding: 2 prints 2, 0 prints 0.
-    QCOMPARE(QueryText("select ORDERHEAD_CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, "
-                       "ORDERHEAD_CURRENCY_LINE_TOTAL_PRINTING_DECIMALS from ORDERHEAD "
-                       "where ORDERHEAD_ID <= 2"),
-             version <= 300 ? "2|2; 0|0" : "|; |");
-}
-
-void TestSchemaUpgrade::failureKeepsOriginal_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<int>("recordedVersion"); // 0: as built
-    QTest::addColumn<QString>("breakage");
-    QTest::addColumn<int>("failingStep");
-    QTest::addColumn<int>("cancelAfterChecks");
-    QTest::addColumn<QStringList>("messages");
-    const QString unable = "Unable to upgrade database.";
-    const QString failed = kErrorUpgrading;
-    const QString aborted = "Upgrading database aborted.";
-    // The file must come back without a version table, not at version 3.
-    AddRow("U4 fails after U1-U3", -1, 0, "", 4, -1, QStringList{unable, failed});
-    AddRow("U6 from 301 fails", 301, 0, "", 6, -1, QStringList{unable, failed});
-    AddRow("index to drop is missing", 3, 0, "partner index", 0, -1, QStringList{unable, failed});
-    AddRow("old rounding setting is missing", 1, 0, "round digits", 0, -1,
-           QStringList{"Unable to load rounding setup.", failed});
-    // No step starts from a version the chain does not know, so the file never reaches 302.
-    AddRow("unknown version", 3, 150, "", 0, -1, QStringList{unable, failed});
-    AddRow("newer version", 301, 303, "", 0, -1,
-           QStringList{"The database version is newer, than the version of the billing "
-                       "software.&Upgrade the software to a newer version."});
-    AddRow("safety copy cannot be made", 3, 0, "safety copy", 0, -1,
-           QStringList{"Error backing up database file before upgrade."});
-    AddRow("cancelled before the first step", -1, 0, "", 0, 0, QStringList{aborted});
-    AddRow("cancelled before U4", -1, 0, "", 0, 3, QStringList{aborted});
-    AddRow("payment method choice cancelled", -1, 0, "no answer", 0, -1,
-           QStringList{"Operation aborted.", aborted});
-}
-
-void TestSchemaUpgrade::failureKeepsOriginal()
-{
-    QFETCH(int, version);
-    QFETCH(int, recordedVersion);
-    QFETCH(QString, breakage);
-    QFETCH(int, failingStep);
-    QFETCH(int, cancelAfterChecks);
-    QFETCH(QStringList, messages);
-    OldCompanyFile file{version};
-    file.withoutPartnerNameIndex = breakage == "partner index";
-    file.withoutRoundDigits = breakage == "round digits";
-    const QString path = build(file);
-    QVERIFY(!path.isEmpty());
-    if (recordedVersion) {
-        QVERIFY(Database::open(path));
-        QVERIFY(ExecSql("update DBVERSION set VERSION = ?", {recordedVersion}));
-        Database::close();
-    }
-    // A folder where the copy should go cannot be overwritten.
-    if (breakage == "safety copy")
-        QVERIFY(QDir().mkpath(DatabasePrepare::safetyCopyPath(path)));
-    const QByteArray original = FileBytes(path);
-
-    ScriptedInteraction interaction;
-    interaction.cancelAfterChecks = cancelAfterChecks;
-    if (breakage != "no answer")
-        interaction.checkAnswers.enqueue(QList<bool>{true, true, true});
-    QVERIFY(Database::open(path));
-    DatabasePrepare prepare(interaction);
-    prepare.setFailingStep(failingStep);
-    const Result r = prepare.run();
-    QVERIFY(!r.ok());
-    QCOMPARE(r.message(), messages.last());
-    QCOMPARE(Texts(interaction), messages);
-    QVERIFY(!Database::isOpen());
-    QCOMPARE(FileBytes(path), original);
-    QVERIFY(!QFileInfo(DatabasePrepare::safetyCopyPath(path)).isFile());
-    QVERIFY(!QFile::exists(path + "-journal"));
-}
-
-void TestSchemaUpgrade::currentVersionOpensWithoutCopy()
-{
-    TestCompany company;
-    QVERIFY(company.isValid());
-    QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Jelen Kft.'"));
-    ScriptedInteraction interaction;
-    QVERIFY(PrepareDatabase(interaction).ok());
-    QVERIFY(interaction.messages.isEmpty());
-    QVERIFY(interaction.progressTexts.isEmpty());
-    QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(company.path())));
-    QCOMPARE(Setup::current().text("SETUP_NAME"), "Jelen Kft.");
-}
-
-void TestSchemaUpgrade::emptyFileGetsSchema()
-{
-    QVERIFY(Database::open(m_dir->filePath("new.db")));
-    ScriptedInteraction interaction;
-    QVERIFY(PrepareDatabase(interaction).ok());
-    QVERIFY(interaction.progressTexts.contains("Creating database tables"));
-    QVERIFY(interaction.progressTexts.contains("Creating database indexes"));
-    QVERIFY(!interaction.progressTexts.contains("Upgrading database."));
-    QCOMPARE(ReadDbVersion(), 302);
-    QCOMPARE(Indexes(), Sorted(TestDataLines("app/schema_indexes.txt")));
-}
-
-// The program's TN_ additions beside the company schema: put on a file that lacks them when it is
-// opened, kept out of DBVERSION, and a file extended by a newer program is refused untouched.
-void TestSchemaUpgrade::schemaExtensions_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<bool>("opens");
-    QTest::addColumn<int>("version");
-    AddRow("current", QString(), true, kSchemaExtensionVersion);
-    AddRow("file without them",
-           QString("drop table TN_VERSION; drop index TN_IDX_ORDERHEAD_CANCEL"), true,
-           kSchemaExtensionVersion);
-    AddRow("newer program's", QString("update TN_VERSION set TN_VERSION_VERSION = 99"), false, 99);
-}
-
-void TestSchemaUpgrade::schemaExtensions()
-{
-    QFETCH(QString, change);
-    QFETCH(bool, opens);
-    QFETCH(int, version);
-    TestCompany company;
-    QVERIFY(company.isValid());
-    QCOMPARE(ReadSchemaExtensionVersion(), kSchemaExtensionVersion);
-    for (const QString& statement : change.split(u';', Qt::SkipEmptyParts))
-        QVERIFY(ExecSql(statement.trimmed()));
-    ScriptedInteraction interaction;
-    const Result r = PrepareDatabase(interaction);
-    QCOMPARE(r.ok(), opens);
-    if (!opens) {
-        QCOMPARE(r.message(), SchemaExtensions::newerVersionMessage());
-        QVERIFY(Database::open(company.path()));
-    }
-    QCOMPARE(ReadSchemaExtensionVersion(), version);
-    QCOMPARE(ReadDbVersion(), kCurrentDbVersion);
-    QCOMPARE(QueryText("select count(*) from sqlite_master where name like 'TN\\_IDX%' escape "
-                       "'\\'"),
-             "6");
-    // The list's default view and its rare kinds come from the extension's indexes.
-    QVERIFY(QueryText("explain query plan select ORDERHEAD_ID from ORDERHEAD where ORDERHEAD_TYPE "
-                      "= 1 order by ORDERHEAD_ID desc limit 10")
-                .contains("TN_IDX_ORDERHEAD_CANCEL"));
 }
 
 QTEST_GUILESS_MAIN(TestSchemaUpgrade)

@@ -64,16 +64,139 @@ class TestShellWidgets : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void enter_data();
-    void enter();
-    void enterConfirmsStandardDialogs();
-    void dateTyping_data();
-    void dateTyping();
-    void copiesQuestion();
-    void bothLanguagesReadProperly_data();
-    void bothLanguagesReadProperly();
+    void init()
+    {
+        EnterLikeTab::setEnabled(true);
+        m_dialog = std::make_unique<EditDialog>();
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    }
+
+    void cleanup()
+    {
+        m_dialog.reset();
+        EnterLikeTab::setEnabled(false);
+    }
+
+    void enter_data()
+    {
+        // to: empty: the dialog was accepted
+        AddColumns<bool, QString, int, QString>({"ruleOn", "from", "key", "to"});
+        const int enter = Qt::Key_Return;
+        AddRow("line edit", true, "line", enter, "spin");
+        AddRow("keypad enter", true, "line", int(Qt::Key_Enter), "spin");
+        AddRow("editable combo", true, "editable combo", enter, "combo");
+        AddRow("combo", true, "combo", enter, "date");
+        // A multi-line field takes Enter as a line break; on a button Enter presses it.
+        AddRow("multi-line field", true, "notes", enter, "notes");
+        AddRow("button beside a field", true, "chooser", enter, "last");
+        AddRow("default button", true, "ok", enter, "");
+        AddRow("rule switched off", false, "line", enter, "");
+    }
+
+    void enter()
+    {
+        auto [ruleOn, from, key, to] =
+            Fetch<bool, QString, int, QString>({"ruleOn", "from", "key", "to"});
+        EnterLikeTab::setEnabled(ruleOn);
+        field(from)->setFocus();
+        QCOMPARE(FocusedField(), field(from));
+        const auto modifiers = key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+        QCOMPARE(m_dialog->isVisible(), !to.isEmpty());
+        QCOMPARE(m_dialog->result(),
+                 to.isEmpty() ? int(QDialog::Accepted) : int(QDialog::Rejected));
+        if (!to.isEmpty())
+            QCOMPARE(FocusedField(), field(to));
+        QCOMPARE(field<QPlainTextEdit>("notes")->toPlainText(), from == "notes" ? "\n" : "");
+    }
+
+    void enterConfirmsStandardDialogs()
+    {
+        QInputDialog dialog;
+        dialog.setLabelText("Name");
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto* field = dialog.findChild<QLineEdit*>();
+        QVERIFY(field);
+        field->setFocus();
+        QTest::keyClicks(field, "x");
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.textValue(), "x");
+    }
+
+    void dateTyping_data()
+    {
+        AddColumns<QString, QDate, QString, bool>({"typed", "date", "shown", "valid"});
+        AddRow("short parts", "2024.3.5", QDate(2024, 3, 5), "2024.03.05.", true);
+        AddRow("iso form", "2024-12-31", QDate(2024, 12, 31), "2024.12.31.", true);
+        AddRow("leap day", "2024.02.29.", QDate(2024, 2, 29), "2024.02.29.", true);
+        AddRow("no such day", "2023.02.29.", QDate(), "2023.02.29.", false);
+        AddRow("letters are refused", "2024.marc", QDate(), "2024.", false);
+        AddRow("empty", "", QDate(), "", true);
+    }
+
+    void dateTyping()
+    {
+        auto [typed, date, shown, valid] =
+            Fetch<QString, QDate, QString, bool>({"typed", "date", "shown", "valid"});
+        auto* edit = field<DateEdit>("date");
+        edit->setFocus();
+        QTest::keyClicks(edit, typed);
+        field("last")->setFocus();
+        QCOMPARE(edit->date(), date);
+        QCOMPARE(edit->text(), shown);
+        QCOMPARE(edit->isValidInput(), valid);
+    }
+
+    void copiesQuestion()
+    {
+        GuiInteraction gui;
+        int shown = 0;
+        ModalDriver driver({[&shown](QWidget* dlg) {
+                                auto* number = Child<QSpinBox>(dlg, "m_number");
+                                shown = number->value();
+                                number->selectAll();
+                                QTest::keyClicks(number, "5");
+                                static_cast<QDialog*>(dlg)->accept();
+                            },
+                            [](QWidget* dlg) { static_cast<QDialog*>(dlg)->reject(); }});
+        QCOMPARE(gui.askNumber("Invoice copies to print", 2), std::optional<int>(5));
+        QCOMPARE(shown, 2);
+        // Cancelled: no number, the printing is not started.
+        QVERIFY(!gui.askNumber("Invoice copies to print", 2));
+        QVERIFY(driver.done());
+    }
+
+    // Source texts written in Hungarian without accents read properly in both languages, and the
+    // counts of the "used by" messages take their plural.
+    void bothLanguagesReadProperly_data()
+    {
+        AddColumns<QString, QString, QString, int, QString>(
+            {"language", "context", "source", "count", "expected"});
+        AddRow("hu menu", "hu", "MainWindow", "Szamlak importalasa fajlbol", -1,
+               "Számlák importálása fájlból");
+        AddRow("en menu", "en", "MainWindow", "Szamlak importalasa fajlbol", -1,
+               "Import invoices from file");
+        AddRow("en dialog", "en", "PartnerEditLayout", "Levelezesi cim", -1, "Mailing Address");
+        AddRow("en order list", "en", "OrderList", "Egyeb muveletek", -1, "Other Operations");
+        AddRow("en plural", "en", "VatTable", "This VAT key is used by %n product(s).", 3,
+               "This VAT key is used by %n products.");
+        AddRow("hu count", "hu", "VatTable", "This VAT key is used by %n product(s).", 3,
+               "Ezt az ÁFA-kulcsot %n termék használja.");
+    }
+
+    void bothLanguagesReadProperly()
+    {
+        auto [language, context, source, count, expected] =
+            Fetch<QString, QString, QString, int, QString>(
+                {"language", "context", "source", "count", "expected"});
+        QTranslator translator;
+        QVERIFY(translator.load(":/i18n/tallyNorth_" + language + ".qm"));
+        QCOMPARE(translator.translate(qPrintable(context), qPrintable(source), nullptr, count),
+                 expected);
+    }
 
 private:
     template <class T = QWidget> T* field(const QString& name) const
@@ -84,152 +207,5 @@ private:
     std::unique_ptr<EditDialog> m_dialog;
 };
 
-void TestShellWidgets::init()
-{
-    EnterLikeTab::setEnabled(true);
-    m_dialog = std::make_unique<EditDialog>();
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
-}
-
-void TestShellWidgets::cleanup()
-{
-    m_dialog.reset();
-    EnterLikeTab::setEnabled(false);
-}
-
-void TestShellWidgets::enter_data()
-{
-    QTest::addColumn<bool>("ruleOn");
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("to"); // empty: the dialog was accepted
-    const int enter = Qt::Key_Return;
-    AddRow("line edit", true, "line", enter, "spin");
-    AddRow("keypad enter", true, "line", int(Qt::Key_Enter), "spin");
-    AddRow("editable combo", true, "editable combo", enter, "combo");
-    AddRow("combo", true, "combo", enter, "date");
-    // A multi-line field takes Enter as a line break; on a button Enter presses it.
-    AddRow("multi-line field", true, "notes", enter, "notes");
-    AddRow("button beside a field", true, "chooser", enter, "last");
-    AddRow("default button", true, "ok", enter, "");
-    AddRow("rule switched off", false, "line", enter, "");
-}
-
-void TestShellWidgets::enter()
-{
-    QFETCH(bool, ruleOn);
-    QFETCH(QString, from);
-    QFETCH(int, key);
-    QFETCH(QString, to);
-    EnterLikeTab::setEnabled(ruleOn);
-    field(from)->setFocus();
-    QCOMPARE(FocusedField(), field(from));
-    const auto modifiers = key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-    QCOMPARE(m_dialog->isVisible(), !to.isEmpty());
-    QCOMPARE(m_dialog->result(), to.isEmpty() ? int(QDialog::Accepted) : int(QDialog::Rejected));
-    if (!to.isEmpty())
-        QCOMPARE(FocusedField(), field(to));
-    QCOMPARE(field<QPlainTextEdit>("notes")->toPlainText(), from == "notes" ? "\n" : "");
-}
-
-void TestShellWidgets::enterConfirmsStandardDialogs()
-{
-    QInputDialog dialog;
-    dialog.setLabelText("Name");
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    auto* field = dialog.findChild<QLineEdit*>();
-    QVERIFY(field);
-    field->setFocus();
-    QTest::keyClicks(field, "x");
-    QTest::keyClick(field, Qt::Key_Return);
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(dialog.textValue(), "x");
-}
-
-void TestShellWidgets::dateTyping_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<bool>("valid");
-    AddRow("short parts", "2024.3.5", QDate(2024, 3, 5), "2024.03.05.", true);
-    AddRow("iso form", "2024-12-31", QDate(2024, 12, 31), "2024.12.31.", true);
-    AddRow("leap day", "2024.02.29.", QDate(2024, 2, 29), "2024.02.29.", true);
-    AddRow("no such day", "2023.02.29.", QDate(), "2023.02.29.", false);
-    AddRow("letters are refused", "2024.marc", QDate(), "2024.", false);
-    AddRow("empty", "", QDate(), "", true);
-}
-
-void TestShellWidgets::dateTyping()
-{
-    QFETCH(QString, typed);
-    QFETCH(QDate, date);
-    QFETCH(QString, shown);
-    QFETCH(bool, valid);
-    auto* edit = field<DateEdit>("date");
-    edit->setFocus();
-    QTest::keyClicks(edit, typed);
-    field("last")->setFocus();
-    QCOMPARE(edit->date(), date);
-    QCOMPARE(edit->text(), shown);
-    QCOMPARE(edit->isValidInput(), valid);
-}
-
-void TestShellWidgets::copiesQuestion()
-{
-    GuiInteraction gui;
-    int shown = 0;
-    ModalDriver driver({[&shown](QWidget* dlg) {
-                            auto* number = Child<QSpinBox>(dlg, "m_number");
-                            shown = number->value();
-                            number->selectAll();
-                            QTest::keyClicks(number, "5");
-                            static_cast<QDialog*>(dlg)->accept();
-                        },
-                        [](QWidget* dlg) { static_cast<QDialog*>(dlg)->reject(); }});
-    QCOMPARE(gui.askNumber("Invoice copies to print", 2), std::optional<int>(5));
-    QCOMPARE(shown, 2);
-    // Cancelled: no number, the printing is not started.
-    QVERIFY(!gui.askNumber("Invoice copies to print", 2));
-    QVERIFY(driver.done());
-}
-
 QTEST_MAIN(TestShellWidgets)
-// Source texts written in Hungarian without accents read properly in both languages, and the
-// counts of the "used by" messages take their plural.
-void TestShellWidgets::bothLanguagesReadProperly_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("context");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QString>("expected");
-    AddRow("hu menu", "hu", "MainWindow", "Szamlak importalasa fajlbol", -1,
-           "Számlák importálása fájlból");
-    AddRow("en menu", "en", "MainWindow", "Szamlak importalasa fajlbol", -1,
-           "Import invoices from file");
-    AddRow("en dialog", "en", "PartnerEditLayout", "Levelezesi cim", -1, "Mailing Address");
-    AddRow("en order list", "en", "OrderList", "Egyeb muveletek", -1, "Other Operations");
-    AddRow("en plural", "en", "VatTable", "This VAT key is used by %n product(s).", 3,
-           "This VAT key is used by %n products.");
-    AddRow("hu count", "hu", "VatTable", "This VAT key is used by %n product(s).", 3,
-           "Ezt az ÁFA-kulcsot %n termék használja.");
-}
-
-void TestShellWidgets::bothLanguagesReadProperly()
-{
-    QFETCH(QString, language);
-    QFETCH(QString, context);
-    QFETCH(QString, source);
-    QFETCH(int, count);
-    QFETCH(QString, expected);
-    QTranslator translator;
-    QVERIFY(translator.load(":/i18n/tallyNorth_" + language + ".qm"));
-    QCOMPARE(translator.translate(qPrintable(context), qPrintable(source), nullptr, count),
-             expected);
-}
-
 #include "tst_shellwidgets.moc"

@@ -9,19 +9,173 @@
 #include <QProcess>
 #include <QtTest>
 
+namespace {
+
+// The markers of the company file, to tell which content is in use; with name, one is added.
+QString Markers(const QString& path, const QString& name = {})
+{
+    QString markers = "<failed>";
+    if (Database::open(path) &&
+        (name.isEmpty() || ExecSql("insert into STATNO (STATNO_NAME) values (?)", {name})))
+        markers = QueryText("select STATNO_NAME from STATNO");
+    Database::close();
+    return markers;
+}
+
+// The file passes SQLite's full check (a journal left by a killed process is rolled back first).
+QString CheckedVersion(const QString& path)
+{
+    QString result = "<failed>";
+    if (Database::open(path)) {
+        const QString check = SelectValue("pragma integrity_check").toString();
+        result = check == "ok" ? SelectValue("select VERSION from DBVERSION").toString() : check;
+    }
+    Database::close();
+    return result;
+}
+
+} // namespace
+
 class TestCliBackup : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void backupAndRestoreTheOnlyCompany();
-    void severalCompaniesNeedDb_data();
-    void severalCompaniesNeedDb();
-    void usageErrorsSayWhatWasWrong_data();
-    void usageErrorsSayWhatWasWrong();
-    void twoProcessesOnOneOldFile();
-    void killedWorkLeavesOldOrNew_data();
-    void killedWorkLeavesOldOrNew();
+    void init()
+    {
+        QVERIFY(m_base.emplace().isValid());
+        QVERIFY(QDir(m_base->path()).mkpath("BiztonsagiMasolatok"));
+    }
+
+    void backupAndRestoreTheOnlyCompany()
+    {
+        QCOMPARE(cli({"check"}).exitCode, 0);
+        const QString demo = db("demo.db");
+        QCOMPARE(Markers(demo, "saved"), "saved");
+        const QString file = backup("demo.dbk");
+
+        ProcessRun run = cli({"backup", file});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err.trimmed(), "Backup file saved successfully.");
+        QCOMPARE(Markers(file), "saved");
+
+        QCOMPARE(Markers(demo, "later"), "saved; later");
+        run = cli({"restore", file});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err.trimmed(), "Backup file restored successfully.");
+        QCOMPARE(Markers(demo), "saved");
+    }
+
+    void severalCompaniesNeedDb_data()
+    {
+        QTest::addColumn<QString>("verb");
+        AddRow("backup", "backup");
+        AddRow("restore", "restore");
+    }
+
+    // A script cannot answer the selection dialog: it is told the companies and left to choose.
+    void severalCompaniesNeedDb()
+    {
+        QFETCH(QString, verb);
+        QCOMPARE(cli({"create", "Kovács Bt.", "--tax-no", "11111111-2-41"}).exitCode, 0);
+        QCOMPARE(cli({"create", "Szabó Kft.", "--tax-no", "22222222-2-42"}).exitCode, 0);
+        const QString file = backup("kovacs_bt.dbk");
+        QVERIFY(QFile::copy(db("kovacs_bt.db"), file));
+        const QByteArray before = FileBytes(db("kovacs_bt.db"));
+
+        ProcessRun run = cli({verb, file});
+        QCOMPARE(run.exitCode, 1);
+        for (const char* expected :
+             {"kovacs_bt.db: Kovács Bt.", "szabo_kft.db: Szabó Kft.", "--db"})
+            QVERIFY2(run.err.contains(QString(expected)), qPrintable(run.err));
+
+        QCOMPARE(cli({"--db", db("kovacs_bt.db"), verb, file}).exitCode, 0);
+        QCOMPARE(FileBytes(db("kovacs_bt.db")), before);
+    }
+
+    void usageErrorsSayWhatWasWrong_data()
+    {
+        AddColumns<QStringList, QString>({"args", "said"});
+        AddRow("empty base folder", QStringList{"--base", "", "check"}, "--base needs a value");
+        AddRow("unknown language", QStringList{"--lang", "xx", "check"}, "unknown language xx");
+        AddRow("unknown option", QStringList{"--frob", "1", "check"}, "unknown option --frob");
+        AddRow("unknown command", QStringList{"nosuch"}, "unknown command nosuch");
+        AddRow("no command", QStringList{}, "no command given");
+        AddRow("verb option", QStringList{"check", "--bad", "x"}, "unknown option --bad");
+        AddRow("missing tax number", QStringList{"create", "X Kft"}, "--tax-no is missing");
+        AddRow("backup without file", QStringList{"backup"}, "give exactly one backup file");
+    }
+
+    void usageErrorsSayWhatWasWrong()
+    {
+        auto [args, said] = Fetch<QStringList, QString>({"args", "said"});
+        const ProcessRun run = cli(args);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains(said), qPrintable(run.err));
+        QVERIFY2(run.err.contains("usage: tallynorth-cli"), qPrintable(run.err));
+        QVERIFY(!QFile::exists(db("demo.db")));
+    }
+
+    // Two processes upgrading one file once shared one safety copy and lost the file.
+    void twoProcessesOnOneOldFile()
+    {
+        QVERIFY(QDir(m_base->path()).mkpath("DB"));
+        const QString file = db("ceg.db");
+        QVERIFY(OldCompanyFile{3}.build(file));
+        auto first = start({"--db", file, "check"});
+        auto second = start({"--db", file, "check"});
+        QVERIFY(first->waitForFinished(120000) && second->waitForFinished(120000));
+        for (QProcess* p : {first.get(), second.get()}) {
+            const QString err = QString::fromUtf8(p->readAllStandardError());
+            QVERIFY2(p->exitCode() == 0 || err.contains("another program"), qPrintable(err));
+        }
+        QCOMPARE(CheckedVersion(file), "302");
+        QVERIFY(Database::open(file));
+        QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
+        Database::close();
+    }
+
+    void killedWorkLeavesOldOrNew_data()
+    {
+        AddColumns<QString, int>({"verb", "delayMs"});
+        for (int delay : {5, 40, 120, 300}) {
+            for (const char* verb : {"check", "restore", "backup"})
+                QTest::addRow("%s killed after %d ms", verb, delay) << QString(verb) << delay;
+        }
+    }
+
+    // kill -9 at some point of an upgrade, a restore or a backup: the company file passes the full
+    // check and is the old or the new one, and the next start works on it.
+    void killedWorkLeavesOldOrNew()
+    {
+        auto [verb, delayMs] = Fetch<QString, int>({"verb", "delayMs"});
+        QVERIFY(QDir(m_base->path()).mkpath("DB"));
+        const QString file = db("ceg.db");
+        const QString saved = backup("ceg.dbk");
+        QVERIFY(OldCompanyFile{3}.build(verb == "check" ? file : saved));
+        if (verb != "check")
+            QCOMPARE(cli({"create", "Új Kft.", "--tax-no", "11111111-2-41", "--file", "ceg.db"})
+                         .exitCode,
+                     0);
+        const QStringList args = verb == "check" ? QStringList{"--db", file, "check"}
+                                                 : QStringList{"--db", file, verb, saved};
+        auto process = start(args);
+        QVERIFY(process->waitForStarted());
+        QTest::qWait(delayMs);
+        process->kill();
+        process->waitForFinished();
+
+        const QString version = CheckedVersion(file);
+        const QStringList expected = verb == "restore" ? QStringList{"3", "302"}
+                                     : verb == "check" ? QStringList{"3", "302"}
+                                                       : QStringList{"302"};
+        QVERIFY2(expected.contains(version), qPrintable(version));
+        // The backup file is the earlier one or the new snapshot, never a half-written file.
+        if (verb == "backup")
+            QVERIFY(QStringList({"3", "302"}).contains(CheckedVersion(saved)));
+        const ProcessRun next = cli({"--db", file, "check"});
+        QVERIFY2(next.exitCode == 0, qPrintable(next.err));
+        QCOMPARE(next.out, file + "\t302\n");
+    }
 
 private:
     QStringList based(const QStringList& args) const
@@ -45,177 +199,6 @@ private:
     std::optional<QTemporaryDir> m_base;
     QTemporaryDir m_runtime;
 };
-
-namespace {
-
-// The markers of the company file, to tell which content is in use; with name, one is added.
-QString Markers(const QString& path, const QString& name = {})
-{
-    QString markers = "<failed>";
-    if (Database::open(path) &&
-        (name.isEmpty() || ExecSql("insert into STATNO (STATNO_NAME) values (?)", {name})))
-        markers = QueryText("select STATNO_NAME from STATNO");
-    Database::close();
-    return markers;
-}
-
-} // namespace
-
-void TestCliBackup::init()
-{
-    QVERIFY(m_base.emplace().isValid());
-    QVERIFY(QDir(m_base->path()).mkpath("BiztonsagiMasolatok"));
-}
-
-void TestCliBackup::backupAndRestoreTheOnlyCompany()
-{
-    QCOMPARE(cli({"check"}).exitCode, 0);
-    const QString demo = db("demo.db");
-    QCOMPARE(Markers(demo, "saved"), "saved");
-    const QString file = backup("demo.dbk");
-
-    ProcessRun run = cli({"backup", file});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.err.trimmed(), "Backup file saved successfully.");
-    QCOMPARE(Markers(file), "saved");
-
-    QCOMPARE(Markers(demo, "later"), "saved; later");
-    run = cli({"restore", file});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.err.trimmed(), "Backup file restored successfully.");
-    QCOMPARE(Markers(demo), "saved");
-}
-
-void TestCliBackup::severalCompaniesNeedDb_data()
-{
-    QTest::addColumn<QString>("verb");
-    AddRow("backup", "backup");
-    AddRow("restore", "restore");
-}
-
-// A script cannot answer the selection dialog: it is told the companies and left to choose.
-void TestCliBackup::severalCompaniesNeedDb()
-{
-    QFETCH(QString, verb);
-    QCOMPARE(cli({"create", "Kovács Bt.", "--tax-no", "11111111-2-41"}).exitCode, 0);
-    QCOMPARE(cli({"create", "Szabó Kft.", "--tax-no", "22222222-2-42"}).exitCode, 0);
-    const QString file = backup("kovacs_bt.dbk");
-    QVERIFY(QFile::copy(db("kovacs_bt.db"), file));
-    const QByteArray before = FileBytes(db("kovacs_bt.db"));
-
-    ProcessRun run = cli({verb, file});
-    QCOMPARE(run.exitCode, 1);
-    for (const char* expected : {"kovacs_bt.db: Kovács Bt.", "szabo_kft.db: Szabó Kft.", "--db"})
-        QVERIFY2(run.err.contains(QString(expected)), qPrintable(run.err));
-
-    QCOMPARE(cli({"--db", db("kovacs_bt.db"), verb, file}).exitCode, 0);
-    QCOMPARE(FileBytes(db("kovacs_bt.db")), before);
-}
-
-void TestCliBackup::usageErrorsSayWhatWasWrong_data()
-{
-    QTest::addColumn<QStringList>("args");
-    QTest::addColumn<QString>("said");
-    AddRow("empty base folder", QStringList{"--base", "", "check"}, "--base needs a value");
-    AddRow("unknown language", QStringList{"--lang", "xx", "check"}, "unknown language xx");
-    AddRow("unknown option", QStringList{"--frob", "1", "check"}, "unknown option --frob");
-    AddRow("unknown command", QStringList{"nosuch"}, "unknown command nosuch");
-    AddRow("no command", QStringList{}, "no command given");
-    AddRow("verb option", QStringList{"check", "--bad", "x"}, "unknown option --bad");
-    AddRow("missing tax number", QStringList{"create", "X Kft"}, "--tax-no is missing");
-    AddRow("backup without file", QStringList{"backup"}, "give exactly one backup file");
-}
-
-void TestCliBackup::usageErrorsSayWhatWasWrong()
-{
-    QFETCH(QStringList, args);
-    QFETCH(QString, said);
-    const ProcessRun run = cli(args);
-    QCOMPARE(run.exitCode, 2);
-    QVERIFY2(run.err.contains(said), qPrintable(run.err));
-    QVERIFY2(run.err.contains("usage: tallynorth-cli"), qPrintable(run.err));
-    QVERIFY(!QFile::exists(db("demo.db")));
-}
-
-namespace {
-
-// The file passes SQLite's full check (a journal left by a killed process is rolled back first).
-QString CheckedVersion(const QString& path)
-{
-    QString result = "<failed>";
-    if (Database::open(path)) {
-        const QString check = SelectValue("pragma integrity_check").toString();
-        result = check == "ok" ? SelectValue("select VERSION from DBVERSION").toString() : check;
-    }
-    Database::close();
-    return result;
-}
-
-} // namespace
-
-// Two processes upgrading one file once shared one safety copy and lost the file.
-void TestCliBackup::twoProcessesOnOneOldFile()
-{
-    QVERIFY(QDir(m_base->path()).mkpath("DB"));
-    const QString file = db("ceg.db");
-    QVERIFY(OldCompanyFile{3}.build(file));
-    auto first = start({"--db", file, "check"});
-    auto second = start({"--db", file, "check"});
-    QVERIFY(first->waitForFinished(120000) && second->waitForFinished(120000));
-    for (QProcess* p : {first.get(), second.get()}) {
-        const QString err = QString::fromUtf8(p->readAllStandardError());
-        QVERIFY2(p->exitCode() == 0 || err.contains("another program"), qPrintable(err));
-    }
-    QCOMPARE(CheckedVersion(file), "302");
-    QVERIFY(Database::open(file));
-    QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
-    Database::close();
-}
-
-void TestCliBackup::killedWorkLeavesOldOrNew_data()
-{
-    QTest::addColumn<QString>("verb");
-    QTest::addColumn<int>("delayMs");
-    for (int delay : {5, 40, 120, 300}) {
-        for (const char* verb : {"check", "restore", "backup"})
-            QTest::addRow("%s killed after %d ms", verb, delay) << QString(verb) << delay;
-    }
-}
-
-// kill -9 at some point of an upgrade, a restore or a backup: the company file passes the full
-// check and is the old or the new one, and the next start works on it.
-void TestCliBackup::killedWorkLeavesOldOrNew()
-{
-    QFETCH(QString, verb);
-    QFETCH(int, delayMs);
-    QVERIFY(QDir(m_base->path()).mkpath("DB"));
-    const QString file = db("ceg.db");
-    const QString saved = backup("ceg.dbk");
-    QVERIFY(OldCompanyFile{3}.build(verb == "check" ? file : saved));
-    if (verb != "check")
-        QCOMPARE(
-            cli({"create", "Új Kft.", "--tax-no", "11111111-2-41", "--file", "ceg.db"}).exitCode,
-            0);
-    const QStringList args = verb == "check" ? QStringList{"--db", file, "check"}
-                                             : QStringList{"--db", file, verb, saved};
-    auto process = start(args);
-    QVERIFY(process->waitForStarted());
-    QTest::qWait(delayMs);
-    process->kill();
-    process->waitForFinished();
-
-    const QString version = CheckedVersion(file);
-    const QStringList expected = verb == "restore" ? QStringList{"3", "302"}
-                                 : verb == "check" ? QStringList{"3", "302"}
-                                                   : QStringList{"302"};
-    QVERIFY2(expected.contains(version), qPrintable(version));
-    // The backup file is the earlier one or the new snapshot, never a half-written file.
-    if (verb == "backup")
-        QVERIFY(QStringList({"3", "302"}).contains(CheckedVersion(saved)));
-    const ProcessRun next = cli({"--db", file, "check"});
-    QVERIFY2(next.exitCode == 0, qPrintable(next.err));
-    QCOMPARE(next.out, file + "\t302\n");
-}
 
 QTEST_GUILESS_MAIN(TestCliBackup)
 #include "tst_clibackup.moc"

@@ -12,12 +12,153 @@ class TestCliOrders : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void addShowListCloneDelete();
-    void issuePrintCancel();
-    void payFortyPercentThenTheRest();
-    void badInput_data();
-    void badInput();
+    void init()
+    {
+        QVERIFY(m_base.emplace().isValid());
+        QCOMPARE(cli({"check"}).exitCode, 0);
+        QCOMPARE(cli({"--db", db(), "template", "install", TN_TEMPLATE_DIR}).exitCode, 0);
+        // A euro price for the demo product, and a second product without any price.
+        QCOMPARE(stored("insert into PRODUCTPRICE values (1, 1, 4.5)"), QString());
+        QCOMPARE(stored("insert into PRODUCT (PRODUCT_NAME, PRODUCT_NAME_ASCII, PRODUCT_VAT_ID) "
+                        "values ('Árvíztűrő tükörfúrógép', 'ARVIZTURO TUKORFUROGEP', 1)"),
+                 QString());
+    }
+
+    void addShowListCloneDelete()
+    {
+        ProcessRun run =
+            cli({"order", "add", "--partner", "teszt partner", "--currency", "1", "--item", "1:2",
+                 "--item", "2:1:10.5", "--item", "1:-1", "--subject", "Próba"});
+        QCOMPARE(run.exitCode, 0);
+        const QString id = run.out.trimmed();
+        // 2 x 4.5 + 10.5 - 4.5 = 15 EUR net, 27% VAT.
+        QCOMPARE(
+            stored("select ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_TOTAL_NET, "
+                   "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_SUBJECT from ORDERHEAD "
+                   "where ORDERHEAD_ID = " +
+                   id),
+            QString("EUR|15|4.05|19.05|Próba"));
+        QCOMPARE(stored("select ORDERITEM_NAME, ORDERITEM_PRICE, ORDERITEM_DISCOUNT_TYPE from "
+                        "ORDERITEM where ORDERITEM_ORDERHEAD_ID = " +
+                        id + " order by ORDERITEM_ID"),
+                 QString("Teszt termék|4.5|0; Árvíztűrő tükörfúrógép|10.5|2; Teszt termék|4.5|0"));
+
+        run = cli({"order", "show", id});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.out.contains("Teszt termék\t-1\tdb\t4.50\t-4.50\n"), qPrintable(run.out));
+        QVERIFY(run.out.contains("Total Gross\t19.05\n"));
+        QVERIFY(run.out.contains("Kind\tUnverified\n"));
+
+        run = cli({"orders", "--partner", "TESZT", "--format", "csv"});
+        QCOMPARE(run.exitCode, 0);
+        const QStringList lines = run.out.trimmed().split('\n');
+        QCOMPARE(lines.size(), 3); // header, the new order, the sample order
+        QVERIFY2(lines[1].endsWith(",EUR,15.00,4.05,19.05,0.00,Átutalás,Unverified"),
+                 qPrintable(lines[1]));
+
+        run = cli({"order", "clone", id});
+        QCOMPARE(run.exitCode, 0);
+        const QString copy = run.out.trimmed();
+        QCOMPARE(stored("select count(*) from ORDERITEM where ORDERITEM_ORDERHEAD_ID = " + copy),
+                 "3");
+        QCOMPARE(
+            stored("update ORDERHEAD set ORDERHEAD_PRINTED_COPIES = 1 where ORDERHEAD_ID = " + id),
+            QString());
+        run = cli({"order", "delete", id, copy});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.out.trimmed(), "1");
+        QCOMPARE(run.err.trimmed(),
+                 "1 orders/invoices can not be deleted,\nbecause they are printed yet.");
+        QCOMPARE(stored("select count(*) from ORDERHEAD where ORDERHEAD_ID = " + copy), "0");
+    }
+
+    void issuePrintCancel()
+    {
+        ProcessRun run = cli({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.trimmed(), QString("000001"));
+        QVERIFY(QFileInfo(pdf("1.pdf")).size() > 1000);
+        run = cli({"print", "000001", "--pdf", pdf("1b.pdf")});
+        QCOMPARE(run.exitCode, 0);
+        run = cli({"cancel", "000001", "--pdf", pdf("2.pdf"), "--shipped", "2024.03.05."});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.trimmed(), QString("000002"));
+        QCOMPARE(
+            stored("select ORDERHEAD_INVOICE_NO, ORDERHEAD_TYPE, ORDERHEAD_CANCELLING_INVOICE_NO, "
+                   "ORDERHEAD_CANCELLED_INVOICE_NO, ORDERHEAD_PRINTED_COPIES from ORDERHEAD "
+                   "order by 1"),
+            QString("1|0|2||4; 2|1||1|2"));
+        run = cli({"orders"});
+        QVERIFY(run.out.contains("Cancelled Invoice") && run.out.contains("Cancel Invoice"));
+        QCOMPARE(cli({"sample", "--pdf", pdf("sample.pdf")}).exitCode, 0);
+    }
+
+    void payFortyPercentThenTheRest()
+    {
+        // The demonstration order: 3175 Ft by transfer, unpaid once issued.
+        QCOMPARE(cli({"issue", "1", "--pdf", pdf("1.pdf")}).exitCode, 0);
+        QCOMPARE(cli({"payments", "000001"}).err.trimmed(),
+                 QString("There are no bank items to this invoice."));
+        ProcessRun run =
+            cli({"pay", "000001", "1270", "--date", "2024-05-02", "--record-no", "K/12"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.trimmed(), QString("000001: unpaid 1905 Ft"));
+        run = cli({"orders", "--kind", "6"});
+        QVERIFY2(run.out.contains("000001") && run.out.contains("\t3175\t1905\t"),
+                 qPrintable(run.out));
+
+        run = cli({"pay", "000001", "1905,00", "--date", "2024.05.09.", "--comment", "a maradék"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.trimmed(), QString("000001: paid"));
+        QVERIFY(!cli({"orders", "--kind", "6"}).out.contains("000001"));
+        run = cli({"payments", "000001"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts),
+                 (QStringList{"Record No\tTransfer Date\tPaid\tComment", "K/12\t2024-05-02\t1270\t",
+                              "\t2024-05-09\t1905\ta maradék", "000001: paid"}));
+        QCOMPARE(stored("select ORDERHEAD_PAID, ORDERHEAD_UNPAID_TOTAL from ORDERHEAD where "
+                        "ORDERHEAD_INVOICE_NO = 1"),
+                 QString("1|0"));
+    }
+
+    void badInput_data()
+    {
+        AddColumns<QStringList, int, QString>({"args", "exitCode", "message"});
+        const QStringList order{"order", "add", "--partner"};
+        AddRow("letters in the quantity", order + QStringList{"1", "--item", "1:x"}, 2,
+               QString("Invalid order item \"1:x\""));
+        AddRow("unknown partner", order + QStringList{"Senki", "--item", "1:1"}, 1,
+               QString("Partner not found: Senki"));
+        AddRow("old shipping refused",
+               order + QStringList{"1", "--item", "1:1", "--shipped", "2020-01-01", "--no"}, 1,
+               QString("-> no"));
+        AddRow("issue without id", QStringList{"issue"}, 2, QString("usage"));
+        AddRow("copies not a number", QStringList{"issue", "1", "--copies", "x"}, 2,
+               QString("usage"));
+        AddRow("print of no invoice", QStringList{"print", "X", "--pdf", "x.pdf"}, 1,
+               QString("There is no invoice with No. X."));
+        AddRow("pdf in a missing folder", QStringList{"issue", "1", "--pdf", "/nonexistent/x.pdf"},
+               1, QString("Can't print invoice"));
+        AddRow("payment without date", QStringList{"pay", "000001", "10"}, 2, QString("usage"));
+        AddRow("payment date not a date", QStringList{"pay", "000001", "10", "--date", "soon"}, 2,
+               QString("Not a date: soon"));
+        AddRow("payment of no invoice", QStringList{"pay", "000009", "10", "--date", "2024-05-02"},
+               1, QString("There is no invoice"));
+    }
+
+    void badInput()
+    {
+        auto [args, exitCode, message] =
+            Fetch<QStringList, int, QString>({"args", "exitCode", "message"});
+        const QString written =
+            "select (select count(*) from ORDERHEAD) || '/' || (select count(*) "
+            "from ORDERITEM) || '/' || (select count(*) from BANKITEM)";
+        const QString before = stored(written);
+        const ProcessRun run = cli(args);
+        QCOMPARE(run.exitCode, exitCode);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QCOMPARE(stored(written), before);
+    }
 
 private:
     ProcessRun cli(const QStringList& args) const
@@ -33,18 +174,6 @@ private:
     QTemporaryDir m_runtime;
 };
 
-void TestCliOrders::init()
-{
-    QVERIFY(m_base.emplace().isValid());
-    QCOMPARE(cli({"check"}).exitCode, 0);
-    QCOMPARE(cli({"--db", db(), "template", "install", TN_TEMPLATE_DIR}).exitCode, 0);
-    // A euro price for the demo product, and a second product without any price.
-    QCOMPARE(stored("insert into PRODUCTPRICE values (1, 1, 4.5)"), QString());
-    QCOMPARE(stored("insert into PRODUCT (PRODUCT_NAME, PRODUCT_NAME_ASCII, PRODUCT_VAT_ID) "
-                    "values ('Árvíztűrő tükörfúrógép', 'ARVIZTURO TUKORFUROGEP', 1)"),
-             QString());
-}
-
 QString TestCliOrders::stored(const QString& sql) const
 {
     if (!Database::open(db()))
@@ -52,136 +181,6 @@ QString TestCliOrders::stored(const QString& sql) const
     const QString text = QueryText(sql);
     Database::close();
     return text;
-}
-
-void TestCliOrders::addShowListCloneDelete()
-{
-    ProcessRun run = cli({"order", "add", "--partner", "teszt partner", "--currency", "1", "--item",
-                          "1:2", "--item", "2:1:10.5", "--item", "1:-1", "--subject", "Próba"});
-    QCOMPARE(run.exitCode, 0);
-    const QString id = run.out.trimmed();
-    // 2 x 4.5 + 10.5 - 4.5 = 15 EUR net, 27% VAT.
-    QCOMPARE(stored("select ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_TOTAL_NET, "
-                    "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_SUBJECT from ORDERHEAD "
-                    "where ORDERHEAD_ID = " +
-                    id),
-             QString("EUR|15|4.05|19.05|Próba"));
-    QCOMPARE(stored("select ORDERITEM_NAME, ORDERITEM_PRICE, ORDERITEM_DISCOUNT_TYPE from "
-                    "ORDERITEM where ORDERITEM_ORDERHEAD_ID = " +
-                    id + " order by ORDERITEM_ID"),
-             QString("Teszt termék|4.5|0; Árvíztűrő tükörfúrógép|10.5|2; Teszt termék|4.5|0"));
-
-    run = cli({"order", "show", id});
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY2(run.out.contains("Teszt termék\t-1\tdb\t4.50\t-4.50\n"), qPrintable(run.out));
-    QVERIFY(run.out.contains("Total Gross\t19.05\n"));
-    QVERIFY(run.out.contains("Kind\tUnverified\n"));
-
-    run = cli({"orders", "--partner", "TESZT", "--format", "csv"});
-    QCOMPARE(run.exitCode, 0);
-    const QStringList lines = run.out.trimmed().split('\n');
-    QCOMPARE(lines.size(), 3); // header, the new order, the sample order
-    QVERIFY2(lines[1].endsWith(",EUR,15.00,4.05,19.05,0.00,Átutalás,Unverified"),
-             qPrintable(lines[1]));
-
-    run = cli({"order", "clone", id});
-    QCOMPARE(run.exitCode, 0);
-    const QString copy = run.out.trimmed();
-    QCOMPARE(stored("select count(*) from ORDERITEM where ORDERITEM_ORDERHEAD_ID = " + copy), "3");
-    QCOMPARE(stored("update ORDERHEAD set ORDERHEAD_PRINTED_COPIES = 1 where ORDERHEAD_ID = " + id),
-             QString());
-    run = cli({"order", "delete", id, copy});
-    QCOMPARE(run.exitCode, 1);
-    QCOMPARE(run.out.trimmed(), "1");
-    QCOMPARE(run.err.trimmed(),
-             "1 orders/invoices can not be deleted,\nbecause they are printed yet.");
-    QCOMPARE(stored("select count(*) from ORDERHEAD where ORDERHEAD_ID = " + copy), "0");
-}
-
-void TestCliOrders::issuePrintCancel()
-{
-    ProcessRun run = cli({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out.trimmed(), QString("000001"));
-    QVERIFY(QFileInfo(pdf("1.pdf")).size() > 1000);
-    run = cli({"print", "000001", "--pdf", pdf("1b.pdf")});
-    QCOMPARE(run.exitCode, 0);
-    run = cli({"cancel", "000001", "--pdf", pdf("2.pdf"), "--shipped", "2024.03.05."});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out.trimmed(), QString("000002"));
-    QCOMPARE(stored("select ORDERHEAD_INVOICE_NO, ORDERHEAD_TYPE, ORDERHEAD_CANCELLING_INVOICE_NO, "
-                    "ORDERHEAD_CANCELLED_INVOICE_NO, ORDERHEAD_PRINTED_COPIES from ORDERHEAD "
-                    "order by 1"),
-             QString("1|0|2||4; 2|1||1|2"));
-    run = cli({"orders"});
-    QVERIFY(run.out.contains("Cancelled Invoice") && run.out.contains("Cancel Invoice"));
-    QCOMPARE(cli({"sample", "--pdf", pdf("sample.pdf")}).exitCode, 0);
-}
-
-void TestCliOrders::payFortyPercentThenTheRest()
-{
-    // The demonstration order: 3175 Ft by transfer, unpaid once issued.
-    QCOMPARE(cli({"issue", "1", "--pdf", pdf("1.pdf")}).exitCode, 0);
-    QCOMPARE(cli({"payments", "000001"}).err.trimmed(),
-             QString("There are no bank items to this invoice."));
-    ProcessRun run = cli({"pay", "000001", "1270", "--date", "2024-05-02", "--record-no", "K/12"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out.trimmed(), QString("000001: unpaid 1905 Ft"));
-    run = cli({"orders", "--kind", "6"});
-    QVERIFY2(run.out.contains("000001") && run.out.contains("\t3175\t1905\t"), qPrintable(run.out));
-
-    run = cli({"pay", "000001", "1905,00", "--date", "2024.05.09.", "--comment", "a maradék"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out.trimmed(), QString("000001: paid"));
-    QVERIFY(!cli({"orders", "--kind", "6"}).out.contains("000001"));
-    run = cli({"payments", "000001"});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts),
-             (QStringList{"Record No\tTransfer Date\tPaid\tComment", "K/12\t2024-05-02\t1270\t",
-                          "\t2024-05-09\t1905\ta maradék", "000001: paid"}));
-    QCOMPARE(stored("select ORDERHEAD_PAID, ORDERHEAD_UNPAID_TOTAL from ORDERHEAD where "
-                    "ORDERHEAD_INVOICE_NO = 1"),
-             QString("1|0"));
-}
-
-void TestCliOrders::badInput_data()
-{
-    QTest::addColumn<QStringList>("args");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("message");
-    const QStringList order{"order", "add", "--partner"};
-    AddRow("letters in the quantity", order + QStringList{"1", "--item", "1:x"}, 2,
-           QString("Invalid order item \"1:x\""));
-    AddRow("unknown partner", order + QStringList{"Senki", "--item", "1:1"}, 1,
-           QString("Partner not found: Senki"));
-    AddRow("old shipping refused",
-           order + QStringList{"1", "--item", "1:1", "--shipped", "2020-01-01", "--no"}, 1,
-           QString("-> no"));
-    AddRow("issue without id", QStringList{"issue"}, 2, QString("usage"));
-    AddRow("copies not a number", QStringList{"issue", "1", "--copies", "x"}, 2, QString("usage"));
-    AddRow("print of no invoice", QStringList{"print", "X", "--pdf", "x.pdf"}, 1,
-           QString("There is no invoice with No. X."));
-    AddRow("pdf in a missing folder", QStringList{"issue", "1", "--pdf", "/nonexistent/x.pdf"}, 1,
-           QString("Can't print invoice"));
-    AddRow("payment without date", QStringList{"pay", "000001", "10"}, 2, QString("usage"));
-    AddRow("payment date not a date", QStringList{"pay", "000001", "10", "--date", "soon"}, 2,
-           QString("Not a date: soon"));
-    AddRow("payment of no invoice", QStringList{"pay", "000009", "10", "--date", "2024-05-02"}, 1,
-           QString("There is no invoice"));
-}
-
-void TestCliOrders::badInput()
-{
-    QFETCH(QStringList, args);
-    QFETCH(int, exitCode);
-    QFETCH(QString, message);
-    const QString written = "select (select count(*) from ORDERHEAD) || '/' || (select count(*) "
-                            "from ORDERITEM) || '/' || (select count(*) from BANKITEM)";
-    const QString before = stored(written);
-    const ProcessRun run = cli(args);
-    QCOMPARE(run.exitCode, exitCode);
-    QVERIFY2(run.err.contains(message), qPrintable(run.err));
-    QCOMPARE(stored(written), before);
 }
 
 QTEST_GUILESS_MAIN(TestCliOrders)

@@ -1,6 +1,8 @@
 // Expected data: text files under tests/data, data-table rows, files and query results.
 #pragma once
 
+#include "DataTable.h"
+
 #include "app/ScopedConnection.h"
 #include "base/SqlStatement.h"
 

@@ -1,4 +1,6 @@
 // Hungarian words for amounts, exactly as invoices and cheques print them.
+#include "DataTable.h"
+
 #include "documents/AmountInWords.h"
 
 #include <QtTest>
@@ -11,8 +13,7 @@ class TestAmountInWords : public QObject
 private Q_SLOTS:
     void words_data()
     {
-        QTest::addColumn<qint64>("amount");
-        QTest::addColumn<QString>("text");
+        AddColumns<qint64, QString>({"amount", "text"});
 
         // One group: the long forms "kettő" and "egyszáz", tens joined to units.
         QTest::newRow("zero") << qint64(0) << "nulla";
@@ -51,8 +52,7 @@ private Q_SLOTS:
 
     void words()
     {
-        QFETCH(qint64, amount);
-        QFETCH(QString, text);
+        auto [amount, text] = Fetch<qint64, QString>({"amount", "text"});
         QCOMPARE(AmountInWords(amount), text);
     }
 };

@@ -33,8 +33,7 @@ class TestDocumentCommands : public QObject
 private Q_SLOTS:
     void usage_data()
     {
-        QTest::addColumn<QStringList>("args");
-        QTest::addColumn<int>("exitCode");
+        AddColumns<QStringList, int>({"args", "exitCode"});
         const auto row = [](const char* name, const QStringList& args, int exitCode) {
             QTest::newRow(name) << args << exitCode;
         };
@@ -53,8 +52,7 @@ private Q_SLOTS:
 
     void usage()
     {
-        QFETCH(QStringList, args);
-        QFETCH(int, exitCode);
+        auto [args, exitCode] = Fetch<QStringList, int>({"args", "exitCode"});
         QCOMPARE(Cli(args).exitCode, exitCode);
     }
 

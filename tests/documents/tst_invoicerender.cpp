@@ -82,11 +82,8 @@ private Q_SLOTS:
 
     void render_data()
     {
-        QTest::addColumn<qint64>("currency");
-        QTest::addColumn<qint64>("language");
-        QTest::addColumn<bool>("consolidated");
-        QTest::addColumn<QStringList>("present");
-        QTest::addColumn<QStringList>("absent");
+        AddColumns<qint64, qint64, bool, QStringList, QStringList>(
+            {"currency", "language", "consolidated", "present", "absent"});
         // 3 + 2 + 3 pieces of 1000 Ft at 27%; a euro at 280 Ft makes 3.57 EUR a piece.
         AddRow("forint", qint64(0), qint64(0), false,
                QStringList{"Sorszám: !P.INVOICE.NO.STR!", "Minta Kft.", "Adószám: 12345676-2-41",
@@ -109,11 +106,9 @@ private Q_SLOTS:
 
     void render()
     {
-        QFETCH(qint64, currency);
-        QFETCH(qint64, language);
-        QFETCH(bool, consolidated);
-        QFETCH(QStringList, present);
-        QFETCH(QStringList, absent);
+        auto [currency, language, consolidated, present, absent] =
+            Fetch<qint64, qint64, bool, QStringList, QStringList>(
+                {"currency", "language", "consolidated", "present", "absent"});
         QVERIFY(CalcLocalCurrencyTotals(NewOrder({currency, language, consolidated, {}})));
         FrozenInvoice f;
         const Result r = renderOrder(2, f);
@@ -146,12 +141,8 @@ private Q_SLOTS:
     // The title of each kind of invoice and copy, and the copy mark, in the partner's language.
     void titleAndCopyMark_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("copy");
-        QTest::addColumn<bool>("consolidated");
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("mark");
+        AddColumns<int, int, bool, int, QString, QString>(
+            {"type", "copy", "consolidated", "language", "title", "mark"});
         AddRow("invoice", 0, 1, false, 0, QString("Számla"), QString("1. (eredeti)"));
         AddRow("copy", 0, 2, false, 0, QString("Számla (másolat)"), QString("2."));
         AddRow("English", 0, 1, false, 1, QString("Számla / Invoice"),
@@ -164,12 +155,9 @@ private Q_SLOTS:
 
     void titleAndCopyMark()
     {
-        QFETCH(int, type);
-        QFETCH(int, copy);
-        QFETCH(bool, consolidated);
-        QFETCH(int, language);
-        QFETCH(QString, title);
-        QFETCH(QString, mark);
+        auto [type, copy, consolidated, language, title, mark] =
+            Fetch<int, int, bool, int, QString, QString>(
+                {"type", "copy", "consolidated", "language", "title", "mark"});
         const LabelTranslations& labels = LabelTranslations::current();
         QCOMPARE(InvoiceTitle(type, copy > 1 ? copy - 1 : 0, consolidated, language, labels),
                  title);
@@ -179,8 +167,7 @@ private Q_SLOTS:
 
     void refusals_data()
     {
-        QTest::addColumn<QString>("change");
-        QTest::addColumn<QString>("message");
+        AddColumns<QString, QString>({"change", "message"});
         AddRow("no items", QString("delete from ORDERITEM"),
                QString("It is not allowed to print an invoice without items."));
         AddRow("uncertified template", QString("update SETUP set SETUP_INVOICE_BODY_QTF = 'x'"),
@@ -203,8 +190,7 @@ private Q_SLOTS:
 
     void refusals()
     {
-        QFETCH(QString, change);
-        QFETCH(QString, message);
+        auto [change, message] = Fetch<QString, QString>({"change", "message"});
         const qint64 id = NewOrder({});
         for (const QString& sql : change.split("; "))
             QVERIFY(ExecSql(sql));

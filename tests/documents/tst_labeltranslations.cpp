@@ -1,4 +1,5 @@
 // The invoice labels as loaded from a new company's shipped rows, and their no-fallback rules.
+#include "DataTable.h"
 #include "TestCompany.h"
 
 #include "base/SqlStatement.h"
@@ -25,10 +26,9 @@ private Q_SLOTS:
 
     void labels_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("language");
-        QTest::addColumn<QString>("own");   // Get: exactly this language's text
-        QTest::addColumn<QString>("shown"); // bilingual(), and the TR.* placeholder's value
+        // own: Get: exactly this language's text; shown: bilingual(), and the TR.* placeholder's
+        // value
+        AddColumns<QString, QVariant, QString, QString>({"key", "language", "own", "shown"});
         const auto row = [](const char* name, const char* key, const QVariant& language,
                             const char* own, const char* shown) {
             QTest::newRow(name) << key << language << QString::fromUtf8(own)
@@ -47,10 +47,8 @@ private Q_SLOTS:
 
     void labels()
     {
-        QFETCH(QString, key);
-        QFETCH(QVariant, language);
-        QFETCH(QString, own);
-        QFETCH(QString, shown);
+        auto [key, language, own, shown] =
+            Fetch<QString, QVariant, QString, QString>({"key", "language", "own", "shown"});
         QCOMPARE(m_labels.get(key, language.toInt()), own);
         QCOMPARE(m_labels.bilingual(key, language), shown);
         // Filling replaces what the map held and leaves other entries alone.

@@ -70,60 +70,57 @@ class TestQtfFuzz : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void randomAndMutatedInput();
-    void pathologicalInput();
-};
-
-// Random text, and valid documents using most of the format and a long sample broken in small
-// ways.
-void TestQtfFuzz::randomAndMutatedInput()
-{
-    QFile file(QFINDTESTDATA("../data/report/long_table.qtf"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QStringList seeds = {
-        u"[* a[* b]c]&[= Title&]Body&[~>.>0 Total-|12.00]&[l200;4 x][o a&][N1a b&][H20h6L1 r&]"_s,
-        u"{{1:1:1 A::-1 B:: x:: C:: D:: E}}&{{1:2~^ {{1:1 a:: b}}:: c}}"_s,
-        u"{{1:1<100>50B20A30f20F3g8G4h1KPl20/40r5t6/7b8@K|2 x:: y:: z}}"_s,
-        u"@@PNG:600&300("
-        u"iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mP8z8BQDwAEhQGAhKmMIQ"
-        "AAAABJRU5ErkJggg==)"_s,
-        u"^H[1 head $$P]^^^F{:VALUE:PAGENUMBER:}^^x^^y\x01raw\ntext\x01 `[ \\] @$20AC;"_s,
-        u"[ $$0,0#00000000000000000000000000000000:Default][s0; a]C++ x||y--z::w"_s};
-    QRandomGenerator rng(4724);
-    for (int i = 0; i < 2500; ++i) {
-        if (i % 3 == 0) {
-            Exercise(RandomText(rng, 1 + rng.bounded(200)), i % 10 == 0);
-            continue;
+    // Random text, and valid documents using most of the format and a long sample broken in small
+    // ways.
+    void randomAndMutatedInput()
+    {
+        QFile file(QFINDTESTDATA("../data/report/long_table.qtf"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList seeds = {
+            u"[* a[* b]c]&[= Title&]Body&[~>.>0 Total-|12.00]&[l200;4 x][o a&][N1a b&][H20h6L1 r&]"_s,
+            u"{{1:1:1 A::-1 B:: x:: C:: D:: E}}&{{1:2~^ {{1:1 a:: b}}:: c}}"_s,
+            u"{{1:1<100>50B20A30f20F3g8G4h1KPl20/40r5t6/7b8@K|2 x:: y:: z}}"_s,
+            u"@@PNG:600&300("
+            u"iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mP8z8BQDwAEhQGAhKmMIQ"
+            "AAAABJRU5ErkJggg==)"_s,
+            u"^H[1 head $$P]^^^F{:VALUE:PAGENUMBER:}^^x^^y\x01raw\ntext\x01 `[ \\] @$20AC;"_s,
+            u"[ $$0,0#00000000000000000000000000000000:Default][s0; a]C++ x||y--z::w"_s};
+        QRandomGenerator rng(4724);
+        for (int i = 0; i < 2500; ++i) {
+            if (i % 3 == 0) {
+                Exercise(RandomText(rng, 1 + rng.bounded(200)), i % 10 == 0);
+                continue;
+            }
+            QString s = seeds.at(rng.bounded(int(seeds.size())));
+            for (int round = rng.bounded(4); round >= 0; --round)
+                s = Mutate(rng, s);
+            Exercise(s, i % 10 == 0);
         }
-        QString s = seeds.at(rng.bounded(int(seeds.size())));
-        for (int round = rng.bounded(4); round >= 0; --round)
-            s = Mutate(rng, s);
-        Exercise(s, i % 10 == 0);
+        const QString sample = QString::fromUtf8(file.readAll());
+        for (int i = 0; i < 20; ++i)
+            Exercise(Mutate(rng, sample), i % 5 == 0);
     }
-    const QString sample = QString::fromUtf8(file.readAll());
-    for (int i = 0; i < 20; ++i)
-        Exercise(Mutate(rng, sample), i % 5 == 0);
-}
 
-void TestQtfFuzz::pathologicalInput()
-{
-    QStringList inputs;
-    inputs << QString(20000, u'[') << QString(20000, u']') << QString(3000, u'&')
-           << u"{{"_s + QString(5000, u':') + u" x}}"_s << u"{{1:1 a:: "_s.repeated(30)
-           << u"{{1-99999|99999 x}}"_s
-           << u"[+99999999 big][l-99999999 x]@@PNG:99999999*99999999(AAAA)"_s
-           << u"[~1~2~3~4~5~6~7~8~9~10~11~12~13~14~15~16~17~18~19~20"_s + QString(300, u'~') +
-                  u" x]"_s
-           << u"@@"_s << u"{:"_s << u"$$"_s << u"^H"_s << u"[t0 a-|b]"_s
-           << u"[N11111111! a&][N-------- b&][Ni c&][NA d]"_s;
-    for (const QString& s : inputs)
-        Exercise(s, true);
-    // Deep nesting stops with an error instead of exhausting the stack.
-    QVERIFY(ReadQtf(u"{{1 "_s.repeated(5000) + u'x').error.startsWith(u"ERROR: "_s));
-    // So does "}}{{" over and over, each table going into the next one's first cell.
-    QVERIFY(ReadQtf(u"{{1 x}}"_s.repeated(5000)).error.startsWith(u"ERROR: "_s));
-    Exercise(u"{{1 x}}"_s.repeated(11), true);
-}
+    void pathologicalInput()
+    {
+        QStringList inputs;
+        inputs << QString(20000, u'[') << QString(20000, u']') << QString(3000, u'&')
+               << u"{{"_s + QString(5000, u':') + u" x}}"_s << u"{{1:1 a:: "_s.repeated(30)
+               << u"{{1-99999|99999 x}}"_s
+               << u"[+99999999 big][l-99999999 x]@@PNG:99999999*99999999(AAAA)"_s
+               << u"[~1~2~3~4~5~6~7~8~9~10~11~12~13~14~15~16~17~18~19~20"_s + QString(300, u'~') +
+                      u" x]"_s
+               << u"@@"_s << u"{:"_s << u"$$"_s << u"^H"_s << u"[t0 a-|b]"_s
+               << u"[N11111111! a&][N-------- b&][Ni c&][NA d]"_s;
+        for (const QString& s : inputs)
+            Exercise(s, true);
+        // Deep nesting stops with an error instead of exhausting the stack.
+        QVERIFY(ReadQtf(u"{{1 "_s.repeated(5000) + u'x').error.startsWith(u"ERROR: "_s));
+        // So does "}}{{" over and over, each table going into the next one's first cell.
+        QVERIFY(ReadQtf(u"{{1 x}}"_s.repeated(5000)).error.startsWith(u"ERROR: "_s));
+        Exercise(u"{{1 x}}"_s.repeated(11), true);
+    }
+};
 
 QTEST_MAIN(TestQtfFuzz)
 #include "tst_qtffuzz.moc"

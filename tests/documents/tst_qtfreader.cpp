@@ -1,4 +1,6 @@
 // The QTF reader against the format's reference vectors: paragraphs, runs, tables, errors.
+#include "DataTable.h"
+
 #include "documents/QtfReader.h"
 
 #include <QFile>
@@ -133,9 +135,7 @@ private Q_SLOTS:
     // The vectors: name, QTF with "\xNN" for control bytes, the document, the error if any.
     void read_data()
     {
-        QTest::addColumn<QString>("qtf");
-        QTest::addColumn<QString>("dump");
-        QTest::addColumn<QString>("error");
+        AddColumns<QString, QString, QString>({"qtf", "dump", "error"});
         QFile file(QFINDTESTDATA("../data/qtf/reader_vectors.txt"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
@@ -151,9 +151,7 @@ private Q_SLOTS:
 
     void read()
     {
-        QFETCH(QString, qtf);
-        QFETCH(QString, dump);
-        QFETCH(QString, error);
+        auto [qtf, dump, error] = Fetch<QString, QString, QString>({"qtf", "dump", "error"});
         const Document d = ReadQtf(qtf.startsWith("topic "_L1) ? QtfTopicBody(qtf) : qtf);
         QCOMPARE(On(!d.header.isEmpty(), "^H" + d.header + "^^ ") +
                      On(!d.footer.isEmpty(), "^F" + d.footer + "^^ ") + Dump(d.blocks),
@@ -163,9 +161,7 @@ private Q_SLOTS:
 
     void plainText_data()
     {
-        QTest::addColumn<QString>("qtf");
-        QTest::addColumn<bool>("tabs");
-        QTest::addColumn<QString>("text");
+        AddColumns<QString, bool, QString>({"qtf", "tabs", "text"});
         QTest::newRow("paragraphs") << "a&[* b]&" << false << "a\nb\n";
         QTest::newRow("table with tabs") << "{{1:1 a:: b:: c:: d}}" << true << "a\tb\nc\td";
         QTest::newRow("covered cells skipped")
@@ -185,9 +181,7 @@ private Q_SLOTS:
 
     void plainText()
     {
-        QFETCH(QString, qtf);
-        QFETCH(bool, tabs);
-        QFETCH(QString, text);
+        auto [qtf, tabs, text] = Fetch<QString, bool, QString>({"qtf", "tabs", "text"});
         QCOMPARE(QtfToPlainText(qtf, tabs), text);
     }
 
@@ -195,8 +189,7 @@ private Q_SLOTS:
     // of.
     void lostParagraphFormats_data()
     {
-        QTest::addColumn<QString>("qtf");
-        QTest::addColumn<QList<qsizetype>>("offsets");
+        AddColumns<QString, QList<qsizetype>>({"qtf", "offsets"});
         QTest::newRow("alignment lost") << u"[= Title]&Body"_s << QList<qsizetype>{9};
         QTest::newRow("page break lost") << u"x&[P y]&"_s << QList<qsizetype>{7};
         QTest::newRow("& inside the block") << u"[= Title&]Body"_s << QList<qsizetype>{};
@@ -207,8 +200,7 @@ private Q_SLOTS:
 
     void lostParagraphFormats()
     {
-        QFETCH(QString, qtf);
-        QFETCH(QList<qsizetype>, offsets);
+        auto [qtf, offsets] = Fetch<QString, QList<qsizetype>>({"qtf", "offsets"});
         QCOMPARE(ReadQtf(qtf).lostParagraphFormats, offsets);
     }
 };

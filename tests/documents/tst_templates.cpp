@@ -45,9 +45,8 @@ class TestTemplates : public QObject
 private Q_SLOTS:
     void parse_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>(
-            "parsed"); // each literal followed by <name>, then the trailing text
+        // parsed: each literal followed by <name>, then the trailing text
+        AddColumns<QString, QString>({"text", "parsed"});
         const auto row = [](const char* name, const char* text, const char* parsed) {
             QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(parsed);
         };
@@ -64,8 +63,7 @@ private Q_SLOTS:
 
     void parse()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, parsed);
+        auto [text, parsed] = Fetch<QString, QString>({"text", "parsed"});
         const TemplateText t = TemplateText::parse(text);
         QString out;
         QStringList names;
@@ -96,9 +94,7 @@ private Q_SLOTS:
 
     void placeholderValues_data()
     {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("null");
+        AddColumns<QVariant, QString, bool>({"value", "text", "null"});
         QTest::newRow("empty text") << QVariant(QString()) << "" << true;
         QTest::newRow("null") << QVariant() << "" << true;
         QTest::newRow("zero") << QVariant(0.0) << "0" << false;
@@ -110,9 +106,7 @@ private Q_SLOTS:
 
     void placeholderValues()
     {
-        QFETCH(QVariant, value);
-        QFETCH(QString, text);
-        QFETCH(bool, null);
+        auto [value, text, null] = Fetch<QVariant, QString, bool>({"value", "text", "null"});
         QCOMPARE(PlaceholderText(value), text);
         QCOMPARE(IsNullPlaceholder(value), null);
     }
@@ -181,10 +175,8 @@ private Q_SLOTS:
 
     void formatAmount_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("decimals");
-        QTest::addColumn<QString>("format"); // the stored format text for that count
-        QTest::addColumn<QString>("text");   // "_" stands for the no-break space
+        // format: the stored format text for that count; text: "_" stands for the no-break space
+        AddColumns<double, int, QString, QString>({"value", "decimals", "format", "text"});
         const auto row = [](const char* name, double value, int decimals, const char* format,
                             const char* text) {
             QTest::newRow(name) << value << decimals << format << text;
@@ -206,10 +198,8 @@ private Q_SLOTS:
 
     void formatAmount()
     {
-        QFETCH(double, value);
-        QFETCH(int, decimals);
-        QFETCH(QString, format);
-        QFETCH(QString, text);
+        auto [value, decimals, format, text] =
+            Fetch<double, int, QString, QString>({"value", "decimals", "format", "text"});
         text.replace(u'_', QChar(0xA0));
         QCOMPARE(AmountFormat(decimals), format);
         QCOMPARE(AmountFormat(AmountFormatDecimals(format)), format);

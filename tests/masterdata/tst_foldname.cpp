@@ -1,5 +1,7 @@
 // The searchable form of names behind every ..._NAME_ASCII column and every name search: the
 // lists find stored folded names that begin with the folded typed text.
+#include "DataTable.h"
+
 #include "base/FoldName.h"
 
 #include <QtTest>
@@ -10,8 +12,7 @@ class TestFoldName : public QObject
 private Q_SLOTS:
     void fold_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("folded");
+        AddColumns<QString, QString>({"name", "folded"});
         const auto row = [](const char* name, const QString& text, const char* folded) {
             QTest::newRow(name) << text << QString::fromUtf8(folded);
         };
@@ -31,8 +32,7 @@ private Q_SLOTS:
 
     void fold()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, folded);
+        auto [name, folded] = Fetch<QString, QString>({"name", "folded"});
         QCOMPARE(FoldName(name), folded);
     }
 };

@@ -48,9 +48,7 @@ private Q_SLOTS:
 
     void uniqueCodeClashFails_data()
     {
-        QTest::addColumn<const TableStore*>("store");
-        QTest::addColumn<QString>("codeColumn");
-        QTest::addColumn<Record>("row");
+        AddColumns<const TableStore*, QString, Record>({"store", "codeColumn", "row"});
         const auto row = [](const char* name, const TableStore& store, const char* code,
                             const Record& row) { QTest::newRow(name) << &store << code << row; };
         row("vat", VatStore(), VAT_CODE, {{VAT_NAME, "x"}, {VAT_PERCENT, 10}});
@@ -63,9 +61,8 @@ private Q_SLOTS:
     // A second row with a taken code fails; rows without a code never clash with each other.
     void uniqueCodeClashFails()
     {
-        QFETCH(const TableStore*, store);
-        QFETCH(QString, codeColumn);
-        QFETCH(Record, row);
+        auto [store, codeColumn, row] =
+            Fetch<const TableStore*, QString, Record>({"store", "codeColumn", "row"});
         row.insert(codeColumn, "");
         if (!store->missing(row)) { // where the code is optional
             QVERIFY2(Insert(*store, row), "first row without a code");
@@ -105,9 +102,8 @@ private Q_SLOTS:
     // A row other rows point to is kept, and the message says where it is used.
     void usedRowsAreNotDeleted_data()
     {
-        QTest::addColumn<const TableStore*>("store");
-        QTest::addColumn<QString>("use"); // makes row 1 used
-        QTest::addColumn<QString>("message");
+        // use: makes row 1 used
+        AddColumns<const TableStore*, QString, QString>({"store", "use", "message"});
         AddRow("vat key", &VatStore(), QString("update PRODUCT set PRODUCT_VAT_ID = 1"),
                QString("This VAT key is used by %1 product(s)."));
         AddRow("stat number by its text", &StatNoStore(),
@@ -121,9 +117,8 @@ private Q_SLOTS:
 
     void usedRowsAreNotDeleted()
     {
-        QFETCH(const TableStore*, store);
-        QFETCH(QString, use);
-        QFETCH(QString, message);
+        auto [store, use, message] =
+            Fetch<const TableStore*, QString, QString>({"store", "use", "message"});
         // Two rows of the referencing table, whatever the test company holds.
         for (const QString& name : QStringList{"Egy", "Kettő"}) {
             QVERIFY(Insert(PartnerStore(), Partner(name)));
@@ -176,8 +171,7 @@ private Q_SLOTS:
 
     void partnerNameIsFoldedAndFoundByPrefix_data()
     {
-        QTest::addColumn<QString>("search");
-        QTest::addColumn<QStringList>("found");
+        AddColumns<QString, QStringList>({"search", "found"});
         const QStringList arv{"Árvíztűrő Kft."}, none;
         QTest::newRow("mixed accents") << "árvizturo k" << arv;
         QTest::newRow("inside the name") << "tűrő" << none;
@@ -191,8 +185,7 @@ private Q_SLOTS:
 
     void partnerNameIsFoldedAndFoundByPrefix()
     {
-        QFETCH(QString, search);
-        QFETCH(QStringList, found);
+        auto [search, found] = Fetch<QString, QStringList>({"search", "found"});
         for (const char* name : {"Árvíztűrő Kft.", "50% Bt.", "5000 Kft.", "Zala Bt."})
             QVERIFY(Insert(PartnerStore(), Partner(QString::fromUtf8(name))));
         RecordPage page;

@@ -55,9 +55,7 @@ private Q_SLOTS:
     // Each refusal keeps the window open with what was typed and writes nothing.
     void refusals_data()
     {
-        QTest::addColumn<QString>("date");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("message");
+        AddColumns<QString, QString, QString>({"date", "amount", "message"});
         AddRow("no date", QString(""), QString("40"),
                QString("Bankitem Transfer Date mustn't not be empty."));
         AddRow("letters", QString("2024.05.20."), QString("negyven"),
@@ -68,9 +66,8 @@ private Q_SLOTS:
     }
     void refusals()
     {
-        QFETCH(QString, date);
-        QFETCH(QString, amount);
-        QFETCH(QString, message);
+        auto [date, amount, message] =
+            Fetch<QString, QString, QString>({"date", "amount", "message"});
         BankitemEdit edit(m_invoice, nullptr, kToday);
         edit.setInteraction(&m_ask);
         edit.show();

@@ -84,8 +84,7 @@ private Q_SLOTS:
     // Each payment in turn and the state it leaves: "paid|unpaid total".
     void payments_data()
     {
-        QTest::addColumn<QList<double>>("amounts");
-        QTest::addColumn<QStringList>("states");
+        AddColumns<QList<double>, QStringList>({"amounts", "states"});
         AddRow("short by less than the tolerance", QList<double>{99.9999995}, QStringList{"1|0"});
         AddRow("short by the tolerance", QList<double>{99.999998}, QStringList{"0|2e-06"});
         AddRow("decimal parts that never add up in binary", QList<double>{33.3, 33.3, 33.4},
@@ -95,8 +94,7 @@ private Q_SLOTS:
     }
     void payments()
     {
-        QFETCH(QList<double>, amounts);
-        QFETCH(QStringList, states);
+        auto [amounts, states] = Fetch<QList<double>, QStringList>({"amounts", "states"});
         const qint64 id = InsertInvoice();
         for (qsizetype i = 0; i < amounts.size(); ++i) {
             BankItemInvoice after;
@@ -117,10 +115,7 @@ private Q_SLOTS:
 
     void refusals_data()
     {
-        QTest::addColumn<QVariant>("number");
-        QTest::addColumn<QVariant>("cancelledBy");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("message");
+        AddColumns<QVariant, QVariant, int, QString>({"number", "cancelledBy", "type", "message"});
         AddRow("unissued order", QVariant(), QVariant(), 0,
                QString("Only an issued invoice can be paid. This order has no invoice number "
                        "yet."));
@@ -131,10 +126,8 @@ private Q_SLOTS:
     }
     void refusals()
     {
-        QFETCH(QVariant, number);
-        QFETCH(QVariant, cancelledBy);
-        QFETCH(int, type);
-        QFETCH(QString, message);
+        auto [number, cancelledBy, type, message] =
+            Fetch<QVariant, QVariant, int, QString>({"number", "cancelledBy", "type", "message"});
         const qint64 id = InsertInvoice(number, cancelledBy, type);
         const Result r = Pay(id, 100);
         QVERIFY(!r);
@@ -147,8 +140,7 @@ private Q_SLOTS:
     // back with it.
     void oneTransaction_data()
     {
-        QTest::addColumn<QString>("trigger");
-        QTest::addColumn<QString>("message");
+        AddColumns<QString, QString>({"trigger", "message"});
         AddRow("insert fails",
                QString("create trigger T before insert on BANKITEM begin select "
                        "raise(abort, 'no bank items today'); end"),
@@ -160,8 +152,7 @@ private Q_SLOTS:
     }
     void oneTransaction()
     {
-        QFETCH(QString, trigger);
-        QFETCH(QString, message);
+        auto [trigger, message] = Fetch<QString, QString>({"trigger", "message"});
         const qint64 id = InsertInvoice();
         QVERIFY(Pay(id, 40));
         QVERIFY(ExecSql(trigger));

@@ -79,12 +79,9 @@ private Q_SLOTS:
 
     void fieldRules_data()
     {
-        QTest::addColumn<bool>("consolidated");
-        QTest::addColumn<bool>("byItems");
-        QTest::addColumn<QString>("shipped");
-        QTest::addColumn<QString>("due");
-        QTest::addColumn<int>("method"); // -1: the empty choice
-        QTest::addColumn<QString>("message");
+        // method: -1: the empty choice
+        AddColumns<bool, bool, QString, QString, int, QString>(
+            {"consolidated", "byItems", "shipped", "due", "method", "message"});
         QTest::newRow("accepted") << false << false << "2024.06.01."
                                   << "2024.06.09." << 1 << QString();
         QTest::newRow("no shipping date")
@@ -101,12 +98,9 @@ private Q_SLOTS:
     }
     void fieldRules()
     {
-        QFETCH(bool, consolidated);
-        QFETCH(bool, byItems);
-        QFETCH(QString, shipped);
-        QFETCH(QString, due);
-        QFETCH(int, method);
-        QFETCH(QString, message);
+        auto [consolidated, byItems, shipped, due, method, message] =
+            Fetch<bool, bool, QString, QString, int, QString>(
+                {"consolidated", "byItems", "shipped", "due", "method", "message"});
         Order original;
         QVERIFY(OrderStore::load(InsertInvoice(consolidated), original));
         InvoiceCancel window(original, m_ask, nullptr, QDate(2024, 6, 1));

@@ -74,9 +74,7 @@ private Q_SLOTS:
 
     void numbersAreConsecutive_data()
     {
-        QTest::addColumn<QString>("prefix");
-        QTest::addColumn<QString>("width");
-        QTest::addColumn<QStringList>("texts");
+        AddColumns<QString, QString, QStringList>({"prefix", "width", "texts"});
         AddRow("plain", QString(), QString("0"), QStringList{"1", "2", "3"});
         AddRow("prefixed, padded", QString("A-"), QString("6"),
                QStringList{"A-000001", "A-000002", "A-000003"});
@@ -84,9 +82,8 @@ private Q_SLOTS:
 
     void numbersAreConsecutive()
     {
-        QFETCH(QString, prefix);
-        QFETCH(QString, width);
-        QFETCH(QStringList, texts);
+        auto [prefix, width, texts] =
+            Fetch<QString, QString, QStringList>({"prefix", "width", "texts"});
         QVERIFY(ExecSql(
             "update SETUP set SETUP_INVOICE_NO_PREFIX = ?, SETUP_INVOICE_NO_PADDING_ZEROS = ?",
             {prefix, width}));
@@ -113,9 +110,7 @@ private Q_SLOTS:
 
     void failureLeavesNoGap_data()
     {
-        QTest::addColumn<QString>("trigger");
-        QTest::addColumn<bool>("renderFails");
-        QTest::addColumn<QString>("message");
+        AddColumns<QString, bool, QString>({"trigger", "renderFails", "message"});
         // The trigger makes a statement after the INVOICE insert fail, as a full disk or a lost
         // lock would.
         AddRow("order update fails after the INVOICE insert",
@@ -133,9 +128,8 @@ private Q_SLOTS:
 
     void failureLeavesNoGap()
     {
-        QFETCH(QString, trigger);
-        QFETCH(bool, renderFails);
-        QFETCH(QString, message);
+        auto [trigger, renderFails, message] =
+            Fetch<QString, bool, QString>({"trigger", "renderFails", "message"});
         QVERIFY(Issue(NewOrder()));
         const qint64 order = NewOrder();
         const QString before = Numbers();
@@ -192,9 +186,7 @@ private Q_SLOTS:
 
     void paidStateAtIssue_data()
     {
-        QTest::addColumn<QVariant>("methodPaid");
-        QTest::addColumn<bool>("cancelling");
-        QTest::addColumn<QString>("expected");
+        AddColumns<QVariant, bool, QString>({"methodPaid", "cancelling", "expected"});
         AddRow("cash, paid on issue", QVariant("1"), false, QString("1|0"));
         AddRow("wire transfer", QVariant("0"), false, QString("0|3810"));
         AddRow("stored as the number 0", QVariant(0), false, QString("0|3810"));
@@ -204,9 +196,8 @@ private Q_SLOTS:
 
     void paidStateAtIssue()
     {
-        QFETCH(QVariant, methodPaid);
-        QFETCH(bool, cancelling);
-        QFETCH(QString, expected);
+        auto [methodPaid, cancelling, expected] =
+            Fetch<QVariant, bool, QString>({"methodPaid", "cancelling", "expected"});
         const qint64 order = NewOrder();
         QVERIFY(ExecSql("update ORDERHEAD set ORDERHEAD_PAYMENTMETHOD_PAID = ?, "
                         "ORDERHEAD_CANCELLED_INVOICE_NO = ? where ORDERHEAD_ID = ?",
@@ -268,8 +259,7 @@ private Q_SLOTS:
 
     void cannotCancel_data()
     {
-        QTest::addColumn<QString>("situation");
-        QTest::addColumn<QString>("message");
+        AddColumns<QString, QString>({"situation", "message"});
         AddRow("not issued", QString("unissued"),
                QString("Only an issued invoice can be cancelled."));
         AddRow("cancelled already", QString("cancelled"),
@@ -284,8 +274,7 @@ private Q_SLOTS:
 
     void cannotCancel()
     {
-        QFETCH(QString, situation);
-        QFETCH(QString, message);
+        auto [situation, message] = Fetch<QString, QString>({"situation", "message"});
         const qint64 order = NewOrder();
         if (situation != "unissued")
             QVERIFY(Issue(order));

@@ -1,5 +1,7 @@
 // The money rules of orders, with expectations worked out by hand from the written rules and
 // from what IEEE doubles hold for the decimal amounts involved.
+#include "DataTable.h"
+
 #include "orders/OrderCalc.h"
 
 #include <QtTest>
@@ -19,9 +21,7 @@ class TestOrderCalc : public QObject
 private Q_SLOTS:
     void roundDecimals_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("decimals");
-        QTest::addColumn<double>("expected");
+        AddColumns<double, int, double>({"value", "decimals", "expected"});
         // Half away from zero.
         QTest::newRow("2.5 up") << 2.5 << 0 << 3.0;
         QTest::newRow("-2.5 down") << -2.5 << 0 << -3.0;
@@ -50,9 +50,8 @@ private Q_SLOTS:
 
     void roundDecimals()
     {
-        QFETCH(double, value);
-        QFETCH(int, decimals);
-        QFETCH(double, expected);
+        auto [value, decimals, expected] =
+            Fetch<double, int, double>({"value", "decimals", "expected"});
         const double result = RoundDecimals(value, decimals);
         QCOMPARE_MONEY(result, expected);
         QCOMPARE(std::signbit(result), std::signbit(expected)); // "-0" must never be printed
@@ -60,8 +59,7 @@ private Q_SLOTS:
 
     void decimalCount_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("count");
+        AddColumns<double, int>({"value", "count"});
         QTest::newRow("whole") << 127.0 << 0;
         QTest::newRow("stored inexactly") << 1.005 << 3;
         QTest::newRow("small, no exponent") << 1e-7 << 7;
@@ -71,17 +69,13 @@ private Q_SLOTS:
 
     void decimalCount()
     {
-        QFETCH(double, value);
-        QFETCH(int, count);
+        auto [value, count] = Fetch<double, int>({"value", "count"});
         QCOMPARE(DecimalCount(value), count);
     }
 
     void priceConversion_data()
     {
-        QTest::addColumn<bool>("toGross");
-        QTest::addColumn<double>("price");
-        QTest::addColumn<double>("vat");
-        QTest::addColumn<double>("expected");
+        AddColumns<bool, double, double, double>({"toGross", "price", "vat", "expected"});
         // To gross: a whole net price may take two decimals, one with decimals keeps as many.
         QTest::newRow("whole net, none needed") << true << 100.0 << 27.0 << 127.0;
         QTest::newRow("whole net, two kept") << true << 1.0 << 5.0 << 1.05;
@@ -98,20 +92,15 @@ private Q_SLOTS:
 
     void priceConversion()
     {
-        QFETCH(bool, toGross);
-        QFETCH(double, price);
-        QFETCH(double, vat);
-        QFETCH(double, expected);
+        auto [toGross, price, vat, expected] =
+            Fetch<bool, double, double, double>({"toGross", "price", "vat", "expected"});
         QCOMPARE_MONEY(toGross ? NetToGross(price, vat) : GrossToNet(price, vat), expected);
     }
 
     void discountedPrice_data()
     {
-        QTest::addColumn<double>("listPrice");
-        QTest::addColumn<double>("percent");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("decimals");
-        QTest::addColumn<std::optional<double>>("price");
+        AddColumns<double, double, int, int, std::optional<double>>(
+            {"listPrice", "percent", "type", "decimals", "price"});
         // 849.15 and 7.33033 rounded to the unit-price decimals.
         QTest::newRow("percent, whole") << 999.0 << 15.0 << 1 << 0 << std::optional(849.0);
         QTest::newRow("percent, two decimals") << 10.99 << 33.3 << 1 << 2 << std::optional(7.33);
@@ -124,11 +113,9 @@ private Q_SLOTS:
 
     void discountedPrice()
     {
-        QFETCH(double, listPrice);
-        QFETCH(double, percent);
-        QFETCH(int, type);
-        QFETCH(int, decimals);
-        QFETCH(std::optional<double>, price);
+        auto [listPrice, percent, type, decimals, price] =
+            Fetch<double, double, int, int, std::optional<double>>(
+                {"listPrice", "percent", "type", "decimals", "price"});
         const std::optional<double> result =
             CalcDiscountedPrice(listPrice, percent, type, decimals);
         QCOMPARE(result.has_value(), price.has_value());
@@ -138,11 +125,8 @@ private Q_SLOTS:
 
     void lineTotals_data()
     {
-        QTest::addColumn<double>("price");
-        QTest::addColumn<double>("qty");
-        QTest::addColumn<double>("vat");
-        QTest::addColumn<int>("decimals");
-        QTest::addColumn<Amounts>("expected");
+        AddColumns<double, double, double, int, Amounts>(
+            {"price", "qty", "vat", "decimals", "expected"});
         const auto row = [](const char* name, double price, double qty, double vat, int decimals,
                             const Amounts& expected) {
             QTest::newRow(name) << price << qty << vat << decimals << expected;
@@ -159,11 +143,8 @@ private Q_SLOTS:
 
     void lineTotals()
     {
-        QFETCH(double, price);
-        QFETCH(double, qty);
-        QFETCH(double, vat);
-        QFETCH(int, decimals);
-        QFETCH(Amounts, expected);
+        auto [price, qty, vat, decimals, expected] = Fetch<double, double, double, int, Amounts>(
+            {"price", "qty", "vat", "decimals", "expected"});
         const LineTotals t = CalcLineTotals(price, qty, vat, decimals);
         QCOMPARE((Amounts{t.net, t.vat, t.gross}), expected);
     }
@@ -171,10 +152,7 @@ private Q_SLOTS:
     void orderTotals_data()
     {
         using Items = QList<LineTotals>;
-        QTest::addColumn<Items>("items");
-        QTest::addColumn<bool>("roundTo5");
-        QTest::addColumn<bool>("noVat");
-        QTest::addColumn<int>("decimals");
+        AddColumns<Items, bool, bool, int>({"items", "roundTo5", "noVat", "decimals"});
         // net, VAT, gross, correction net, rounding difference (correction VAT and gross stay 0).
         QTest::addColumn<Amounts>("expected");
         const auto row = [](const char* name, const Items& items, bool roundTo5, bool noVat,
@@ -219,11 +197,9 @@ private Q_SLOTS:
 
     void orderTotals()
     {
-        QFETCH(QList<LineTotals>, items);
-        QFETCH(bool, roundTo5);
-        QFETCH(bool, noVat);
-        QFETCH(int, decimals);
-        QFETCH(Amounts, expected);
+        auto [items, roundTo5, noVat, decimals, expected] =
+            Fetch<QList<LineTotals>, bool, bool, int, Amounts>(
+                {"items", "roundTo5", "noVat", "decimals", "expected"});
         const OrderTotals t = CalcOrderTotals(items, roundTo5, noVat, decimals);
         QCOMPARE((Amounts{t.net, t.vat, t.gross, t.correctionNet, t.roundingDifference}), expected);
         QCOMPARE((Amounts{t.correctionVat, t.correctionGross}), (Amounts{0, 0}));

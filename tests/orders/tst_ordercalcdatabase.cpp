@@ -87,11 +87,8 @@ private Q_SLOTS:
 
     void foreignOrderConvertsItemsAndOrderSeparately_data()
     {
-        QTest::addColumn<int>("lineDecimals");
-        QTest::addColumn<int>("invoiceDecimals");
-        QTest::addColumn<Amounts>("firstItem");
-        QTest::addColumn<Amounts>("secondItem");
-        QTest::addColumn<Amounts>("order");
+        AddColumns<int, int, Amounts, Amounts, Amounts>(
+            {"lineDecimals", "invoiceDecimals", "firstItem", "secondItem", "order"});
         // Items 10.25 / 2.77 / 13.02 and 3.33 / 0.90 / 4.23 EUR, order 13.58 / 3.67 / 17.25 EUR at
         // 385.5 Ft. Products: 3951.375, 1067.835, 5019.21; 1283.71499..., 346.94999...,
         // 1630.665...; 5235.09, 1414.785, 6649.875. Shipped forint settings: lines to 1 decimal,
@@ -108,11 +105,9 @@ private Q_SLOTS:
 
     void foreignOrderConvertsItemsAndOrderSeparately()
     {
-        QFETCH(int, lineDecimals);
-        QFETCH(int, invoiceDecimals);
-        QFETCH(Amounts, firstItem);
-        QFETCH(Amounts, secondItem);
-        QFETCH(Amounts, order);
+        auto [lineDecimals, invoiceDecimals, firstItem, secondItem, order] =
+            Fetch<int, int, Amounts, Amounts, Amounts>(
+                {"lineDecimals", "invoiceDecimals", "firstItem", "secondItem", "order"});
         QVERIFY(ExecSql(
             QStringLiteral("update CURRENCYY set CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS = ?, "
                            "CURRENCY_INVOICE_TOTAL_ROUNDING_DECIMALS = ? "

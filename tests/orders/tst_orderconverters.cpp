@@ -1,4 +1,5 @@
 // The status text of an order and the text form of invoice numbers.
+#include "DataTable.h"
 #include "TestCompany.h"
 
 #include "base/Setup.h"
@@ -14,9 +15,7 @@ private Q_SLOTS:
     void orderType_data()
     {
         // kind, verified, number, cancelled by, consolidated
-        QTest::addColumn<QVariantList>("columns");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QColor>("ink");
+        AddColumns<QVariantList, QString, QColor>({"columns", "text", "ink"});
         const QVariant null, yes("1"), no("0");
         const QColor red(200, 0, 0), green(0, 200, 0), blue(0, 0, 180), purple(200, 0, 200), plain;
         const auto row = [](const char* name, const QVariantList& columns, const char* text,
@@ -39,9 +38,8 @@ private Q_SLOTS:
 
     void orderType()
     {
-        QFETCH(QVariantList, columns);
-        QFETCH(QString, text);
-        QFETCH(QColor, ink);
+        auto [columns, text, ink] =
+            Fetch<QVariantList, QString, QColor>({"columns", "text", "ink"});
         const OrderTypeText result =
             ConvertOrderType(columns[0], columns[1], columns[2], columns[3], columns[4]);
         QCOMPARE(result.text, text);
@@ -50,10 +48,7 @@ private Q_SLOTS:
 
     void invoiceNo_data()
     {
-        QTest::addColumn<qint64>("number");
-        QTest::addColumn<QString>("prefix");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QString>("text");
+        AddColumns<qint64, QString, int, QString>({"number", "prefix", "width", "text"});
         QTest::newRow("prefix and padding") << qint64(42) << "A-" << 6 << "A-000042";
         QTest::newRow("wider than padding") << qint64(1234567) << "A-" << 6 << "A-1234567";
         // printf would left-justify with blanks for a negative width.
@@ -62,10 +57,8 @@ private Q_SLOTS:
 
     void invoiceNo()
     {
-        QFETCH(qint64, number);
-        QFETCH(QString, prefix);
-        QFETCH(int, width);
-        QFETCH(QString, text);
+        auto [number, prefix, width, text] =
+            Fetch<qint64, QString, int, QString>({"number", "prefix", "width", "text"});
         QCOMPARE(FormatInvoiceNo(number, prefix, width), text);
     }
 

@@ -82,8 +82,8 @@ private Q_SLOTS:
 
     void partnerChanged_data()
     {
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QString>("partners"); // name|city of every partner afterwards
+        // partners: name|city of every partner afterwards
+        AddColumns<int, QString>({"choice", "partners"});
         AddRow("update", int(Interaction::Choice::First), QString("Teszt Partner Kft|Szeged"));
         AddRow("new partner", int(Interaction::Choice::Second),
                QString("Teszt Partner Kft|Budapest; Teszt Partner Kft|Szeged"));
@@ -91,8 +91,7 @@ private Q_SLOTS:
     }
     void partnerChanged()
     {
-        QFETCH(int, choice);
-        QFETCH(QString, partners);
+        auto [choice, partners] = Fetch<int, QString>({"choice", "partners"});
         ScriptedInteraction interaction;
         interaction.choiceAnswers << Interaction::Choice(choice);
         OrderEdit edit(PartnerOrder(), interaction);
@@ -148,8 +147,7 @@ private Q_SLOTS:
 
     void itemChecksInOrder_data()
     {
-        QTest::addColumn<QStringList>("edits");
-        QTest::addColumn<QString>("message");
+        AddColumns<QStringList, QString>({"edits", "message"});
         AddRow("price", QStringList{"m_price=", "m_date_shipped="},
                QString("Price field must have a value."));
         AddRow("date", QStringList{"m_date_shipped="},
@@ -157,8 +155,7 @@ private Q_SLOTS:
     }
     void itemChecksInOrder()
     {
-        QFETCH(QStringList, edits);
-        QFETCH(QString, message);
+        auto [edits, message] = Fetch<QStringList, QString>({"edits", "message"});
         ScriptedInteraction interaction;
         const Order order = PartnerOrder();
         OrderItemEditDlg dlg(order, order.items.first(), interaction);
@@ -171,10 +168,8 @@ private Q_SLOTS:
 
     void productBasicData_data()
     {
-        QTest::addColumn<bool>("typed");
-        QTest::addColumn<bool>("yes");
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QString>("products"); // name|unit|price of every product afterwards
+        // products: name|unit|price of every product afterwards
+        AddColumns<bool, bool, int, QString>({"typed", "yes", "choice", "products"});
         const int keep = int(Interaction::Choice::Third);
         AddRow("new product stored", true, true, keep,
                QString("Teszt termék|db|1000; Csavar|kg|250"));
@@ -186,10 +181,8 @@ private Q_SLOTS:
     }
     void productBasicData()
     {
-        QFETCH(bool, typed);
-        QFETCH(bool, yes);
-        QFETCH(int, choice);
-        QFETCH(QString, products);
+        auto [typed, yes, choice, products] =
+            Fetch<bool, bool, int, QString>({"typed", "yes", "choice", "products"});
         ScriptedInteraction interaction;
         interaction.yesNoAnswers << yes;
         interaction.choiceAnswers << Interaction::Choice(choice);

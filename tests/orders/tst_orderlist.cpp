@@ -113,8 +113,7 @@ private Q_SLOTS:
 
     void cancelRefusals_data()
     {
-        QTest::addColumn<int>("which");
-        QTest::addColumn<QString>("message");
+        AddColumns<int, QString>({"which", "message"});
         AddRow("no number", 1, QString("Invoices, having Invoice No, can only be cancelled."));
         AddRow("a cancel invoice", 4, QString("Cancel Invoice can not be cancelled."));
         AddRow("cancelled already", 3, QString("This invoice is cancelled by A-5."));
@@ -123,8 +122,7 @@ private Q_SLOTS:
     }
     void cancelRefusals()
     {
-        QFETCH(int, which);
-        QFETCH(QString, message);
+        auto [which, message] = Fetch<int, QString>({"which", "message"});
         // An invoice whose cancelling order has been made but not yet printed.
         const qint64 waiting = InsertOrder("R6", {1, "1", 6, "A-6", 0, null, null, null});
         InsertOrder("R7", {0, "1", null, null, 1, null, null, 6});

@@ -60,12 +60,8 @@ private Q_SLOTS:
 
     void filters_data()
     {
-        QTest::addColumn<QVariant>("kind");
-        QTest::addColumn<int>("dateField");
-        QTest::addColumn<QDate>("from");
-        QTest::addColumn<QDate>("to");
-        QTest::addColumn<QString>("partner");
-        QTest::addColumn<QString>("expected");
+        AddColumns<QVariant, int, QDate, QDate, QString, QString>(
+            {"kind", "dateField", "from", "to", "partner", "expected"});
         const QDate none;
         const QVariant all;
         AddRow("every order", all, 0, none, none, QString(), QString("Gg Ff Ee Dd Cc Bb Aa"));
@@ -90,12 +86,9 @@ private Q_SLOTS:
 
     void filters()
     {
-        QFETCH(QVariant, kind);
-        QFETCH(int, dateField);
-        QFETCH(QDate, from);
-        QFETCH(QDate, to);
-        QFETCH(QString, partner);
-        QFETCH(QString, expected);
+        auto [kind, dateField, from, to, partner, expected] =
+            Fetch<QVariant, int, QDate, QDate, QString, QString>(
+                {"kind", "dateField", "from", "to", "partner", "expected"});
         OrderListFilter filter;
         if (kind.isValid())
             filter.kind = kind.toInt();
@@ -123,9 +116,7 @@ private Q_SLOTS:
 
     void limitSaysThereAreMore_data()
     {
-        QTest::addColumn<int>("limit");
-        QTest::addColumn<int>("shown");
-        QTest::addColumn<bool>("more");
+        AddColumns<int, int, bool>({"limit", "shown", "more"});
         AddRow("below", 3, 3, true);
         AddRow("exactly all", 7, 7, false);
         AddRow("no limit", 0, 7, false);
@@ -133,9 +124,7 @@ private Q_SLOTS:
 
     void limitSaysThereAreMore()
     {
-        QFETCH(int, limit);
-        QFETCH(int, shown);
-        QFETCH(bool, more);
+        auto [limit, shown, more] = Fetch<int, int, bool>({"limit", "shown", "more"});
         OrderListFilter filter;
         filter.limit = limit;
         QList<OrderListRow> rows;
