@@ -23,7 +23,7 @@
 
 namespace {
 
-struct Spec
+struct OrderKind
 {
     qint64 currency = 0;
     qint64 language = 0;
@@ -31,14 +31,14 @@ struct Spec
     QString subject;
 };
 
-qint64 NewOrder(const Spec& spec)
+qint64 NewOrder(const OrderKind& kind)
 {
     Order order;
     if (!OrderFill::newOrder(order, QDate(2024, 3, 5)) || !OrderFill::partner(order, 1) ||
-        !OrderFill::currency(order, spec.currency) || !OrderFill::language(order, spec.language))
+        !OrderFill::currency(order, kind.currency) || !OrderFill::language(order, kind.language))
         qFatal("no order");
-    order.consolidated = spec.consolidated;
-    order.subject = spec.subject;
+    order.consolidated = kind.consolidated;
+    order.subject = kind.subject;
     for (int day : {6, 5, 6}) {
         OrderItem item;
         if (!OrderFill::product(item, order, 1))
