@@ -116,3 +116,18 @@ QString ChooseCompany(CliContext& context)
                                      return RefuseToChoose(context, entries);
                                  });
 }
+
+bool OpenChosenCompany(CliContext& context)
+{
+    const QString path = ChooseCompany(context);
+    return !path.isEmpty() && OpenCompany(path, *context.interaction);
+}
+
+int PrintFailure(CliContext& context, const Result& r, bool withSqlError)
+{
+    if (!r.message().isEmpty())
+        PrintMessage(context, r.message());
+    if (withSqlError && !r.sqlError().isEmpty())
+        PrintMessage(context, r.sqlError());
+    return ExitFailure;
+}

@@ -3,6 +3,8 @@
 
 #include "Cli.h"
 
+#include "base/Result.h"
+
 int RunCompanies(CliContext& context, const QStringList& args);
 int RunCreate(CliContext& context, const QStringList& args);
 int RunCheck(CliContext& context, const QStringList& args);
@@ -11,3 +13,9 @@ int RunCheck(CliContext& context, const QStringList& args);
 // Where the start-up would ask, the companies are listed with the hint to choose one with --db.
 // Empty when there is none to use; the reason has been printed.
 QString ChooseCompany(CliContext& context);
+// Opens the company ChooseCompany() names, preparing it as the program's start does.
+bool OpenChosenCompany(CliContext& context);
+
+// Prints the failure's message (and the database's error text when asked) and returns
+// ExitFailure; an empty message, for a refusal already told, prints nothing.
+int PrintFailure(CliContext& context, const Result& r, bool withSqlError = false);

@@ -28,19 +28,6 @@ int Usage(CliContext& context)
     return ExitUsage;
 }
 
-int Fail(CliContext& context, const Result& r)
-{
-    if (!r.message().isEmpty())
-        PrintMessage(context, r.message());
-    return ExitFailure;
-}
-
-bool OpenChosenCompany(CliContext& context)
-{
-    const QString path = ChooseCompany(context);
-    return !path.isEmpty() && OpenCompany(path, *context.interaction);
-}
-
 std::optional<qint64> ParseCount(const QString& text, qint64 minimum)
 {
     bool ok = false;
@@ -82,7 +69,7 @@ int Print(CliContext& context, qint64 orderId, Args& a)
     const Result r = InvoiceIssue::print(orderId, *context.interaction, a.pdf ? &*a.pdf : nullptr,
                                          outcome, a.print);
     if (!r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     *context.out << outcome.invoice.numberText << Qt::endl;
     return ExitOk;
 }
@@ -111,7 +98,7 @@ int RunPrintCommand(CliContext& context, const QStringList& args)
         return ExitFailure;
     qint64 orderId = 0;
     if (Result r = InvoiceNumbering::findInvoice(a.positional.first(), orderId); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     return Print(context, orderId, a);
 }
 
@@ -143,10 +130,10 @@ int RunCancelCommand(CliContext& context, const QStringList& args)
         return ExitFailure;
     qint64 orderId = 0;
     if (Result r = InvoiceNumbering::findInvoice(a.positional.first(), orderId); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     qint64 cancelId = 0;
     if (Result r = CancelInvoice::create(orderId, data, cancelId); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     return Print(context, cancelId, a);
 }
 
@@ -161,6 +148,6 @@ int RunSampleCommand(CliContext& context, const QStringList& args)
         return ExitFailure;
     PdfInvoiceOutput pdf(options.value(QStringLiteral("pdf")));
     if (Result r = InvoiceIssue::printSample(pdf); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     return ExitOk;
 }

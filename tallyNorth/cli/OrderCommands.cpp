@@ -49,21 +49,6 @@ QString Tr(const char* text)
     return QCoreApplication::translate("OrderCommands", text);
 }
 
-int Fail(CliContext& context, const Result& r)
-{
-    if (!r.message().isEmpty())
-        PrintMessage(context, r.message());
-    if (!r.sqlError().isEmpty())
-        PrintMessage(context, r.sqlError());
-    return ExitFailure;
-}
-
-bool OpenChosenCompany(CliContext& context)
-{
-    const QString path = ChooseCompany(context);
-    return !path.isEmpty() && OpenCompany(path, *context.interaction);
-}
-
 std::optional<qint64> ParseId(const QString& text)
 {
     bool ok = false;
@@ -98,7 +83,7 @@ int Show(CliContext& context, const QStringList& args)
         return ExitFailure;
     Order o;
     if (Result r = OrderStore::load(*id, o); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
 
     QTextStream& out = *context.out;
     const auto line = [&](const char* label, const QString& value) {
@@ -287,25 +272,25 @@ int Add(CliContext& context, QStringList args)
     Order order;
     QStringList notes;
     if (Result r = OrderFill::newOrder(order); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     if (shipped->isValid())
         order.dateShipped = *shipped;
     qint64 partnerId = 0;
     if (Result r = FindPartner(options.value(QStringLiteral("partner")), partnerId); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     if (Result r = OrderFill::partner(order, partnerId, &notes); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     if (*currency) {
         if (Result r = OrderFill::currency(order, **currency); !r)
-            return Fail(context, r);
+            return PrintFailure(context, r, true);
     }
     if (*lang) {
         if (Result r = OrderFill::language(order, **lang, &notes); !r)
-            return Fail(context, r);
+            return PrintFailure(context, r, true);
     }
     if (*payment) {
         if (Result r = OrderFill::paymentMethod(order, **payment, &notes); !r)
-            return Fail(context, r);
+            return PrintFailure(context, r, true);
     }
     order.datePaymentDue = *due;
     order.consolidated = consolidated;
@@ -316,7 +301,7 @@ int Add(CliContext& context, QStringList args)
     for (const ItemArg& arg : std::as_const(items)) {
         OrderItem item;
         if (Result r = OrderFill::product(item, order, arg.productId); !r)
-            return Fail(context, r);
+            return PrintFailure(context, r, true);
         item.qty = arg.qty;
         if (arg.price) {
             item.discountType = int(DiscountType::EnteredPrice);
@@ -328,9 +313,9 @@ int Add(CliContext& context, QStringList args)
     for (const QString& note : std::as_const(notes))
         PrintMessage(context, note);
     if (Result r = OrderFill::checkOrder(order, *context.interaction); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     if (Result r = OrderStore::save(order); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     *context.out << order.id << Qt::endl;
     return ExitOk;
 }
@@ -344,7 +329,7 @@ int Clone(CliContext& context, const QStringList& args)
         return ExitFailure;
     qint64 newId = 0;
     if (Result r = OrderStore::clone(*id, newId); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     *context.out << newId << Qt::endl;
     return ExitOk;
 }
@@ -368,7 +353,7 @@ int Delete(CliContext& context, const QStringList& args)
     if (outcome.printed > 0)
         PrintMessage(context, OrderStore::printedMessage(outcome.printed));
     if (!r)
-        return Fail(context, r);
+        return PrintFailure(context, r, true);
     return outcome.printed > 0 ? ExitFailure : ExitOk;
 }
 

@@ -30,13 +30,6 @@ int Usage(CliContext& context)
     return ExitUsage;
 }
 
-int Fail(CliContext& context, const Result& r)
-{
-    if (!r.message().isEmpty())
-        PrintMessage(context, r.message());
-    return ExitFailure;
-}
-
 QString Amount(double value)
 {
     return QString::number(value, 'f', 6).remove(QRegularExpression(QStringLiteral("\\.?0+$")));
@@ -45,8 +38,7 @@ QString Amount(double value)
 // Opens the company and loads the invoice of the number text.
 Result OpenInvoice(CliContext& context, const QString& numberText, BankItemInvoice& invoice)
 {
-    const QString path = ChooseCompany(context);
-    if (path.isEmpty() || !OpenCompany(path, *context.interaction))
+    if (!OpenChosenCompany(context))
         return Result::failure({});
     qint64 orderId = 0;
     if (Result r = InvoiceNumbering::findInvoice(numberText, orderId); !r)
@@ -76,15 +68,15 @@ int RunPayCommand(CliContext& context, const QStringList& args)
                 context, FillArgs(PaymentCommands::tr("Not a date: %s"), {options.value(date)}));
     }
     if (Result r = BankItemStore::parseAmount(positional.at(1), item.paidTotal); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     if (Result r = BankItemStore::checkItem(item); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
 
     BankItemInvoice invoice;
     if (Result r = OpenInvoice(context, positional.first(), invoice); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     if (Result r = BankItemStore::add(invoice, item); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     if (invoice.paid)
         *context.out << FillArgs(PaymentCommands::tr("%s: paid"), {invoice.invoiceNoStr})
                      << Qt::endl;
@@ -105,10 +97,10 @@ int RunPaymentsCommand(CliContext& context, const QStringList& args)
         return Usage(context);
     BankItemInvoice invoice;
     if (Result r = OpenInvoice(context, positional.first(), invoice); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     QList<BankItem> items;
     if (Result r = BankItemStore::list(invoice.orderId, items); !r)
-        return Fail(context, r);
+        return PrintFailure(context, r);
     if (items.isEmpty()) {
         PrintMessage(context, PaymentCommands::tr("There are no bank items to this invoice."));
         return ExitOk;
