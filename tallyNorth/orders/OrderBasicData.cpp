@@ -6,6 +6,7 @@
 #include "masterdata/MasterTables.h"
 
 #include <cmath>
+#include <functional>
 
 using namespace Col;
 
@@ -157,6 +158,43 @@ bool OrderBasicData::productDiffers(const OrderItem& item, const OrderItem& stor
            !SameAmount(item.listPrice, stored.listPrice);
 }
 
+namespace {
+
+// The texts of one kind of basic data's questions.
+struct BasicDataQuestions
+{
+    QString notStored;
+    QString changed;
+    QString update;
+    QString create;
+    QString keep;
+};
+
+// What the order's copy of a basic-data row asks: to store an unknown row, or to update or
+// duplicate a row whose data differ. forget drops the order's link to an unknown row.
+Result AskBasicData(Interaction& interaction, const BasicDataQuestions& q, bool known, bool differs,
+                    const std::function<void()>& forget, const std::function<Result()>& insert,
+                    const std::function<Result()>& update)
+{
+    if (!known) {
+        forget();
+        return interaction.askYesNo(q.notStored) ? insert() : Result::success();
+    }
+    if (!differs)
+        return Result::success();
+    switch (interaction.choose3(q.changed, q.update, q.create, q.keep)) {
+    case Interaction::Choice::First:
+        return update();
+    case Interaction::Choice::Second:
+        return insert();
+    case Interaction::Choice::Third:
+        break;
+    }
+    return Result::success();
+}
+
+} // namespace
+
 Result OrderBasicData::partner(Order& order, Interaction& interaction)
 {
     const TableStore& store = PartnerStore();
@@ -167,7 +205,7 @@ Result OrderBasicData::partner(Order& order, Interaction& interaction)
         known = store.read(*order.partnerId, row).ok() &&
                 OrderFill::partner(stored, *order.partnerId).ok();
     }
-    auto insert = [&]() -> Result {
+    const auto insert = [&]() -> Result {
         Record row = NewPartnerDefaults();
         WritePartner(order, row);
         std::optional<qint64> id;
@@ -178,21 +216,7 @@ Result OrderBasicData::partner(Order& order, Interaction& interaction)
         order.partnerCode.clear();
         return Result::success();
     };
-    if (!known) {
-        order.partnerId.reset();
-        if (!interaction.askYesNo(
-                tr("This partner is not in basic data yet. Do you want to store it there?")))
-            return Result::success();
-        return insert();
-    }
-    if (!partnerDiffers(order, stored))
-        return Result::success();
-    switch (interaction.choose3(tr("The partner's data has changed. You can update these changes "
-                                   "of partner or create a new partner with this data.&What you "
-                                   "want to do?"),
-                                tr("Update changes of partner"), tr("Create a new partner"),
-                                tr("Do not save partner data"))) {
-    case Interaction::Choice::First: {
+    const auto update = [&]() -> Result {
         Record row;
         if (!store.read(*order.partnerId, row))
             return Result::failure(
@@ -203,40 +227,29 @@ Result OrderBasicData::partner(Order& order, Interaction& interaction)
             return Result::failure(
                 tr("Can't update partner. Probably there is an other partner with the same name."));
         return Result::success();
-    }
-    case Interaction::Choice::Second:
-        return insert();
-    case Interaction::Choice::Third:
-        break;
-    }
-    return Result::success();
+    };
+    const BasicDataQuestions questions{
+        tr("This partner is not in basic data yet. Do you want to store it there?"),
+        tr("The partner's data has changed. You can update these changes of partner or create a "
+           "new partner with this data.&What you want to do?"),
+        tr("Update changes of partner"), tr("Create a new partner"),
+        tr("Do not save partner data")};
+    return AskBasicData(
+        interaction, questions, known, known && partnerDiffers(order, stored),
+        [&] { order.partnerId.reset(); }, insert, update);
 }
 
 Result OrderBasicData::product(OrderItem& item, const Order& order, Interaction& interaction)
 {
     OrderItem stored;
     const bool known = item.productId && OrderFill::product(stored, order, *item.productId).ok();
-    auto insert = [&]() -> Result {
+    const auto insert = [&]() -> Result {
         if (!WriteProduct(item, order, std::nullopt))
             return Result::failure(
                 tr("Can't insert product. Probably there is an other product with the same name."));
         return Result::success();
     };
-    if (!known) {
-        item.productId.reset();
-        if (!interaction.askYesNo(
-                tr("This product is not in basic data yet. Do you want to store it there?")))
-            return Result::success();
-        return insert();
-    }
-    if (!productDiffers(item, stored))
-        return Result::success();
-    switch (interaction.choose3(tr("The product's data has changed. You can update these changes "
-                                   "of product or create a new product with this data.&What you "
-                                   "want to do?"),
-                                tr("Update changes of product"), tr("Create a new product"),
-                                tr("Do not save product data"))) {
-    case Interaction::Choice::First: {
+    const auto update = [&]() -> Result {
         Record row;
         if (!ProductStore().read(*item.productId, row))
             return Result::failure(
@@ -245,11 +258,14 @@ Result OrderBasicData::product(OrderItem& item, const Order& order, Interaction&
             return Result::failure(
                 tr("Can't update product. Probably there is an other product with the same name."));
         return Result::success();
-    }
-    case Interaction::Choice::Second:
-        return insert();
-    case Interaction::Choice::Third:
-        break;
-    }
-    return Result::success();
+    };
+    const BasicDataQuestions questions{
+        tr("This product is not in basic data yet. Do you want to store it there?"),
+        tr("The product's data has changed. You can update these changes of product or create a "
+           "new product with this data.&What you want to do?"),
+        tr("Update changes of product"), tr("Create a new product"),
+        tr("Do not save product data")};
+    return AskBasicData(
+        interaction, questions, known, known && productDiffers(item, stored),
+        [&] { item.productId.reset(); }, insert, update);
 }
