@@ -1,8 +1,8 @@
 // Backup and restore of the company file: names, the belonging rule, and that every failure
 // leaves the company's own file in place and usable.
+#include "CompanyTestCase.h"
 #include "OldCompanyFile.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "Columns.h"
@@ -34,21 +34,19 @@ QString Markers()
 
 } // namespace
 
-class TestBackup : public QObject
+class TestBackup : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
         InstallLabelLoading();
-        m_company.emplace();
-        QVERIFY(m_company->isValid());
+        CompanyTestCase::init();
         AddMarker("own");
         m_folder.emplace();
         m_backup = m_folder->filePath("company.dbk");
         m_ui = {};
     }
-    void cleanup() { m_company.reset(); }
     void names_data()
     {
         AddColumns<QString, QString, bool>({"database", "backup", "belongs"});
@@ -157,7 +155,6 @@ private Q_SLOTS:
 private:
     QString path() const { return m_company->path(); }
 
-    std::optional<TestCompany> m_company;
     std::optional<QTemporaryDir> m_folder;
     QString m_backup;
     ScriptedInteraction m_ui;

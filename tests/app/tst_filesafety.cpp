@@ -1,8 +1,8 @@
 // A company file is never lost or silently corrupted: transactions whose commit fails, files that
 // are not what they claim to be, and what an interrupted restore or upgrade leaves behind.
+#include "CompanyTestCase.h"
 #include "OldCompanyFile.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "app/Backup.h"
@@ -47,18 +47,16 @@ bool MakeFile(const QString& kind, const QString& path, const QString& company)
 
 } // namespace
 
-class TestFileSafety : public QObject
+class TestFileSafety : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_company.emplace();
-        QVERIFY(m_company->isValid());
+        CompanyTestCase::init();
         QVERIFY(ExecSql("insert into STATNO (STATNO_NAME) values ('own')"));
         m_ui = {};
     }
-    void cleanup() { m_company.reset(); }
     // A reader's lock outlasting the busy time-out makes COMMIT fail: the rows must not stay in an
     // open transaction that every later one takes for its outer one.
     void failedCommitIsRolledBack()
@@ -242,7 +240,6 @@ private Q_SLOTS:
 
 private:
     QString path() const { return m_company->path(); }
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ui;
 };
 

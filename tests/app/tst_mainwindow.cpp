@@ -1,7 +1,7 @@
 // The main window's rules: commands without handlers, when lists are read, and changing the
 // company as the user drives it.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "Columns.h"
@@ -41,14 +41,13 @@ void SetLoading(bool onStart, bool onTabChange)
 
 } // namespace
 
-class TestMainWindow : public QObject
+class TestMainWindow : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_company.emplace();
-        QVERIFY(m_company->isValid());
+        CompanyTestCase::init();
         BaseFolder::set(m_company->dir() + "/base");
         QVERIFY(QDir().mkpath(BaseFolder::backupFolder()) && QDir().mkpath(BaseFolder::dbFolder()));
         SetLoading(false, false);
@@ -59,7 +58,7 @@ private Q_SLOTS:
         m_window.reset();
         m_counted.clear();
         m_messages.clear();
-        m_company.reset();
+        CompanyTestCase::cleanup();
     }
 
     // A command is enabled only with a handler; a submenu only while one of its commands is.
@@ -164,7 +163,6 @@ private:
     MainWindow& open(std::initializer_list<MainTab> counted = {MainTab::Orders});
     int reloads(MainTab tab) { return m_counted.at(tab)->reloads; }
 
-    std::optional<TestCompany> m_company;
     std::unique_ptr<MainWindow> m_window;
     std::map<MainTab, CountingTab*> m_counted;
     QStringList m_messages;

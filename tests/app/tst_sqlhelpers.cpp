@@ -1,6 +1,6 @@
 // The statement helpers every store relies on (flags, numbers, scripts, transactions) and the
 // settings record: awkward template texts, an unset row, and the one-row rule.
-#include "TestCompany.h"
+#include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "Columns.h"
@@ -21,16 +21,10 @@ QVariant Stored(const char* column)
 
 } // namespace
 
-class TestSqlHelpers : public QObject
+class TestSqlHelpers : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_company.emplace();
-        QVERIFY(m_company->isValid());
-    }
-    void cleanup() { m_company.reset(); }
     // How stored values read as flags and numbers, whatever type the column gave them.
     void conversions_data()
     {
@@ -152,7 +146,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestSqlHelpers)

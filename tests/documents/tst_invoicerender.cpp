@@ -2,8 +2,8 @@
 // rate block, a consolidated one and a foreign-language partner, checked on the filled QTF as
 // plain text and on the PDF's text; the per-copy marks; data that looks like QTF; and the
 // refusals that leave the database as it was.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -63,13 +63,13 @@ QString Plain(const FrozenInvoice& f)
 
 } // namespace
 
-class TestInvoiceRender : public QObject
+class TestInvoiceRender : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
+        CompanyTestCase::init();
         QVERIFY(SaveTemplateToSetup(LoadTemplateDir(TN_TEMPLATE_DIR)));
         QVERIFY(
             ExecSql("update SETUP set SETUP_NAME = 'Minta Kft.', SETUP_TAX_NO = '12345676-2-41', "
@@ -78,7 +78,6 @@ private Q_SLOTS:
         QVERIFY(LabelTranslations::current().load());
         QVERIFY(LoadTemplateFromSetup().certified());
     }
-    void cleanup() { m_company.reset(); }
 
     void render_data()
     {
@@ -279,7 +278,6 @@ private:
     {
         return RenderInvoice(id, LoadTemplateFromSetup(), LabelTranslations::current(), f);
     }
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_MAIN(TestInvoiceRender)

@@ -1,7 +1,7 @@
 // "Invoice Label Translations" on the offscreen platform: only the foreign texts are saved, a
 // cleared text loses its row, and the next invoice sees the saved labels.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "documents/LabelTranslations.h"
@@ -33,17 +33,16 @@ QString Stored(int language, const QString& key)
 
 } // namespace
 
-class TestLabelBrowse : public QObject
+class TestLabelBrowse : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
+        CompanyTestCase::init();
         m_ask = ScriptedInteraction();
         QVERIFY(LabelTranslations::current().load());
     }
-    void cleanup() { m_company.reset(); }
 
     // The Hungarian text is shown, never saved; an emptied text loses its row.
     void savesOnlyForeignTexts()
@@ -82,7 +81,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ask;
 };
 

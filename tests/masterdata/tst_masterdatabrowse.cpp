@@ -1,7 +1,7 @@
 // The list windows and edit dialogs of the master data, driven on the offscreen platform.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 
 #include "Columns.h"
 #include "TestData.h"
@@ -23,17 +23,15 @@
 
 using namespace Col;
 
-class TestMasterDataBrowse : public QObject
+class TestMasterDataBrowse : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         m_ui = ScriptedInteraction();
     }
-    void cleanup() { m_company.reset(); }
 
     void chooseModeReturnsTheId()
     {
@@ -202,7 +200,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ui;
 };
 

@@ -1,5 +1,5 @@
 // The master-data stores and product prices against a real company database.
-#include "TestCompany.h"
+#include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "Columns.h"
@@ -39,12 +39,10 @@ Record Partner(const QString& name)
 
 } // namespace
 
-class TestTableStore : public QObject
+class TestTableStore : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { QVERIFY(m_company.emplace().isValid()); }
-    void cleanup() { m_company.reset(); }
 
     void uniqueCodeClashFails_data()
     {
@@ -338,7 +336,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestTableStore)

@@ -1,8 +1,8 @@
 // "Add Bank Item" on the offscreen platform against a real company: what the window refuses and
 // keeps open, and what it saves.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -36,21 +36,19 @@ void SetText(QWidget* w, const char* name, const QString& text)
 
 } // namespace
 
-class TestBankitemEdit : public QObject
+class TestBankitemEdit : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         QVERIFY(ExecSql("delete from ORDERITEM"));
         QVERIFY(ExecSql("delete from ORDERHEAD"));
         m_ask = ScriptedInteraction();
         m_id = InsertOrder(7);
         QVERIFY(BankItemStore::loadInvoice(m_id, m_invoice));
     }
-    void cleanup() { m_company.reset(); }
 
     // Each refusal keeps the window open with what was typed and writes nothing.
     void refusals_data()
@@ -103,7 +101,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ask;
     BankItemInvoice m_invoice;
     qint64 m_id = 0;

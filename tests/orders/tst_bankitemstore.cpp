@@ -1,7 +1,7 @@
 // Payments against real company databases: partial payments, the settling tolerance and the
 // overpayment, the refusals of what can not be paid, one transaction for the bank item and the
 // paid state, and the list's unpaid kinds following each payment.
-#include "TestCompany.h"
+#include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "base/DateText.h"
@@ -70,16 +70,10 @@ QList<qint64> ListIds(OrderListFilter::Kind kind)
 
 } // namespace
 
-class TestBankItemStore : public QObject
+class TestBankItemStore : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
-    }
-    void cleanup() { m_company.reset(); }
 
     // Each payment in turn and the state it leaves: "paid|unpaid total".
     void payments_data()
@@ -188,7 +182,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestBankItemStore)

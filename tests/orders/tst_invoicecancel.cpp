@@ -1,8 +1,8 @@
 // "Cancel the Invoice" on the offscreen platform: what it shows of the invoice, what it proposes,
 // the rules of its fields, and the order list's "Sztorno" through it to the cancelling order.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -51,17 +51,15 @@ QString OrderValue(qint64 id, const QString& column)
 
 } // namespace
 
-class TestInvoiceCancel : public QObject
+class TestInvoiceCancel : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         m_ask = ScriptedInteraction();
     }
-    void cleanup() { m_company.reset(); }
 
     void showsTheInvoiceAndProposesItsTerm()
     {
@@ -150,7 +148,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ask;
 };
 

@@ -1,7 +1,7 @@
 // Issuing under the numbering law against real company databases: gapless numbers whatever
 // fails, the future-date refusal, the paid state at issue, and the cancelling invoice's links
 // and refusals. The document is a stand-in here; its rendering has its own test.
-#include "TestCompany.h"
+#include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -61,16 +61,10 @@ QString Numbers()
 
 } // namespace
 
-class TestInvoiceIssue : public QObject
+class TestInvoiceIssue : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
-    }
-    void cleanup() { m_company.reset(); }
 
     void numbersAreConsecutive_data()
     {
@@ -313,7 +307,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestInvoiceIssue)

@@ -1,6 +1,6 @@
 // The order arithmetic that reads and writes a real company database: the forint totals fixed
 // at issue time and the VAT summary.
-#include "TestCompany.h"
+#include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "Columns.h"
@@ -53,12 +53,10 @@ Amounts Local(const char* table, qint64 id)
 
 } // namespace
 
-class TestOrderCalcDatabase : public QObject
+class TestOrderCalcDatabase : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { QVERIFY(m_company.emplace().isValid()); }
-    void cleanup() { m_company.reset(); }
 
     void forintOrderCopiesWithoutRounding_data()
     {
@@ -198,7 +196,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestOrderCalcDatabase)

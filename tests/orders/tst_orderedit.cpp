@@ -1,8 +1,8 @@
 // The order editor and its item dialog driven on the offscreen platform: the
 // checks the window adds, the questions about the basic data, and printing from the window.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -46,12 +46,10 @@ void SetText(QWidget* form, const char* name, const QString& text)
 
 } // namespace
 
-class TestOrderEdit : public QObject
+class TestOrderEdit : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { QVERIFY(m_company.emplace().isValid()); }
-    void cleanup() { m_company.reset(); }
 
     void partnerNotInBasicData_data()
     {
@@ -257,7 +255,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_MAIN(TestOrderEdit)

@@ -1,7 +1,7 @@
 // The "Orders/Invoices" tab on the offscreen platform against a real company: sorting, the
 // refusal to print unverified orders and the refusals of cancelling.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -41,15 +41,14 @@ const QVariant null;
 
 } // namespace
 
-class TestOrderList : public QObject
+class TestOrderList : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
+        CompanyTestCase::init();
         m_ask = ScriptedInteraction();
-        QVERIFY(Setup::current().load()); // the record limit of the new company
         QVERIFY(ExecSql("delete from ORDERITEM"));
         QVERIFY(ExecSql("delete from ORDERHEAD"));
         // An unverified order, a verified one, an invoice, a cancelled invoice and its cancel.
@@ -65,7 +64,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_list.reset();
-        m_company.reset();
+        CompanyTestCase::cleanup();
         SetOrderPrintHooks({});
     }
 
@@ -131,7 +130,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     std::optional<OrderList> m_list;
     ScriptedInteraction m_ask;
     qint64 m_unverified = 0, m_verified = 0, m_invoice = 0, m_cancelled = 0, m_cancel = 0;

@@ -1,6 +1,6 @@
 // The order list's filter against a real company database: the eight kinds, the dates (shipped
 // also through the items), the partner and the record limit.
-#include "TestCompany.h"
+#include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "base/SqlStatement.h"
@@ -35,13 +35,13 @@ const QDate kToday(2024, 6, 15);
 
 } // namespace
 
-class TestOrderListQuery : public QObject
+class TestOrderListQuery : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
+        CompanyTestCase::init();
         QVERIFY(ExecSql("delete from ORDERHEAD"));
         const QVariant null;
         // Added in this order; the list shows the newest first.
@@ -56,7 +56,6 @@ private Q_SLOTS:
         QVERIFY(ExecSql("insert into ORDERITEM (ORDERITEM_ORDERHEAD_ID, ORDERITEM_DATE_SHIPPED) "
                         "select max(ORDERHEAD_ID), '2024-03-05' from ORDERHEAD"));
     }
-    void cleanup() { m_company.reset(); }
 
     void filters_data()
     {
@@ -145,7 +144,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestOrderListQuery)

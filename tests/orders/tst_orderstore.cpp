@@ -1,7 +1,7 @@
 // Orders against a real company database: what is copied into an order, what is stored, and
 // what the store refuses.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/SqlStatement.h"
@@ -46,12 +46,10 @@ QString OrderCount()
 
 } // namespace
 
-class TestOrderStore : public QObject
+class TestOrderStore : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { QVERIFY(m_company.emplace().isValid()); }
-    void cleanup() { m_company.reset(); }
 
     void saveAndLoadKeepEverything()
     {
@@ -500,7 +498,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_GUILESS_MAIN(TestOrderStore)
