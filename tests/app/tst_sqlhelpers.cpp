@@ -145,7 +145,6 @@ private Q_SLOTS:
         QCOMPARE(QueryText("select count(*) from SETUP"), "1");
     }
 
-private:
 };
 
 QTEST_GUILESS_MAIN(TestSqlHelpers)
