@@ -44,7 +44,9 @@ ModalDriver::Step Answer(QStringList* texts, QMessageBox::StandardButton button)
         QTextDocument shown;
         shown.setHtml(box->text());
         *texts << shown.toPlainText().replace(u'\n', u'&');
-        box->button(button)->click();
+        QAbstractButton* answer = box->button(button);
+        QVERIFY2(answer, qPrintable(QStringLiteral("no such button on: ") + texts->last()));
+        answer->click();
     };
 }
 
