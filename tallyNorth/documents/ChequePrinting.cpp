@@ -113,6 +113,9 @@ Result ChequePrinting::print(ChequePrintMode mode, const QList<qint64>& selected
     Result r = build(cheques, templateQtf, settingsShift(), report);
     if (r)
         r = output.output(report, tr("Csekkek nyomtatasa"));
+    // An empty message: the person stopped it (no printer chosen); nothing was printed.
+    if (!r && r.message().isEmpty())
+        return r;
     if (!r)
         return Result::failure(tr("Nyomtatas nem sikerult.") + u'&' + r.message());
     if (Result marked = ChequeStore::markPrinted(ids, today); !marked)

@@ -372,3 +372,37 @@ Result ChequeStore::createForInvoice(qint64 orderId, const QDate& today, qint64&
     chequeId = c.id;
     return Result::success();
 }
+
+Result ChequeStore::forInvoices(const QList<qint64>& orderIds, const QDate& today,
+                                QList<qint64>& chequeIds)
+{
+    chequeIds.clear();
+    SqlTransaction transaction;
+    for (qint64 orderId : orderIds) {
+        SqlStatement st(
+            Sql("select o.%1, o.%2, (select c.%3 from %4 c where c.%5 = o.%6) from %7 o "
+                "where o.%6 = ?",
+                {ORDERHEAD_INVOICE_NO, ORDERHEAD_CANCELLED_INVOICE_NO, CHEQUE_ID, Tbl::CHEQUE,
+                 CHEQUE_ORDERHEAD_ID, ORDERHEAD_ID, Tbl::ORDERHEAD}),
+            {orderId});
+        if (!st.exec())
+            return DatabaseFailure(st);
+        if (!st.next())
+            return Result::failure(
+                tr("Unable to load data from database.&Maybe it is deleted by an other user."));
+        if (IsNullValue(st.value(0)) || !IsNullValue(st.value(1)))
+            return Result::failure(tr("Csekk csak kiallitott szamlahoz nyomtathato."));
+        if (!IsNullValue(st.value(2))) {
+            chequeIds << ToInteger(st.value(2));
+            continue;
+        }
+        st.query().finish();
+        qint64 id = 0;
+        if (Result r = createForInvoice(orderId, today, id); !r)
+            return r;
+        chequeIds << id;
+    }
+    if (!transaction.commit())
+        return Result::failure(tr("Database error:&") + transaction.errorText());
+    return Result::success();
+}

@@ -79,6 +79,10 @@ public:
     // The cheque of a just numbered invoice: payer from the order, the forint gross total, the
     // pretence and notice with the dates and the number. Runs inside the issuing transaction.
     static Result createForInvoice(qint64 orderId, const QDate& today, qint64& chequeId);
+    // The cheques of issued invoices, made now for those that have none ("Csekk nyomtatasa" in
+    // the order list); an order without a number is refused.
+    static Result forInvoices(const QList<qint64>& orderIds, const QDate& today,
+                              QList<qint64>& chequeIds);
     // The left- and right-hand texts of an invoice's cheque.
     static QString pretenceText(const QDate& invoiceDate, const QDate& due, const QString& number);
     static QString noticeText(const QDate& invoiceDate, const QDate& due, const QString& number);
