@@ -87,7 +87,7 @@ int RunChequeCommand(CliContext& context, const QStringList& args)
                                          QDate::currentDate(), printed);
         !r)
         return PrintFailure(context, r);
-    *context.out << FillArgs(ChequeCommands::tr("%d cheques printed."), {QString::number(printed)})
+    *context.out << FillArgs(ChequeCommands::tr("Cheques printed: %d"), {QString::number(printed)})
                  << Qt::endl;
     return ExitOk;
 }
