@@ -176,6 +176,44 @@ private Q_SLOTS:
         }
     }
 
+    void changedKnownPayer_data()
+    {
+        AddColumns<int, QString, QString>({"choice", "partners", "cheque"});
+        AddRow("update the partner", 0, QString("1|Teszt Partner Kft|Győr"), QString("1|Győr"));
+        AddRow("create a new one", 1, QString("2|Teszt Partner Kft|Budapest"), QString("2|Győr"));
+        AddRow("leave the basic data", 2, QString("1|Teszt Partner Kft|Budapest"),
+               QString("1|Győr"));
+    }
+    void changedKnownPayer()
+    {
+        QFETCH(int, choice);
+        QFETCH(QString, partners);
+        QFETCH(QString, cheque);
+        Cheque c;
+        c.partnerId = 1;
+        c.partnerName = "Teszt Partner Kft";
+        c.partnerZip = "1011";
+        c.partnerCity = "Budapest";
+        c.partnerAddress = "Fő utca 1.";
+        c.amount = 500;
+        QVERIFY(ChequeStore::save(c));
+        ChequeEdit edit;
+        edit.setInteraction(&m_ask);
+        QVERIFY(edit.load(c.id));
+        edit.findChild<QLineEdit*>("m_partner_city")->setText("Győr");
+        m_ask.choiceAnswers.enqueue(Interaction::Choice(choice));
+        QVERIFY(edit.save());
+        QCOMPARE(m_ask.questions.size(), 1);
+        QVERIFY(m_ask.questions.first().startsWith("The partner's data has changed."));
+        QCOMPARE(QueryText("select count(*) || '|' || min(PARTNER_NAME) || '|' || "
+                           "(select PARTNER_CITY from PARTNER where PARTNER_ID = 1) from PARTNER"),
+                 partners);
+        QCOMPARE(QueryText("select coalesce(CHEQUE_PARTNER_ID, '-') || '|' || CHEQUE_PARTNER_CITY "
+                           "from CHEQUE where CHEQUE_ID = ?",
+                           {c.id}),
+                 cheque);
+    }
+
     void amountInWordsFollowsTyping()
     {
         ChequeEdit edit;

@@ -312,6 +312,25 @@ private Q_SLOTS:
         QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("1"));
     }
 
+    void chequesOfSelectedInvoices()
+    {
+        const qint64 issued = NewOrder(2);
+        const qint64 open = NewOrder(2);
+        QVERIFY(Issue(issued));
+        QList<qint64> ids;
+        // An order without a number has no cheque to print, and none is made for the others.
+        Result r = ChequeStore::forInvoices({issued, open}, kToday, ids);
+        QCOMPARE(r.message(), QString("Csekk csak kiallitott szamlahoz nyomtathato."));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("0"));
+        // Made once, then found again.
+        QVERIFY(ChequeStore::forInvoices({issued}, kToday, ids));
+        QCOMPARE(ids.size(), 1);
+        QList<qint64> again;
+        QVERIFY(ChequeStore::forInvoices({issued}, kToday, again));
+        QCOMPARE(again, ids);
+        QCOMPARE(QueryText("select CHEQUE_ORDERHEAD_ID from CHEQUE"), QString::number(issued));
+    }
+
 private:
     std::optional<TestCompany> m_company;
 };
