@@ -199,6 +199,17 @@ private Q_SLOTS:
                  qPrintable(QString("%1 -> %2").arg(plain.top()).arg(shifted.top())));
     }
 
+    void testChequeUsesTheGivenTemplate()
+    {
+        // The setup window tries a template and offsets before they are saved.
+        PdfInvoiceOutput output(m_company->dir() + "/test.pdf");
+        QCOMPARE(ChequePrinting::printTest(QString(), {}, output).message(),
+                 QString("Select a cheque template in Setup."));
+        QVERIFY(ChequePrinting::printTest("[* !NAME!]&!NOTICE!", {5, 5}, output));
+        QVERIFY(FileBytes(m_company->dir() + "/test.pdf").startsWith("%PDF"));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("0"));
+    }
+
     void filledTemplateCarriesTheValues()
     {
         Cheque c = ChequePrinting::sampleCheque();
