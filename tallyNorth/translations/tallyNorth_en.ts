@@ -2182,18 +2182,6 @@ Payment due:
 <context>
     <name>ChequeList</name>
     <message>
-        <source>Szamlaszam</source>
-        <translation>Invoice No</translation>
-    </message>
-    <message>
-        <source>Osszeg</source>
-        <translation>Amount</translation>
-    </message>
-    <message>
-        <source>Nyomtatas napja</source>
-        <translation>Print date</translation>
-    </message>
-    <message>
         <source>Csekkek nyomtatasa</source>
         <translation>Print cheques</translation>
     </message>
@@ -2215,6 +2203,21 @@ Payment due:
     <message>
         <source>Minden csekket nyomtat, amik meg nem voltak nyomtatva</source>
         <translation>Prints every cheque not printed yet</translation>
+    </message>
+</context>
+<context>
+    <name>ChequeListModel</name>
+    <message>
+        <source>Szamlaszam</source>
+        <translation>Invoice No</translation>
+    </message>
+    <message>
+        <source>Osszeg</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Nyomtatas napja</source>
+        <translation>Print date</translation>
     </message>
 </context>
 </TS>

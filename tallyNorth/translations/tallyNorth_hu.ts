@@ -3686,26 +3686,6 @@ Fiz. határidő:
     <context>
         <name>ChequeList</name>
         <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Szamlaszam</source>
-            <translation>Számlaszám</translation>
-        </message>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>Osszeg</source>
-            <translation>Összeg</translation>
-        </message>
-        <message>
-            <source>Nyomtatas napja</source>
-            <translation>Nyomtatás napja</translation>
-        </message>
-        <message>
             <source>Csekkek nyomtatasa</source>
             <translation>Csekkek nyomtatása</translation>
         </message>
@@ -3763,6 +3743,29 @@ Fiz. határidő:
         <message>
             <source>Print</source>
             <translation>Nyomtatás</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeListModel</name>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Nyomtatas napja</source>
+            <translation>Nyomtatás napja</translation>
         </message>
     </context>
 </TS>

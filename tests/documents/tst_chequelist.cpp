@@ -11,12 +11,13 @@
 #include "documents/ui/ChequeEdit.h"
 #include "documents/ui/ChequeFilter.h"
 #include "documents/ui/ChequeList.h"
+#include "documents/ui/ChequeListModel.h"
 #include "orders/ChequeStore.h"
 
+#include <QAbstractItemModelTester>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QStandardItemModel>
 #include <QTableView>
 #include <QtTest>
 
@@ -60,7 +61,10 @@ private Q_SLOTS:
 
     void listsNewestFirst()
     {
-        const QStandardItemModel* model = m_list->model();
+        ChequeListModel* model = m_list->model();
+        QAbstractItemModelTester tester(model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_list->reload();
         QCOMPARE(model->rowCount(), 5);
         QCOMPARE(ColumnTexts(model, 2),
                  (QStringList{"Ernő", "Dénes", "Cecília", "Béla", "Árvíztűrő Kft"}));

@@ -2,14 +2,13 @@
 
 #include "ChequeEdit.h"
 #include "ChequeFilter.h"
+#include "ChequeListModel.h"
 #include "ChequePrinter.h"
 
 #include "Columns.h"
 #include "base/Database.h"
-#include "base/DateText.h"
 #include "base/Setup.h"
 #include "base/ui/GuiInteraction.h"
-#include "documents/AmountFormat.h"
 #include "masterdata/MasterTables.h"
 #include "orders/ChequeStore.h"
 
@@ -18,22 +17,18 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QStandardItemModel>
 #include <QTableView>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
-constexpr int kIdRole = Qt::UserRole + 1;
-enum Column { CodeColumn, InvoiceColumn, PartnerColumn, AmountColumn, PrintedColumn };
+using Column = ChequeListModel::Column;
 } // namespace
 
 ChequeList::ChequeList(QWidget* parent)
     : ListTab(parent), m_toolbar(new QToolBar(this)), m_filter(new ChequeFilter(this)),
-      m_model(new QStandardItemModel(this)), m_view(new QTableView(this)), m_note(new QLabel(this))
+      m_model(new ChequeListModel(this)), m_view(new QTableView(this)), m_note(new QLabel(this))
 {
-    m_model->setHorizontalHeaderLabels(
-        {tr("Code"), tr("Szamlaszam"), tr("Partner Name"), tr("Osszeg"), tr("Nyomtatas napja")});
     m_view->setModel(m_model);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -100,29 +95,17 @@ Interaction& ChequeList::interaction()
 void ChequeList::reload()
 {
     const QList<qint64> selected = selectedIds();
-    m_model->removeRows(0, m_model->rowCount());
-    m_note->hide();
-    if (!Database::isOpen()) // between companies
+    if (!Database::isOpen()) { // between companies
+        m_model->setRows({});
+        m_note->hide();
         return;
-    m_view->setColumnHidden(CodeColumn, !Setup::current().flag(Col::SETUP_SHOW_CODE_FIELDS));
-    QList<Cheque> rows;
-    bool more = false;
-    if (Result r = ChequeStore::list({m_filter->partner(), ListRecordLimit()}, rows, more); !r) {
+    }
+    m_view->setColumnHidden(int(Column::Code), !Setup::current().flag(Col::SETUP_SHOW_CODE_FIELDS));
+    const Result r = m_model->load({m_filter->partner(), ListRecordLimit()});
+    if (!r)
         interaction().error(r.message());
-        return;
-    }
-    for (const Cheque& c : std::as_const(rows)) {
-        QList<QStandardItem*> items;
-        for (const QString& text :
-             {c.code, c.invoiceNoText, c.partnerName, FormatAmount(c.amount, AmountFormat(0)),
-              FormatDate(c.datePrinted)})
-            items << new QStandardItem(text);
-        items[AmountColumn]->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        items[CodeColumn]->setData(c.id, kIdRole);
-        m_model->appendRow(items);
-    }
     m_note->setText(ChequeStore::moreMessage());
-    m_note->setVisible(more);
+    m_note->setVisible(m_model->more());
     m_view->resizeColumnsToContents();
     for (qint64 id : selected)
         selectId(id);
@@ -136,19 +119,18 @@ QList<qint64> ChequeList::selectedIds() const
     std::sort(rows.begin(), rows.end());
     QList<qint64> ids;
     for (int row : rows)
-        ids << m_model->item(row, CodeColumn)->data(kIdRole).toLongLong();
+        ids << m_model->row(row).id;
     return ids;
 }
 
 void ChequeList::selectId(qint64 id)
 {
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        if (m_model->item(row, CodeColumn)->data(kIdRole).toLongLong() != id)
-            continue;
-        m_view->selectionModel()->select(m_model->index(row, 0),
-                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        m_view->setCurrentIndex(m_model->index(row, InvoiceColumn));
-    }
+    const int row = m_model->rowOf(id);
+    if (row < 0)
+        return;
+    m_view->selectionModel()->select(m_model->index(row, 0),
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    m_view->setCurrentIndex(m_model->index(row, int(Column::InvoiceNo)));
 }
 
 void ChequeList::insertCheque()

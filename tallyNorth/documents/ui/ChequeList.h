@@ -10,9 +10,9 @@
 #include <memory>
 
 class ChequeFilter;
+class ChequeListModel;
 class Interaction;
 class QLabel;
-class QStandardItemModel;
 class QTableView;
 class QToolBar;
 
@@ -27,7 +27,7 @@ public:
 
     ChequeFilter* filterWidget() const { return m_filter; }
     QTableView* view() const { return m_view; }
-    QStandardItemModel* model() const { return m_model; }
+    ChequeListModel* model() const { return m_model; }
     QToolBar* toolBar() const { return m_toolbar; }
     // The ids of the selected rows, in list order.
     QList<qint64> selectedIds() const;
@@ -50,7 +50,7 @@ private:
 
     QToolBar* m_toolbar;
     ChequeFilter* m_filter;
-    QStandardItemModel* m_model;
+    ChequeListModel* m_model;
     QTableView* m_view;
     QLabel* m_note;
     Interaction* m_interaction = nullptr;
