@@ -2154,30 +2154,6 @@ Payment due:
 </context>
 <context>
     <name>ChequeEdit</name>
-    <message>
-        <source>Csekk letrehozasa/szerkesztese</source>
-        <translation>Create/edit cheque</translation>
-    </message>
-    <message>
-        <source>Jogcim (bal oldalon)</source>
-        <translation>Pretence (left side)</translation>
-    </message>
-    <message>
-        <source>Kozlemeny (jobb oldalon)</source>
-        <translation>Notice (right side)</translation>
-    </message>
-    <message>
-        <source>Osszeg</source>
-        <translation>Amount</translation>
-    </message>
-    <message>
-        <source>Partner keresese vagy uj partner letrehozasa</source>
-        <translation>Find a partner or create a new one</translation>
-    </message>
-    <message>
-        <source>Szamlaszam</source>
-        <translation>Invoice No</translation>
-    </message>
 </context>
 <context>
     <name>ChequeList</name>
@@ -2218,6 +2194,33 @@ Payment due:
     <message>
         <source>Nyomtatas napja</source>
         <translation>Print date</translation>
+    </message>
+</context>
+<context>
+    <name>ChequeEditLayout</name>
+    <message>
+        <source>Szamlaszam</source>
+        <translation>Invoice No</translation>
+    </message>
+    <message>
+        <source>Osszeg</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Jogcim (bal oldalon)</source>
+        <translation>Pretence (left side)</translation>
+    </message>
+    <message>
+        <source>Kozlemeny (jobb oldalon)</source>
+        <translation>Notice (right side)</translation>
+    </message>
+    <message>
+        <source>Partner keresese vagy uj partner letrehozasa</source>
+        <translation>Find a partner or create a new one</translation>
+    </message>
+    <message>
+        <source>Csekk letrehozasa/szerkesztese</source>
+        <translation>Create/edit cheque</translation>
     </message>
 </context>
 </TS>

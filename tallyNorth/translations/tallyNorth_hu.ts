@@ -3604,14 +3604,6 @@ Fiz. határidő:
     <context>
         <name>ChequeEdit</name>
         <message>
-            <source>&amp;Find Partner</source>
-            <translation>&amp;Partner keresése</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-        <message>
             <source>Create Cheque</source>
             <translation>Csekk létrehozása</translation>
         </message>
@@ -3620,52 +3612,8 @@ Fiz. határidő:
             <translation>Csekk szerkesztése</translation>
         </message>
         <message>
-            <source>Csekk letrehozasa/szerkesztese</source>
-            <translation>Csekk létrehozása/szerkesztése</translation>
-        </message>
-        <message>
-            <source>Jogcim (bal oldalon)</source>
-            <translation>Jogcím (bal oldalon)</translation>
-        </message>
-        <message>
-            <source>Kozlemeny (jobb oldalon)</source>
-            <translation>Közlemény (jobb oldalon)</translation>
-        </message>
-        <message>
-            <source>Later</source>
-            <translation>Később</translation>
-        </message>
-        <message>
-            <source>Osszeg</source>
-            <translation>Összeg</translation>
-        </message>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>Partner keresese vagy uj partner letrehozasa</source>
-            <translation>Partner keresése vagy új partner létrehozása</translation>
-        </message>
-        <message>
             <source>Print Preview</source>
             <translation>Nyomtatási kép</translation>
-        </message>
-        <message>
-            <source>Print</source>
-            <translation>Nyomtatás</translation>
-        </message>
-        <message>
-            <source>Street Address</source>
-            <translation>Utca, házszám</translation>
-        </message>
-        <message>
-            <source>Szamlaszam</source>
-            <translation>Számlaszám</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
         </message>
     </context>
     <context>
@@ -3766,6 +3714,69 @@ Fiz. határidő:
         <message>
             <source>Nyomtatas napja</source>
             <translation>Nyomtatás napja</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeEditLayout</name>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>ZIP</source>
+            <translation>Irányítószám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Település</translation>
+        </message>
+        <message>
+            <source>Street Address</source>
+            <translation>Utca, házszám</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Jogcim (bal oldalon)</source>
+            <translation>Jogcím (bal oldalon)</translation>
+        </message>
+        <message>
+            <source>Kozlemeny (jobb oldalon)</source>
+            <translation>Közlemény (jobb oldalon)</translation>
+        </message>
+        <message>
+            <source>Partner keresese vagy uj partner letrehozasa</source>
+            <translation>Partner keresése vagy új partner létrehozása</translation>
+        </message>
+        <message>
+            <source>&amp;Find Partner</source>
+            <translation>&amp;Partner keresése</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Later</source>
+            <translation>Később</translation>
+        </message>
+        <message>
+            <source>Csekk letrehozasa/szerkesztese</source>
+            <translation>Csekk létrehozása/szerkesztése</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
         </message>
     </context>
 </TS>

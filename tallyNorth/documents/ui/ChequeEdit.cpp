@@ -1,6 +1,7 @@
 #include "ChequeEdit.h"
 
 #include "ChequePrinter.h"
+#include "ui_ChequeEditLayout.h"
 
 #include "base/ui/GuiInteraction.h"
 #include "documents/AmountInWords.h"
@@ -11,94 +12,24 @@
 #include "orders/OrderBasicData.h"
 #include "orders/OrderFill.h"
 
-#include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 ChequeEdit::ChequeEdit(QWidget* parent)
-    : QDialog(parent), m_partner_name(new PartnerFinder(this)), m_partner_zip(new QLineEdit(this)),
-      m_partner_city(new QLineEdit(this)), m_partner_address(new QLineEdit(this)),
-      m_invoice_no(new QLineEdit(this)), m_amount(new QLineEdit(this)),
-      m_amount_text(new QLabel(this)), m_pretence(new QPlainTextEdit(this)),
-      m_notice(new QPlainTextEdit(this))
+    : QDialog(parent), m_ui(std::make_unique<Ui::ChequeEditLayout>())
 {
-    setObjectName(QStringLiteral("ChequeEditLayout"));
-    m_partner_name->setObjectName(QStringLiteral("m_partner_name"));
-    m_partner_zip->setObjectName(QStringLiteral("m_partner_zip"));
-    m_partner_city->setObjectName(QStringLiteral("m_partner_city"));
-    m_partner_address->setObjectName(QStringLiteral("m_partner_address"));
-    m_invoice_no->setObjectName(QStringLiteral("m_invoice_no"));
-    m_amount->setObjectName(QStringLiteral("m_amount"));
-    m_amount_text->setObjectName(QStringLiteral("m_amount_text"));
-    m_pretence->setObjectName(QStringLiteral("m_pretence"));
-    m_notice->setObjectName(QStringLiteral("m_notice"));
-    m_amount->setAlignment(Qt::AlignRight);
-    m_amount_text->setWordWrap(true);
-    m_pretence->setTabChangesFocus(true);
-    m_notice->setTabChangesFocus(true);
-    m_pretence->setMaximumHeight(fontMetrics().height() * 6);
-    m_notice->setMaximumHeight(fontMetrics().height() * 6);
-
-    auto* find = new QPushButton(tr("&Find Partner"), this);
-    find->setObjectName(QStringLiteral("m_find_partner"));
-    find->setToolTip(tr("Partner keresese vagy uj partner letrehozasa"));
-    auto* partnerRow = new QHBoxLayout;
-    partnerRow->addWidget(m_partner_name, 1);
-    partnerRow->addWidget(find);
-
-    auto* amountRow = new QHBoxLayout;
-    amountRow->addWidget(m_amount);
-    amountRow->addWidget(new QLabel(QStringLiteral("Ft"), this));
-
-    auto* form = new QFormLayout;
-    form->addRow(tr("Partner Name"), partnerRow);
-    form->addRow(tr("ZIP"), m_partner_zip);
-    form->addRow(tr("City"), m_partner_city);
-    form->addRow(tr("Street Address"), m_partner_address);
-    form->addRow(tr("Szamlaszam"), m_invoice_no);
-    form->addRow(tr("Osszeg"), amountRow);
-    form->addRow(QString(), m_amount_text);
-    form->addRow(tr("Jogcim (bal oldalon)"), m_pretence);
-    form->addRow(tr("Kozlemeny (jobb oldalon)"), m_notice);
-
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* previewButton =
-        buttons->addButton(tr("Print Preview"), QDialogButtonBox::ActionRole);
-    QPushButton* printButton = buttons->addButton(tr("Print"), QDialogButtonBox::ActionRole);
-    QPushButton* laterButton = buttons->addButton(tr("Later"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QDialogButtonBox::Cancel);
-    laterButton->setObjectName(QStringLiteral("m_later"));
-    printButton->setObjectName(QStringLiteral("m_print"));
-    previewButton->setObjectName(QStringLiteral("m_preview"));
-    laterButton->setDefault(true);
-
-    auto* group = new QWidget(this);
-    group->setLayout(form);
-    auto* column = new QVBoxLayout(this);
-    column->addWidget(new QLabel(
-        QStringLiteral("<b>%1</b>").arg(tr("Csekk letrehozasa/szerkesztese").toHtmlEscaped()),
-        this));
-    column->addWidget(group);
-    column->addWidget(buttons);
-
-    connect(find, &QPushButton::clicked, this, [this] {
-        m_partner_name->setFocus();
-        m_partner_name->search();
+    m_ui->setupUi(this);
+    connect(m_ui->m_find_partner, &QPushButton::clicked, this, [this] {
+        m_ui->m_partner_name->setFocus();
+        m_ui->m_partner_name->search();
     });
-    connect(m_partner_name, &PartnerFinder::picked, this, &ChequeEdit::partnerPicked);
-    connect(m_amount, &QLineEdit::textChanged, this, &ChequeEdit::amountChanged);
-    connect(laterButton, &QPushButton::clicked, this, &ChequeEdit::saveLater);
-    connect(printButton, &QPushButton::clicked, this, &ChequeEdit::print);
-    connect(previewButton, &QPushButton::clicked, this, &ChequeEdit::preview);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
+    connect(m_ui->m_partner_name, &PartnerFinder::picked, this, &ChequeEdit::partnerPicked);
+    connect(m_ui->m_amount, &QLineEdit::textChanged, this, &ChequeEdit::amountChanged);
+    connect(m_ui->m_later, &QPushButton::clicked, this, &ChequeEdit::saveLater);
+    connect(m_ui->m_print, &QPushButton::clicked, this, &ChequeEdit::print);
+    connect(m_ui->m_preview, &QPushButton::clicked, this, &ChequeEdit::preview);
+    connect(m_ui->m_cancel, &QPushButton::clicked, this, &QDialog::reject);
     setValues(Cheque());
-    resize(560, sizeHint().height());
 }
 
 ChequeEdit::~ChequeEdit() = default;
@@ -134,36 +65,37 @@ void ChequeEdit::setValues(const Cheque& cheque)
 {
     m_cheque = cheque;
     setWindowTitle(cheque.id == 0 ? tr("Create Cheque") : tr("Edit Cheque"));
-    m_partner_name->setPicked(cheque.partnerId, cheque.partnerName);
-    m_partner_zip->setText(cheque.partnerZip);
-    m_partner_city->setText(cheque.partnerCity);
-    m_partner_address->setText(cheque.partnerAddress);
-    m_invoice_no->setText(cheque.invoiceNoText);
-    m_amount->setText(cheque.amount == 0.0 && cheque.id == 0
-                          ? QString()
-                          : QString::number(qint64(ChequeStore::wholeForints(cheque.amount))));
-    m_pretence->setPlainText(cheque.pretence);
-    m_notice->setPlainText(cheque.notice);
+    m_ui->m_partner_name->setPicked(cheque.partnerId, cheque.partnerName);
+    m_ui->m_partner_zip->setText(cheque.partnerZip);
+    m_ui->m_partner_city->setText(cheque.partnerCity);
+    m_ui->m_partner_address->setText(cheque.partnerAddress);
+    m_ui->m_invoice_no->setText(cheque.invoiceNoText);
+    m_ui->m_amount->setText(
+        cheque.amount == 0.0 && cheque.id == 0
+            ? QString()
+            : QString::number(qint64(ChequeStore::wholeForints(cheque.amount))));
+    m_ui->m_pretence->setPlainText(cheque.pretence);
+    m_ui->m_notice->setPlainText(cheque.notice);
     amountChanged();
 }
 
 Cheque ChequeEdit::values() const
 {
     Cheque c = m_cheque;
-    c.partnerId = m_partner_name->pickedId();
+    c.partnerId = m_ui->m_partner_name->pickedId();
     if (c.partnerId != m_cheque.partnerId)
         c.partnerCode.clear();
-    c.partnerName = m_partner_name->text().trimmed();
-    c.partnerZip = m_partner_zip->text().trimmed();
-    c.partnerCity = m_partner_city->text().trimmed();
-    c.partnerAddress = m_partner_address->text().trimmed();
-    c.invoiceNoText = m_invoice_no->text().trimmed();
+    c.partnerName = m_ui->m_partner_name->text().trimmed();
+    c.partnerZip = m_ui->m_partner_zip->text().trimmed();
+    c.partnerCity = m_ui->m_partner_city->text().trimmed();
+    c.partnerAddress = m_ui->m_partner_address->text().trimmed();
+    c.invoiceNoText = m_ui->m_invoice_no->text().trimmed();
     if (c.invoiceNoText != m_cheque.invoiceNoText)
         c.invoiceNo.reset(); // typed by hand: no longer the number it was copied from
     double amount = 0.0;
-    c.amount = ChequeStore::parseAmount(m_amount->text(), amount) ? amount : 0.0;
-    c.pretence = m_pretence->toPlainText();
-    c.notice = m_notice->toPlainText();
+    c.amount = ChequeStore::parseAmount(m_ui->m_amount->text(), amount) ? amount : 0.0;
+    c.pretence = m_ui->m_pretence->toPlainText();
+    c.notice = m_ui->m_notice->toPlainText();
     return c;
 }
 
@@ -172,30 +104,30 @@ void ChequeEdit::partnerPicked(qint64 id)
     Order order;
     if (!OrderFill::partner(order, id))
         return;
-    m_partner_zip->setText(order.partnerZip);
-    m_partner_city->setText(order.partnerCity);
-    m_partner_address->setText(order.partnerAddress);
+    m_ui->m_partner_zip->setText(order.partnerZip);
+    m_ui->m_partner_city->setText(order.partnerCity);
+    m_ui->m_partner_address->setText(order.partnerAddress);
 }
 
 void ChequeEdit::amountChanged()
 {
     double amount = 0.0;
-    const bool ok = ChequeStore::parseAmount(m_amount->text(), amount).ok();
-    m_amount_text->setText(ok ? AmountInWords(qint64(amount)) : QString());
+    const bool ok = ChequeStore::parseAmount(m_ui->m_amount->text(), amount).ok();
+    m_ui->m_amount_text->setText(ok ? AmountInWords(qint64(amount)) : QString());
 }
 
 bool ChequeEdit::save()
 {
     Cheque cheque = values();
     double amount = 0.0;
-    if (Result r = ChequeStore::parseAmount(m_amount->text(), amount); !r) {
+    if (Result r = ChequeStore::parseAmount(m_ui->m_amount->text(), amount); !r) {
         interaction().exclamation(r.message());
-        m_amount->setFocus();
+        m_ui->m_amount->setFocus();
         return false;
     }
     if (Result r = ChequeStore::check(cheque); !r) {
         interaction().exclamation(r.message());
-        m_amount->setFocus();
+        m_ui->m_amount->setFocus();
         return false;
     }
     // The same question as for an order's partner; the cheque keeps its own copy anyway.

@@ -10,10 +10,10 @@
 #include <memory>
 
 class Interaction;
-class PartnerFinder;
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
+
+namespace Ui {
+class ChequeEditLayout;
+}
 
 class ChequeEdit : public QDialog
 {
@@ -47,15 +47,7 @@ private:
     void partnerPicked(qint64 id);
     void amountChanged();
 
-    PartnerFinder* m_partner_name;
-    QLineEdit* m_partner_zip;
-    QLineEdit* m_partner_city;
-    QLineEdit* m_partner_address;
-    QLineEdit* m_invoice_no;
-    QLineEdit* m_amount;
-    QLabel* m_amount_text;
-    QPlainTextEdit* m_pretence;
-    QPlainTextEdit* m_notice;
+    std::unique_ptr<Ui::ChequeEditLayout> m_ui;
     Cheque m_cheque;
     bool m_saved = false;
     Interaction* m_interaction = nullptr;
