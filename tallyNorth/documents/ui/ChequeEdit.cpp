@@ -84,7 +84,7 @@ Cheque ChequeEdit::values() const
     Cheque c = m_cheque;
     c.partnerId = m_ui->m_partner_name->pickedId();
     if (c.partnerId != m_cheque.partnerId)
-        c.partnerCode.clear();
+        c.partnerCode = c.partnerId == m_pickedId ? m_pickedCode : QString();
     c.partnerName = m_ui->m_partner_name->text().trimmed();
     c.partnerZip = m_ui->m_partner_zip->text().trimmed();
     c.partnerCity = m_ui->m_partner_city->text().trimmed();
@@ -104,6 +104,8 @@ void ChequeEdit::partnerPicked(qint64 id)
     Order order;
     if (!OrderFill::partner(order, id))
         return;
+    m_pickedId = id;
+    m_pickedCode = order.partnerCode;
     m_ui->m_partner_zip->setText(order.partnerZip);
     m_ui->m_partner_city->setText(order.partnerCity);
     m_ui->m_partner_address->setText(order.partnerAddress);
@@ -145,6 +147,7 @@ bool ChequeEdit::save()
             return false;
         }
         cheque.partnerId = order.partnerId;
+        cheque.partnerCode = order.partnerCode;
     }
     if (Result r = ChequeStore::save(cheque); !r) {
         interaction().error(r.message());

@@ -49,6 +49,9 @@ private:
 
     std::unique_ptr<Ui::ChequeEditLayout> m_ui;
     Cheque m_cheque;
+    // The partner last picked in the finder, whose code the cheque copies.
+    std::optional<qint64> m_pickedId;
+    QString m_pickedCode;
     bool m_saved = false;
     Interaction* m_interaction = nullptr;
     std::unique_ptr<Interaction> m_gui;
