@@ -12,12 +12,17 @@
 #include "documents/ui/ChequeFilter.h"
 #include "documents/ui/ChequeList.h"
 #include "documents/ui/ChequeListModel.h"
+#include "documents/ui/ChequePrinter.h"
 #include "orders/ChequeStore.h"
+#include "orders/ui/OrderList.h"
+#include "orders/ui/OrderPrintHooks.h"
 
 #include <QAbstractItemModelTester>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QTableView>
 #include <QtTest>
 
@@ -241,6 +246,42 @@ private Q_SLOTS:
         QCOMPARE(m_ask.lastMessage(), QString("Csekk adatainak betoltese nem sikerult.&"
                                               "Elkepzelheto, hogy egy masik felhasznalo mar "
                                               "torolte."));
+    }
+
+    void printModeFollowsTheSelection()
+    {
+        ChequePrinter none(false);
+        QCOMPARE(none.mode(), ChequePrintMode::AllUnprinted);
+        QVERIFY(!none.findChild<QRadioButton*>("m_print_selected_only")->isEnabled());
+        ChequePrinter some(true);
+        QCOMPARE(some.mode(), ChequePrintMode::SelectedOnly);
+        some.findChild<QRadioButton*>("m_all")->setChecked(true);
+        QCOMPARE(some.mode(), ChequePrintMode::AllUnprinted);
+    }
+
+    void orderListHandsSelectedInvoicesToTheCheques()
+    {
+        QList<qint64> handed;
+        SetChequePrintHook([&handed](QWidget*, const QList<qint64>& ids) {
+            handed = ids;
+            return Result::failure("refused");
+        });
+        OrderList orders;
+        orders.setInteraction(&m_ask);
+        orders.reload();
+        QAction* action = nullptr;
+        for (QMenu* menu : orders.findChildren<QMenu*>())
+            for (QAction* a : menu->actions())
+                if (a->text() == "Csekk nyomtatasa")
+                    action = a;
+        QVERIFY(action && action->isEnabled());
+        action->trigger();
+        QCOMPARE(m_ask.lastMessage(), QString("Select at least an order to print."));
+        orders.selectId(1);
+        action->trigger();
+        QCOMPARE(handed, QList<qint64>{1});
+        QCOMPARE(m_ask.lastMessage(), QString("refused"));
+        SetChequePrintHook({});
     }
 
 private:
