@@ -2167,7 +2167,7 @@ Payment due:
     </message>
 </context>
 <context>
-    <name>ChequePrinter</name>
+    <name>ChequePrinterLayout</name>
     <message>
         <source>Csak a kivalasztott csekkeket nyomtatja</source>
         <translation>Prints the selected cheques only</translation>

@@ -3675,7 +3675,7 @@ Fiz. határidő:
         </message>
     </context>
     <context>
-        <name>ChequePrinter</name>
+        <name>ChequePrinterLayout</name>
         <message>
             <source>Csak a kivalasztott csekkeket nyomtatja</source>
             <translation>Csak a kiválasztott csekkeket nyomtatja</translation>
@@ -3691,6 +3691,10 @@ Fiz. határidő:
         <message>
             <source>Print</source>
             <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
         </message>
     </context>
     <context>

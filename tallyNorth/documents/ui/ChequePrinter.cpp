@@ -1,16 +1,13 @@
 #include "ChequePrinter.h"
 
 #include "ReportPrinter.h"
+#include "ui_ChequePrinterLayout.h"
 
 #include "documents/Report.h"
 
-#include <QDialogButtonBox>
-#include <QGroupBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QVBoxLayout>
 
 Result ChequePrinterOutput::output(const Report& report, const QString& title)
 {
@@ -28,42 +25,27 @@ Result ChequePrinterOutput::output(const Report& report, const QString& title)
 }
 
 ChequePrinter::ChequePrinter(bool anySelected, QWidget* parent)
-    : QDialog(parent),
-      m_all(new QRadioButton(tr("Minden csekket nyomtat, amik meg nem voltak nyomtatva"), this)),
-      m_print_selected_only(new QRadioButton(tr("Csak a kivalasztott csekkeket nyomtatja"), this))
+    : QDialog(parent), m_ui(std::make_unique<Ui::ChequePrinterLayout>())
 {
-    setObjectName(QStringLiteral("ChequePrinterLayout"));
-    setWindowTitle(tr("Csekknyomtatas modja"));
-    m_all->setObjectName(QStringLiteral("m_all"));
-    m_print_selected_only->setObjectName(QStringLiteral("m_print_selected_only"));
-    m_print_selected_only->setEnabled(anySelected);
+    m_ui->setupUi(this);
+    m_ui->m_print_selected_only->setEnabled(anySelected);
     setMode(anySelected ? ChequePrintMode::SelectedOnly : ChequePrintMode::AllUnprinted);
-
-    auto* group = new QGroupBox(tr("Csekknyomtatas modja"), this);
-    auto* options = new QVBoxLayout(group);
-    options->addWidget(m_all);
-    options->addWidget(m_print_selected_only);
-
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    QPushButton* print = buttons->addButton(tr("Print"), QDialogButtonBox::AcceptRole);
-    print->setDefault(true);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
-    auto* column = new QVBoxLayout(this);
-    column->addWidget(group);
-    column->addWidget(buttons);
+    connect(m_ui->m_print, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_ui->m_cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
+
+ChequePrinter::~ChequePrinter() = default;
 
 ChequePrintMode ChequePrinter::mode() const
 {
-    return m_print_selected_only->isChecked() ? ChequePrintMode::SelectedOnly
-                                              : ChequePrintMode::AllUnprinted;
+    return m_ui->m_print_selected_only->isChecked() ? ChequePrintMode::SelectedOnly
+                                                    : ChequePrintMode::AllUnprinted;
 }
 
 void ChequePrinter::setMode(ChequePrintMode mode)
 {
-    (mode == ChequePrintMode::SelectedOnly ? m_print_selected_only : m_all)->setChecked(true);
+    (mode == ChequePrintMode::SelectedOnly ? m_ui->m_print_selected_only : m_ui->m_all)
+        ->setChecked(true);
 }
 
 Result ChequePrinter::run(const QList<qint64>& selected, Interaction& interaction, QWidget* parent,

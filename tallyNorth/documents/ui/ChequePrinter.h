@@ -8,8 +8,13 @@
 
 #include <QDialog>
 
+#include <memory>
+
 class Interaction;
-class QRadioButton;
+
+namespace Ui {
+class ChequePrinterLayout;
+}
 
 // Pages on a printer the person chooses, or in the print preview. A cancelled printer choice
 // gives a failure with an empty message.
@@ -29,6 +34,7 @@ class ChequePrinter : public QDialog
     Q_OBJECT
 public:
     explicit ChequePrinter(bool anySelected, QWidget* parent = nullptr);
+    ~ChequePrinter() override;
 
     ChequePrintMode mode() const;
     void setMode(ChequePrintMode mode);
@@ -39,6 +45,5 @@ public:
                       int& printed);
 
 private:
-    QRadioButton* m_all;
-    QRadioButton* m_print_selected_only;
+    std::unique_ptr<Ui::ChequePrinterLayout> m_ui;
 };
