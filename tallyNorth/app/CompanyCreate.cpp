@@ -6,6 +6,7 @@
 #include "base/FoldName.h"
 #include "base/MessageArgs.h"
 #include "base/SqlStatement.h"
+#include "documents/ChequeTemplate.h"
 #include "documents/InvoiceTemplate.h"
 
 #include <QCoreApplication>
@@ -68,6 +69,13 @@ Result WriteCompany(const NewCompany& company, const QString& path, Interaction&
     if (!r)
         return r;
     QHash<QString, QVariant> values = TemplateSetupValues(LoadTemplateDir(kShippedTemplateDir));
+    // The shipped cheque template too, so the first cheque prints without a visit to Setup.
+    ChequeTemplate cheque;
+    if (ChequeTemplates::load(kShippedChequeTemplateDir, cheque)) {
+        values.insert(ColumnName(Col::SETUP_CHEQUE_QTF), cheque.qtf);
+        values.insert(ColumnName(Col::SETUP_CHEQUE_CURR_TMPL_DIR),
+                      QString::fromLatin1(kShippedChequeTemplateDir));
+    }
     values.insert(ColumnName(Col::SETUP_NAME), company.name.trimmed());
     values.insert(ColumnName(Col::SETUP_TAX_NO), company.taxNo.trimmed());
     values.insert(ColumnName(Col::SETUP_ZIP), company.zip.trimmed());

@@ -2,6 +2,7 @@
 
 #include "app/CompanyChoice.h"
 #include "base/MessageArgs.h"
+#include "documents/ChequeTemplate.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/QtfReader.h"
 #include "documents/Report.h"
@@ -99,8 +100,38 @@ std::optional<QString> ReadOptionalFile(CliContext& context, const QString& path
     return path.isEmpty() ? std::optional<QString>(QString()) : ReadQtfFile(context, path);
 }
 
+// A set with "invoice.cfg" is an invoice template, one with "cheque.cfg" a cheque template; a
+// folder may hold both. A folder with neither is taken for an invoice set, as it always was.
+bool IsInvoiceSet(const QString& dir)
+{
+    return !ChequeTemplates::isTemplateDir(dir) ||
+           QFileInfo::exists(QDir(dir).filePath(QStringLiteral("invoice.cfg")));
+}
+
+int ChequeTemplateCheck(CliContext& context, const QString& dir)
+{
+    ChequeTemplate t;
+    if (const Result r = ChequeTemplates::load(dir, t); !r) {
+        PrintMessage(context, r.message());
+        return ExitFailure;
+    }
+    const auto line = [&](const char* text, const QString& value) {
+        *context.out << FillArgs(QCoreApplication::translate("DocumentCommands", text), {value})
+                     << Qt::endl;
+    };
+    line(QT_TRANSLATE_NOOP("DocumentCommands", "Computed cheque digest: %s"), t.computeDigest());
+    line(QT_TRANSLATE_NOOP("DocumentCommands", "Digest in cheque.cfg: %s"), t.digest);
+    *context.out << (t.certified()
+                         ? QCoreApplication::translate("DocumentCommands", "Certified: yes")
+                         : QCoreApplication::translate("DocumentCommands", "Certified: no"))
+                 << Qt::endl;
+    return t.certified() ? ExitOk : ExitFailure;
+}
+
 int TemplateCheck(CliContext& context, const QString& dir)
 {
+    if (!IsInvoiceSet(dir))
+        return ChequeTemplateCheck(context, dir);
     const InvoiceTemplate t = LoadTemplateDir(dir);
     const auto line = [&](const char* text, const QString& value) {
         *context.out << FillArgs(QCoreApplication::translate("DocumentCommands", text), {value})
@@ -129,6 +160,20 @@ int TemplateInstall(CliContext& context, const QString& dir)
     // wrong is shown through the interaction.
     if (!OpenCompany(context.dbPath, *context.interaction))
         return ExitFailure;
+    if (ChequeTemplates::isTemplateDir(dir)) {
+        ChequeTemplate cheque;
+        if (const Result r = ChequeTemplates::install(dir, cheque); !r) {
+            PrintMessage(context, r.message());
+            return ExitFailure;
+        }
+        if (!cheque.certified())
+            PrintMessage(context,
+                         QCoreApplication::translate(
+                             "DocumentCommands", "The cheque template is installed, but it is not "
+                                                 "certified."));
+        if (!IsInvoiceSet(dir))
+            return ExitOk;
+    }
     InvoiceTemplate t;
     if (const Result r = InstallTemplate(dir, t); !r) {
         PrintMessage(context, r.message());

@@ -1,5 +1,6 @@
 // The command-line front end: works on a company database without a window.
 #include "AppCommands.h"
+#include "ChequeCommands.h"
 #include "Cli.h"
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
@@ -57,6 +58,8 @@ const CliCommand kCommands[] = {
     {"pay", "pay INVOICE_NO_STR AMOUNT --date YYYY-MM-DD [--record-no X] [--comment C]",
      RunPayCommand},
     {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
+    {"cheques", "cheques [--partner TEXT]", RunChequesCommand},
+    {"cheque", "cheque print [--all-unprinted | ID...] --pdf FILE", RunChequeCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

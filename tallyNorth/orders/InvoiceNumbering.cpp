@@ -1,5 +1,6 @@
 #include "InvoiceNumbering.h"
 
+#include "ChequeStore.h"
 #include "FormatInvoiceNo.h"
 #include "OrderCalc.h"
 
@@ -85,7 +86,8 @@ Result InvoiceNumbering::issue(qint64 orderId, const QDate& today, const Render&
     if (!IsNullValue(order.value(0)))
         return OrderChanged();
     const QVariant cancelledNo = order.value(1);
-    const PaidState paid = paidAtIssue(order.value(3), cancelledNo, ToNumber(order.value(2)));
+    const double totalGross = ToNumber(order.value(2));
+    const PaidState paid = paidAtIssue(order.value(3), cancelledNo, totalGross);
     order.query().finish();
 
     // The document shows the printing date; it is written before rendering, in the same
@@ -143,6 +145,17 @@ Result InvoiceNumbering::issue(qint64 orderId, const QDate& today, const Render&
             return DatabaseFailure(mark);
         if (mark.numRowsAffected() != 1)
             return Result::failure(tr("Cancelled invoice can not be cancelled."));
+    }
+
+    // The cheque goes with the invoice, so it is made in the same transaction. A cancelling
+    // invoice (negative) or a zero total has nothing to collect.
+    bool chequeWanted = false;
+    if (Result r = ChequeStore::chequeFlag(orderId, chequeWanted); !r)
+        return r;
+    if (chequeWanted && IsNullValue(cancelledNo) && totalGross > 0) {
+        qint64 chequeId = 0;
+        if (Result r = ChequeStore::createForInvoice(orderId, today, chequeId); !r)
+            return r;
     }
 
     if (!transaction.commit())

@@ -2043,4 +2043,184 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ChequeStore</name>
+    <message>
+        <source>%d db csekk torlese.&amp;Biztosan torolni szeretne a kijelolt csekkeket?</source>
+        <translation>Deleting %d cheques.&amp;Do you really want to delete the selected cheques?</translation>
+    </message>
+    <message>
+        <source>%d kijelolt csekk nem torolheto,&amp;mert mar korabban ki lettek nyomtatva.</source>
+        <translation>%d selected cheques can not be deleted,&amp;because they have already been printed.</translation>
+    </message>
+    <message>
+        <source>A csekk osszege nem lehet negativ.</source>
+        <translation>The amount of a cheque can not be negative.</translation>
+    </message>
+    <message>
+        <source>A csekk osszege tul nagy.</source>
+        <translation>The amount of the cheque is too large.</translation>
+    </message>
+    <message>
+        <source>Az osszeget meg kell adnia.</source>
+        <translation>You must give the amount.</translation>
+    </message>
+    <message>
+        <source>Biztosan torolni szeretne a kivalasztott csekket?</source>
+        <translation>Do you really want to delete the selected cheque?</translation>
+    </message>
+    <message>
+        <source>Csekk adatainak betoltese nem sikerult.&amp;Elkepzelheto, hogy egy masik felhasznalo mar torolte.</source>
+        <translation>Unable to load the cheque's data.&amp;Maybe it is deleted by an other user.</translation>
+    </message>
+    <message>
+        <source>Csekk csak kiallitott szamlahoz nyomtathato.</source>
+        <translation>A cheque can be printed for an issued invoice only.</translation>
+    </message>
+    <message>
+        <source>Csekk mentese nem sikerult.</source>
+        <translation>Unable to save the cheque.</translation>
+    </message>
+    <message>
+        <source>Hiba: Csekkek lekerdezese nem sikerult&amp;%s</source>
+        <translation>Error: unable to query the cheques&amp;%s</translation>
+    </message>
+    <message>
+        <source>Kelt: %1:s
+Fiz. hatarido: %2:s
+%3:s</source>
+        <translation>Dated: %1:s
+Payment due: %2:s
+%3:s</translation>
+    </message>
+    <message>
+        <source>Kelt:
+%1:s
+Fiz. hatarido:
+%2:s
+%3:s</source>
+        <translation>Dated:
+%1:s
+Payment due:
+%2:s
+%3:s</translation>
+    </message>
+</context>
+<context>
+    <name>ChequePrinting</name>
+    <message>
+        <source>Csekk-nyomtatas kiprobalasa</source>
+        <translation>Cheque printing test</translation>
+    </message>
+    <message>
+        <source>Csekk: %s, %d Ft</source>
+        <translation>Cheque: %s, %d Ft</translation>
+    </message>
+    <message>
+        <source>Csekkek nyomtatasa - Vantrell Szamlazo</source>
+        <translation>Printing cheques - Vantrell Invoicer</translation>
+    </message>
+    <message>
+        <source>Csekkek nyomtatasa</source>
+        <translation>Printing cheques</translation>
+    </message>
+    <message>
+        <source>Nem sikerult a csekk adatainak betoltese az adatbazisbol.</source>
+        <translation>Unable to load the cheque's data from the database.</translation>
+    </message>
+    <message>
+        <source>Nincsenek nyomtatando csekkek</source>
+        <translation>There are no cheques to print</translation>
+    </message>
+    <message>
+        <source>Nyomtatas nem sikerult.</source>
+        <translation>Printing failed.</translation>
+    </message>
+</context>
+<context>
+    <name>ChequeCommands</name>
+    <message>
+        <source>Nyomtatas napja</source>
+        <translation>Print date</translation>
+    </message>
+    <message>
+        <source>Osszeg</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Szamlaszam</source>
+        <translation>Invoice No</translation>
+    </message>
+</context>
+<context>
+    <name>ChequeEdit</name>
+</context>
+<context>
+    <name>ChequeList</name>
+    <message>
+        <source>Csekkek nyomtatasa</source>
+        <translation>Print cheques</translation>
+    </message>
+    <message>
+        <source>Valassza ki a torlendo csekket!</source>
+        <translation>Select the cheque to delete!</translation>
+    </message>
+</context>
+<context>
+    <name>ChequePrinterLayout</name>
+    <message>
+        <source>Csak a kivalasztott csekkeket nyomtatja</source>
+        <translation>Prints the selected cheques only</translation>
+    </message>
+    <message>
+        <source>Csekknyomtatas modja</source>
+        <translation>Cheque printing mode</translation>
+    </message>
+    <message>
+        <source>Minden csekket nyomtat, amik meg nem voltak nyomtatva</source>
+        <translation>Prints every cheque not printed yet</translation>
+    </message>
+</context>
+<context>
+    <name>ChequeListModel</name>
+    <message>
+        <source>Szamlaszam</source>
+        <translation>Invoice No</translation>
+    </message>
+    <message>
+        <source>Osszeg</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Nyomtatas napja</source>
+        <translation>Print date</translation>
+    </message>
+</context>
+<context>
+    <name>ChequeEditLayout</name>
+    <message>
+        <source>Szamlaszam</source>
+        <translation>Invoice No</translation>
+    </message>
+    <message>
+        <source>Osszeg</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>Jogcim (bal oldalon)</source>
+        <translation>Pretence (left side)</translation>
+    </message>
+    <message>
+        <source>Kozlemeny (jobb oldalon)</source>
+        <translation>Notice (right side)</translation>
+    </message>
+    <message>
+        <source>Partner keresese vagy uj partner letrehozasa</source>
+        <translation>Find a partner or create a new one</translation>
+    </message>
+    <message>
+        <source>Csekk letrehozasa/szerkesztese</source>
+        <translation>Create/edit cheque</translation>
+    </message>
+</context>
 </TS>

@@ -832,6 +832,18 @@
             <source>Warning: %s</source>
             <translation>Figyelmeztetés: %s</translation>
         </message>
+        <message>
+            <source>Computed cheque digest: %s</source>
+            <translation>Számított csekkivonat: %s</translation>
+        </message>
+        <message>
+            <source>Digest in cheque.cfg: %s</source>
+            <translation>Kivonat a cheque.cfg fájlban: %s</translation>
+        </message>
+        <message>
+            <source>The cheque template is installed, but it is not certified.</source>
+            <translation>A csekksablon telepítve, de nem hitelesített.</translation>
+        </message>
     </context>
     <context>
         <name>FileCommands</name>
@@ -2435,6 +2447,10 @@ Folytatja?</translation>
             <source>Sort By Create Order</source>
             <translation>Rendezés létrehozási sorrendben</translation>
         </message>
+        <message>
+            <source>Printing is not available.</source>
+            <translation>A nyomtatás nem érhető el.</translation>
+        </message>
     </context>
     <context>
         <name>OrderListModel</name>
@@ -3435,6 +3451,336 @@ Folytatja?</translation>
         <message>
             <source>Percent field must have a value.</source>
             <translation>A százalék mezőt ki kell tölteni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeStore</name>
+        <message>
+            <source>%d db csekk torlese.&amp;Biztosan torolni szeretne a kijelolt csekkeket?</source>
+            <translation>%d db csekk törlése.&amp;Biztosan törölni szeretné a kijelölt csekkeket?</translation>
+        </message>
+        <message>
+            <source>%d kijelolt csekk nem torolheto,&amp;mert mar korabban ki lettek nyomtatva.</source>
+            <translation>%d kijelölt csekk nem törölhető,&amp;mert már korábban ki lettek nyomtatva.</translation>
+        </message>
+        <message>
+            <source>A csekk osszege nem lehet negativ.</source>
+            <translation>A csekk összege nem lehet negatív.</translation>
+        </message>
+        <message>
+            <source>A csekk osszege tul nagy.</source>
+            <translation>A csekk összege túl nagy.</translation>
+        </message>
+        <message>
+            <source>Az osszeget meg kell adnia.</source>
+            <translation>Az összeget meg kell adnia.</translation>
+        </message>
+        <message>
+            <source>Biztosan torolni szeretne a kivalasztott csekket?</source>
+            <translation>Biztosan törölni szeretné a kiválasztott csekket?</translation>
+        </message>
+        <message>
+            <source>Csekk adatainak betoltese nem sikerult.&amp;Elkepzelheto, hogy egy masik felhasznalo mar torolte.</source>
+            <translation>A csekk adatainak betöltése nem sikerült.&amp;Elképzelhető, hogy egy másik felhasználó már törölte.</translation>
+        </message>
+        <message>
+            <source>Csekk csak kiallitott szamlahoz nyomtathato.</source>
+            <translation>Csekk csak kiállított számlához nyomtatható.</translation>
+        </message>
+        <message>
+            <source>Csekk mentese nem sikerult.</source>
+            <translation>A csekk mentése nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Hiba: Csekkek lekerdezese nem sikerult&amp;%s</source>
+            <translation>Hiba: a csekkek lekérdezése nem sikerült&amp;%s</translation>
+        </message>
+        <message>
+            <source>Kelt: %1:s
+Fiz. hatarido: %2:s
+%3:s</source>
+            <translation>Kelt: %1:s
+Fiz. határidő: %2:s
+%3:s</translation>
+        </message>
+        <message>
+            <source>Kelt:
+%1:s
+Fiz. hatarido:
+%2:s
+%3:s</source>
+            <translation>Kelt:
+%1:s
+Fiz. határidő:
+%2:s
+%3:s</translation>
+        </message>
+        <message>
+            <source>There are more matching cheques then displayed. Try more specific filter.</source>
+            <translation>Több csekk felel meg a szűrésnek, mint amennyi megjelenik. Adjon meg pontosabb szűrést.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>"%s" is not an amount. Type digits, with a decimal comma or point.</source>
+            <translation>„%s” nem összeg. Számjegyeket írjon, tizedesvesszővel vagy -ponttal.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequePrinting</name>
+        <message>
+            <source>Csekk-nyomtatas kiprobalasa</source>
+            <translation>Csekknyomtatás kipróbálása</translation>
+        </message>
+        <message>
+            <source>Csekk: %s, %d Ft</source>
+            <translation>Csekk: %s, %d Ft</translation>
+        </message>
+        <message>
+            <source>Csekkek nyomtatasa - Vantrell Szamlazo</source>
+            <translation>Csekkek nyomtatása - Vantrell Számlázó</translation>
+        </message>
+        <message>
+            <source>Csekkek nyomtatasa</source>
+            <translation>Csekkek nyomtatása</translation>
+        </message>
+        <message>
+            <source>Nem sikerult a csekk adatainak betoltese az adatbazisbol.</source>
+            <translation>Nem sikerült a csekk adatainak betöltése az adatbázisból.</translation>
+        </message>
+        <message>
+            <source>Nincsenek nyomtatando csekkek</source>
+            <translation>Nincsenek nyomtatandó csekkek</translation>
+        </message>
+        <message>
+            <source>Nyomtatas nem sikerult.</source>
+            <translation>A nyomtatás nem sikerült.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeTemplates</name>
+        <message>
+            <source>Select a cheque template in Setup.</source>
+            <translation>Válasszon csekksablont a Beállításokban.</translation>
+        </message>
+        <message>
+            <source>The cheque template %s is missing from %s.</source>
+            <translation>A(z) %s csekksablon hiányzik innen: %s.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeCommands</name>
+        <message>
+            <source>Cheques printed: %d</source>
+            <translation>Kinyomtatott csekkek: %d</translation>
+        </message>
+        <message>
+            <source>Not a cheque ID: %s</source>
+            <translation>Nem csekkazonosító: %s</translation>
+        </message>
+        <message>
+            <source>Nyomtatas napja</source>
+            <translation>Nyomtatás napja</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeEdit</name>
+        <message>
+            <source>Create Cheque</source>
+            <translation>Csekk létrehozása</translation>
+        </message>
+        <message>
+            <source>Edit Cheque</source>
+            <translation>Csekk szerkesztése</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeFilter</name>
+        <message>
+            <source>Filter by partner</source>
+            <translation>Szűrés partnerre</translation>
+        </message>
+        <message>
+            <source>Filter</source>
+            <translation>Szűrés</translation>
+        </message>
+        <message>
+            <source>You can search by the start of partner's name</source>
+            <translation>A partner nevének elejére kereshet</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeList</name>
+        <message>
+            <source>Csekkek nyomtatasa</source>
+            <translation>Csekkek nyomtatása</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Törlés</translation>
+        </message>
+        <message>
+            <source>Delete	Delete</source>
+            <translation>Törlés	Delete</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Filter list of cheques</source>
+            <translation>A csekkek listájának szűrése</translation>
+        </message>
+        <message>
+            <source>Filter</source>
+            <translation>Szűrés</translation>
+        </message>
+        <message>
+            <source>Insert</source>
+            <translation>Új</translation>
+        </message>
+        <message>
+            <source>Refresh list of cheques</source>
+            <translation>A csekkek listájának frissítése</translation>
+        </message>
+        <message>
+            <source>Refresh</source>
+            <translation>Frissítés</translation>
+        </message>
+        <message>
+            <source>Valassza ki a torlendo csekket!</source>
+            <translation>Válassza ki a törlendő csekket!</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequePrinterLayout</name>
+        <message>
+            <source>Csak a kivalasztott csekkeket nyomtatja</source>
+            <translation>Csak a kiválasztott csekkeket nyomtatja</translation>
+        </message>
+        <message>
+            <source>Csekknyomtatas modja</source>
+            <translation>Csekknyomtatás módja</translation>
+        </message>
+        <message>
+            <source>Minden csekket nyomtat, amik meg nem voltak nyomtatva</source>
+            <translation>Minden csekket nyomtat, amely még nem volt nyomtatva</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeListModel</name>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Nyomtatas napja</source>
+            <translation>Nyomtatás napja</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeEditLayout</name>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>ZIP</source>
+            <translation>Irányítószám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Település</translation>
+        </message>
+        <message>
+            <source>Street Address</source>
+            <translation>Utca, házszám</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Jogcim (bal oldalon)</source>
+            <translation>Jogcím (bal oldalon)</translation>
+        </message>
+        <message>
+            <source>Kozlemeny (jobb oldalon)</source>
+            <translation>Közlemény (jobb oldalon)</translation>
+        </message>
+        <message>
+            <source>Partner keresese vagy uj partner letrehozasa</source>
+            <translation>Partner keresése vagy új partner létrehozása</translation>
+        </message>
+        <message>
+            <source>&amp;Find Partner</source>
+            <translation>&amp;Partner keresése</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Later</source>
+            <translation>Később</translation>
+        </message>
+        <message>
+            <source>Csekk letrehozasa/szerkesztese</source>
+            <translation>Csekk létrehozása/szerkesztése</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
         </message>
     </context>
 </TS>

@@ -7,6 +7,7 @@
 #include "base/ui/GuiInteraction.h"
 #include "documents/LabelTranslations.h"
 #include "documents/MessageText.h"
+#include "documents/ui/ChequeCommands.h"
 #include "documents/ui/InvoicePrinting.h"
 #include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "documents/ui/OrderListPrinting.h"
@@ -32,6 +33,7 @@ void RegisterCommands(MainWindow& window)
     RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);
     RegisterOrderList(window);
+    RegisterChequeList(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()

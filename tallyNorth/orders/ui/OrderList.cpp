@@ -58,10 +58,9 @@ OrderList::OrderList(QWidget* parent)
     auto* previewButton = new QPushButton(tr("Print Preview"), this);
     auto* printButton = new QPushButton(tr("Print"), this);
 
-    // Cheques come with their own list; until then their entry stays disabled.
     m_more->addAction(tr("Add bank item"), this, &OrderList::addBankItem);
     m_more->addAction(tr("Sztorno"), this, &OrderList::cancelInvoice);
-    m_more->addAction(tr("Csekk nyomtatasa"))->setEnabled(false);
+    m_more->addAction(tr("Csekk nyomtatasa"), this, &OrderList::printCheques);
     QAction* clone = m_more->addAction(tr("Clone Order"), this, &OrderList::cloneOrder);
     clone->setToolTip(tr("Create and edit a copy of selected order"));
     clone->setStatusTip(clone->toolTip());
@@ -282,6 +281,22 @@ void OrderList::addBankItem()
         reload();
         selectId(ids.first());
     }
+}
+
+void OrderList::printCheques()
+{
+    const QList<qint64> ids = selectedIds();
+    if (ids.isEmpty()) {
+        interaction().exclamation(tr("Select at least an order to print."));
+        return;
+    }
+    const ChequePrintHook& hook = CurrentChequePrintHook();
+    if (!hook) {
+        interaction().exclamation(tr("Printing is not available."));
+        return;
+    }
+    if (const Result r = hook(this, ids); !r && !r.message().isEmpty())
+        interaction().error(r.message());
 }
 
 void OrderList::printOrders()

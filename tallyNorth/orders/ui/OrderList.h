@@ -42,6 +42,8 @@ public:
     void cloneOrder();
     void cancelInvoice();
     void addBankItem();
+    // The cheques of the selected invoices, made for them when they have none yet.
+    void printCheques();
     void printOrders();
     void previewOrder();
     void sortByCreation();

@@ -17,3 +17,21 @@ const OrderPrintHooks& CurrentOrderPrintHooks()
 {
     return Hooks();
 }
+
+namespace {
+ChequePrintHook& ChequeHook()
+{
+    static ChequePrintHook hook;
+    return hook;
+}
+} // namespace
+
+void SetChequePrintHook(ChequePrintHook hook)
+{
+    ChequeHook() = std::move(hook);
+}
+
+const ChequePrintHook& CurrentChequePrintHook()
+{
+    return ChequeHook();
+}

@@ -21,3 +21,8 @@ struct OrderPrintHooks
 
 void SetOrderPrintHooks(OrderPrintHooks hooks);
 const OrderPrintHooks& CurrentOrderPrintHooks();
+
+// Prints the cheques of the selected invoices; installed by the cheque windows.
+using ChequePrintHook = std::function<Result(QWidget* parent, const QList<qint64>& orderIds)>;
+void SetChequePrintHook(ChequePrintHook hook);
+const ChequePrintHook& CurrentChequePrintHook();

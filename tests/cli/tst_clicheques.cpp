@@ -1,0 +1,143 @@
+// tallynorth-cli driven as a script drives it on a new company: an invoice paid by cheque gets
+// its cheque at issue, printing all unprinted ones prints it once on a slip-sized page, the
+// cheque template set is told from an invoice set, and bad usage or a missing template is
+// refused without printing anything.
+#include "TestData.h"
+
+#include "base/Database.h"
+#include "base/SqlStatement.h"
+
+#include <QtTest>
+
+class TestCliCheques : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(m_base.emplace().isValid());
+        QCOMPARE(cli({"create", "Minta Kft", "--tax-no", "12345678-2-42", "--file", "minta.db"})
+                     .exitCode,
+                 0);
+        QCOMPARE(stored("insert into PAYMENTMETHOD (PAYMENTMETHOD_CODE, PAYMENTMETHOD_PAID, "
+                        "PAYMENTMETHOD_CHEQUE, PAYMENTMETHOD_DUE_DAYS, PAYMENTMETHOD_NAME) "
+                        "values ('CS', '0', '1', 8, 'Csekk')"),
+                 QString());
+    }
+
+    void issuedInvoiceChequePrintsOnce()
+    {
+        ProcessRun run = cli({"order", "add", "--partner", "1", "--item", "1:3:1234.4", "--payment",
+                              "3", "--verified"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(cli({"issue", run.out.trimmed()}).exitCode, 0);
+
+        run = cli({"cheques", "--partner", "teszt"});
+        QCOMPARE(run.exitCode, 0);
+        // 3 x 1234.4 x 1.27 = 4703.064 forints: 4703 on the cheque.
+        QVERIFY2(run.out.contains("\t000001\tTeszt Partner Kft\t4703\t\n"), qPrintable(run.out));
+        QCOMPARE(cli({"cheques", "--partner", "nobody"}).out.count('\n'), 1);
+
+        run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("all.pdf")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out.trimmed(), QString("Cheques printed: 1"));
+        const ProcessRun info = RunProcess("pdfinfo", {file("all.pdf")});
+        if (info.exitCode == 0)
+            QVERIFY2(info.out.contains("567 x 255 pts"), qPrintable(info.out));
+
+        run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("again.pdf")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.endsWith("There are no cheques to print\n"), qPrintable(run.err));
+        QVERIFY(!QFile::exists(file("again.pdf")));
+        QVERIFY(cli({"cheques"}).out.contains(QDate::currentDate().toString(Qt::ISODate)));
+    }
+
+    void refusals_data()
+    {
+        AddColumns<QStringList, int, QString>({"args", "exit", "message"});
+        AddRow("neither all nor ids", QStringList{"cheque", "print", "--pdf", "x.pdf"}, 2,
+               QString());
+        AddRow("both", QStringList{"cheque", "print", "--all-unprinted", "1", "--pdf", "x.pdf"}, 2,
+               QString());
+        AddRow("no pdf", QStringList{"cheque", "print", "1"}, 2, QString());
+        AddRow("not an id", QStringList{"cheque", "print", "x1", "--pdf", "x.pdf"}, 2,
+               QString("Not a cheque ID: x1"));
+        AddRow("unknown id", QStringList{"cheque", "print", "99", "--pdf", "x.pdf"}, 1,
+               QString("Unable to load the cheque's data from the database."));
+        AddRow("unknown verb", QStringList{"cheque", "delete", "1"}, 2, QString());
+    }
+    void refusals()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(int, exit);
+        QFETCH(QString, message);
+        const ProcessRun run = cli(args);
+        QCOMPARE(run.exitCode, exit);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QVERIFY(!QFile::exists(file("x.pdf")));
+    }
+
+    void missingTemplateRefused()
+    {
+        QCOMPARE(stored("insert into CHEQUE (CHEQUE_PARTNER_NAME, CHEQUE_AMOUNT, CHEQUE_PRINTED) "
+                        "values ('Payer', 100, '0')"),
+                 QString());
+        QCOMPARE(stored("update SETUP set SETUP_CHEQUE_QTF = NULL"), QString());
+        const ProcessRun run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("x.pdf")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("Select a cheque template in Setup."), qPrintable(run.err));
+        QCOMPARE(stored("select CHEQUE_PRINTED from CHEQUE"), QString("0"));
+    }
+
+    void chequeTemplateSetInstalled()
+    {
+        QCOMPARE(cli({"template", "check", TN_CHEQUE_TEMPLATE_DIR}).exitCode, 0);
+        // A changed copy: installed as a cheque template, reported as not certified.
+        const QString copy = file("mycheque");
+        QVERIFY(QDir().mkpath(copy));
+        QVERIFY(QFile::copy(TN_CHEQUE_TEMPLATE_DIR "/cheque.cfg", copy + "/cheque.cfg"));
+        QVERIFY(WriteFile(copy + "/cheque.qtf", "[* !NAME!] it's \"mine\"&!AMOUNT!"));
+        ProcessRun run = cli({"template", "check", copy});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.out.contains("Certified: no"));
+        run = cli({"--db", db(), "template", "install", copy});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.err.contains("The cheque template is installed, but it is not certified."),
+                 qPrintable(run.err));
+        QCOMPARE(stored("select SETUP_CHEQUE_QTF from SETUP"),
+                 QString("[* !NAME!] it's \"mine\"&!AMOUNT!"));
+        // The invoice template was left alone.
+        QVERIFY(!stored("select SETUP_INVOICE_DIGEST from SETUP").isEmpty());
+
+        QVERIFY(QFile::remove(copy + "/cheque.qtf"));
+        run = cli({"--db", db(), "template", "install", copy});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("The cheque template cheque.qtf is missing from"),
+                 qPrintable(run.err));
+    }
+
+private:
+    ProcessRun cli(const QStringList& args) const
+    {
+        QStringList all{"--base", m_base->path(), "--lang", "en"};
+        if (args.first() != "create" && !args.contains("--db"))
+            all << "--db" << db();
+        return RunProcess(TN_CLI, all + args, m_runtime.path());
+    }
+    QString stored(const QString& sql) const
+    {
+        if (!Database::open(db()))
+            return "<no database>";
+        const QString text = QueryText(sql);
+        Database::close();
+        return text;
+    }
+    QString file(const QString& name) const { return m_base->path() + "/" + name; }
+    QString db() const { return m_base->path() + "/DB/minta.db"; }
+
+    std::optional<QTemporaryDir> m_base;
+    QTemporaryDir m_runtime;
+};
+
+QTEST_GUILESS_MAIN(TestCliCheques)
+#include "tst_clicheques.moc"

@@ -1,0 +1,350 @@
+// Postal cheques against real company databases: the deletion rule for printed ones, printing
+// all unprinted ones only once, the slip-sized PDF page and its offsets, whole forints, a
+// missing template, and the cheque an invoice gets at issue inside the issuing transaction.
+#include "ScriptedInteraction.h"
+#include "TestCompany.h"
+#include "TestData.h"
+
+#include "base/Setup.h"
+#include "base/SqlStatement.h"
+#include "documents/AmountInWords.h"
+#include "documents/ChequePrinting.h"
+#include "documents/ChequeTemplate.h"
+#include "documents/InvoiceIssue.h"
+#include "orders/ChequeStore.h"
+#include "orders/InvoiceNumbering.h"
+#include "orders/OrderFill.h"
+#include "orders/OrderStore.h"
+
+#include <QImage>
+#include <QRegularExpression>
+#include <QtTest>
+
+namespace {
+
+const QDate kToday(2024, 3, 5);
+
+qint64 NewCheque(const QString& name, double amount, bool printed = false)
+{
+    Cheque c;
+    c.partnerName = name;
+    c.partnerZip = QStringLiteral("1011");
+    c.partnerCity = QStringLiteral("Budapest");
+    c.partnerAddress = QStringLiteral("Fő utca 1.");
+    c.amount = amount;
+    c.notice = QStringLiteral("Kelt: 2024.03.05.\nINV-1");
+    if (!ChequeStore::save(c))
+        qFatal("cheque not saved");
+    if (printed && !ChequeStore::markPrinted({c.id}, kToday))
+        qFatal("cheque not marked");
+    return c.id;
+}
+
+// A saved order of the basic-data partner, qty x 1000 Ft at 27%, paid by method.
+qint64 NewOrder(qint64 method)
+{
+    Order order;
+    if (!OrderFill::newOrder(order, kToday) || !OrderFill::partner(order, 1) ||
+        !OrderFill::paymentMethod(order, method))
+        qFatal("no order");
+    OrderItem item;
+    if (!OrderFill::product(item, order, 1))
+        qFatal("no product");
+    item.qty = 3;
+    item.dateShipped = kToday;
+    OrderFill::recalcItem(item, order);
+    order.items << item;
+    if (!OrderStore::save(order))
+        qFatal("not saved");
+    return order.id;
+}
+
+Result Issue(qint64 orderId)
+{
+    IssuedInvoice issued;
+    return InvoiceNumbering::issue(
+        orderId, kToday,
+        [](qint64, FrozenInvoice& invoice) {
+            invoice.body = QStringLiteral("body");
+            return Result::success();
+        },
+        issued);
+}
+
+// The pixel box of the ink on the first page, rendered at 50 dpi.
+QRect InkBox(const QString& pdf)
+{
+    const QString stem = QFileInfo(pdf).absolutePath() + QStringLiteral("/ink");
+    const ProcessRun run =
+        RunProcess(QStringLiteral("pdftoppm"), {"-r", "50", "-png", "-singlefile", pdf, stem});
+    if (run.exitCode != 0)
+        return {};
+    const QImage image(stem + QStringLiteral(".png"));
+    QRect box;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < 128)
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+} // namespace
+
+class TestCheques : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(m_company.emplace().isValid());
+        QVERIFY(Setup::current().load());
+        ChequeTemplate installed;
+        QVERIFY(ChequeTemplates::install(kShippedChequeTemplateDir, installed));
+        QVERIFY(installed.certified());
+    }
+    void cleanup() { m_company.reset(); }
+
+    void printedChequesAreNeverDeleted()
+    {
+        QList<qint64> ids;
+        for (int i = 0; i < 5; ++i)
+            ids << NewCheque(QStringLiteral("Payer %1").arg(i), 1000 + i, i == 1 || i == 3);
+        ChequeStore::Removal removal;
+        QVERIFY(ChequeStore::remove(ids, removal));
+        QCOMPARE(removal.deleted, 3);
+        QCOMPARE(removal.refused, 2);
+        QCOMPARE(QueryText("select CHEQUE_ID from CHEQUE order by 1"),
+                 QString("%1; %2").arg(ids[1]).arg(ids[3]));
+        QCOMPARE(ChequeStore::refusedMessage(removal.refused),
+                 QString("2 kijelolt csekk nem torolheto,&mert mar korabban ki lettek "
+                         "nyomtatva."));
+        // A cheque gone meanwhile is neither deleted nor refused.
+        QVERIFY(ChequeStore::remove({ids[0]}, removal));
+        QCOMPARE(removal.deleted + removal.refused, 0);
+    }
+
+    void allUnprintedPrintOnce()
+    {
+        NewCheque(QStringLiteral("A"), 100);
+        NewCheque(QStringLiteral("B"), 200, true);
+        NewCheque(QStringLiteral("C"), 300);
+        ScriptedInteraction interaction;
+        PdfInvoiceOutput output(m_company->dir() + "/first.pdf");
+        int printed = -1;
+        QVERIFY(ChequePrinting::print(ChequePrintMode::AllUnprinted, {}, output, interaction,
+                                      kToday, printed));
+        QCOMPARE(printed, 2);
+        QCOMPARE(QueryText("select count(*) from CHEQUE where CHEQUE_PRINTED = '1' and "
+                           "CHEQUE_DATE_PRINTED = '2024-03-05'"),
+                 QString("3"));
+        QVERIFY(interaction.progressTexts.contains("Csekkek nyomtatasa - Vantrell Szamlazo"));
+
+        PdfInvoiceOutput second(m_company->dir() + "/second.pdf");
+        const Result r = ChequePrinting::print(ChequePrintMode::AllUnprinted, {}, second,
+                                               interaction, kToday, printed);
+        QVERIFY(!r);
+        QCOMPARE(r.message(), QString("Nincsenek nyomtatando csekkek"));
+        QCOMPARE(printed, 0);
+        QVERIFY(!QFile::exists(m_company->dir() + "/second.pdf"));
+    }
+
+    void selectedOnlyPrintsThoseAgain()
+    {
+        const qint64 printed = NewCheque(QStringLiteral("A"), 100, true);
+        NewCheque(QStringLiteral("B"), 200);
+        ScriptedInteraction interaction;
+        PdfInvoiceOutput output(m_company->dir() + "/again.pdf");
+        int count = 0;
+        QVERIFY(ChequePrinting::print(ChequePrintMode::SelectedOnly, {printed}, output, interaction,
+                                      kToday.addDays(1), count));
+        QCOMPARE(count, 1);
+        QCOMPARE(QueryText("select CHEQUE_PRINTED || ' ' || coalesce(CHEQUE_DATE_PRINTED, '-') "
+                           "from CHEQUE order by CHEQUE_ID"),
+                 QString("1 2024-03-06; 0 -"));
+    }
+
+    void pageIsTheSlipAndOffsetsShiftIt()
+    {
+        if (QStandardPaths::findExecutable("pdftoppm").isEmpty())
+            QSKIP("poppler-utils not installed");
+        const qint64 id = NewCheque(QStringLiteral("Payer"), 12345);
+        const auto print = [&](double left, double top, const QString& name) {
+            QVERIFY(Setup::write(
+                {{"SETUP_CHEQUE_MARGIN_LEFT_MM", left}, {"SETUP_CHEQUE_MARGIN_TOP_MM", top}}));
+            ScriptedInteraction interaction;
+            PdfInvoiceOutput output(m_company->dir() + "/" + name);
+            int count = 0;
+            QVERIFY(ChequePrinting::print(ChequePrintMode::SelectedOnly, {id}, output, interaction,
+                                          kToday, count));
+        };
+        print(0, 0, "plain.pdf");
+        print(10, 5, "shifted.pdf");
+        // 200 mm x 90 mm: 4724 x 2125 dots of 1/600 inch are 566.88 x 255 points.
+        const QByteArray pdf = FileBytes(m_company->dir() + "/plain.pdf");
+        const QRegularExpression mediaBox(
+            QStringLiteral(R"(/MediaBox\s*\[\s*0\s+0\s+([0-9.]+)\s+([0-9.]+)\s*\])"));
+        const QRegularExpressionMatch m = mediaBox.match(QString::fromLatin1(pdf));
+        QVERIFY(m.hasMatch());
+        // The writer keeps whole points.
+        QVERIFY2(qAbs(m.captured(1).toDouble() - 566.88) <= 0.5, qPrintable(m.captured(1)));
+        QVERIFY2(qAbs(m.captured(2).toDouble() - 255.0) <= 0.5, qPrintable(m.captured(2)));
+
+        const QRect plain = InkBox(m_company->dir() + "/plain.pdf");
+        const QRect shifted = InkBox(m_company->dir() + "/shifted.pdf");
+        QVERIFY(!plain.isEmpty());
+        // 10 mm and 5 mm at 50 dpi are 19.7 and 9.8 pixels.
+        QVERIFY2(qAbs(shifted.left() - plain.left() - 19.7) <= 1.5,
+                 qPrintable(QString("%1 -> %2").arg(plain.left()).arg(shifted.left())));
+        QVERIFY2(qAbs(shifted.top() - plain.top() - 9.8) <= 1.5,
+                 qPrintable(QString("%1 -> %2").arg(plain.top()).arg(shifted.top())));
+    }
+
+    void testChequeUsesTheGivenTemplate()
+    {
+        // The setup window tries a template and offsets before they are saved.
+        PdfInvoiceOutput output(m_company->dir() + "/test.pdf");
+        QCOMPARE(ChequePrinting::printTest(QString(), {}, output).message(),
+                 QString("Select a cheque template in Setup."));
+        QVERIFY(ChequePrinting::printTest("[* !NAME!]&!NOTICE!", {5, 5}, output));
+        QVERIFY(FileBytes(m_company->dir() + "/test.pdf").startsWith("%PDF"));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("0"));
+    }
+
+    void filledTemplateCarriesTheValues()
+    {
+        Cheque c = ChequePrinting::sampleCheque();
+        c.partnerName = QStringLiteral("Kovács & [Társa]");
+        const QString qtf = ChequePrinting::fill(ChequeTemplates::current(), c);
+        QVERIFY(qtf.contains(QStringLiteral("12\u00a0345")));
+        QVERIFY(qtf.contains(AmountInWords(12345)));
+        QVERIFY(qtf.contains(QStringLiteral("Kovács `& `[Társa`]")));
+        QVERIFY(!qtf.contains(u'!'));
+    }
+
+    void wholeForints_data()
+    {
+        AddColumns<QString, QString, QString>({"typed", "stored", "message"});
+        AddRow("whole", QString("12345"), QString("12345"), QString());
+        AddRow("half rounds up", QString("1234,50"), QString("1235"), QString());
+        AddRow("below half rounds down", QString("1234.49"), QString("1234"), QString());
+        AddRow("grouped", QString("1 234 567,5"), QString("1234568"), QString());
+        AddRow("empty", QString(""), QString(), QString("Az osszeget meg kell adnia."));
+        AddRow("letters", QString("tíz"), QString(),
+               QString("\"tíz\" is not an amount. Type digits, with a decimal comma or point."));
+        AddRow("fillér only", QString("0,4"), QString(), QString("Az osszeget meg kell adnia."));
+        AddRow("negative", QString("-5"), QString(), QString("A csekk osszege nem lehet negativ."));
+        AddRow("10^12", QString("1000000000000"), QString(), QString("A csekk osszege tul nagy."));
+    }
+    void wholeForints()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        QFETCH(QString, message);
+        Cheque c;
+        c.partnerName = QStringLiteral("Payer");
+        Result r = ChequeStore::parseAmount(typed, c.amount);
+        if (r)
+            r = ChequeStore::save(c);
+        QCOMPARE(r.message(), message);
+        QCOMPARE(QueryText("select cast(CHEQUE_AMOUNT as integer) from CHEQUE"), stored);
+    }
+
+    void missingTemplateIsRefused()
+    {
+        const qint64 id = NewCheque(QStringLiteral("Payer"), 100);
+        QVERIFY(Setup::write({{"SETUP_CHEQUE_QTF", QVariant()}}));
+        ScriptedInteraction interaction;
+        PdfInvoiceOutput output(m_company->dir() + "/none.pdf");
+        int printed = 0;
+        const Result r = ChequePrinting::print(ChequePrintMode::SelectedOnly, {id}, output,
+                                               interaction, kToday, printed);
+        QCOMPARE(r.message(), QString("Select a cheque template in Setup."));
+        QCOMPARE(QueryText("select CHEQUE_PRINTED from CHEQUE"), QString("0"));
+
+        // A template folder without its text says which file is missing.
+        QDir(m_company->dir()).mkdir("empty");
+        WriteFile(m_company->dir() + "/empty/cheque.cfg", "Name=x\n");
+        ChequeTemplate t;
+        const Result load = ChequeTemplates::install(m_company->dir() + "/empty", t);
+        QVERIFY(!load);
+        QVERIFY2(load.message().contains("cheque.qtf"), qPrintable(load.message()));
+    }
+
+    void chequeMadeAtIssue_data()
+    {
+        AddColumns<qint64, bool, QString>({"method", "flag", "cheques"});
+        AddRow("transfer with the cheque flag", qint64(2), true,
+               QString("000001|Teszt Partner Kft|1011|Budapest|3810|Kelt: 2024.03.05.\nFiz. "
+                       "hatarido: 2024.03.13.\n000001"));
+        AddRow("transfer without it", qint64(2), false, QString());
+        AddRow("cash", qint64(1), false, QString());
+    }
+    void chequeMadeAtIssue()
+    {
+        QFETCH(qint64, method);
+        QFETCH(bool, flag);
+        QFETCH(QString, cheques);
+        QVERIFY(ExecSql("update PAYMENTMETHOD set PAYMENTMETHOD_CHEQUE = ? where "
+                        "PAYMENTMETHOD_ID = ?",
+                        {flag ? "1" : "0", method}));
+        const qint64 order = NewOrder(method);
+        QVERIFY(ExecSql("update ORDERHEAD set ORDERHEAD_DATE_PAYMENT_DUE = '2024-03-13'"));
+        QVERIFY(Issue(order));
+        QCOMPARE(QueryText("select CHEQUE_INVOICE_NO_STR || '|' || CHEQUE_PARTNER_NAME || '|' || "
+                           "CHEQUE_PARTNER_ZIP || '|' || CHEQUE_PARTNER_CITY || '|' || "
+                           "cast(CHEQUE_AMOUNT as integer) || '|' || CHEQUE_NOTICE from CHEQUE"),
+                 cheques);
+    }
+
+    void failedIssueLeavesNoCheque()
+    {
+        QVERIFY(ExecSql("update PAYMENTMETHOD set PAYMENTMETHOD_CHEQUE = '1'"));
+        const qint64 order = NewOrder(2);
+        // The cheque of this order already exists: the unique index fails the cheque, and
+        // with it the whole issue.
+        QVERIFY(ExecSql("insert into CHEQUE (CHEQUE_ORDERHEAD_ID, CHEQUE_AMOUNT) values (?, 1)",
+                        {order}));
+        QVERIFY(!Issue(order));
+        QCOMPARE(QueryText("select coalesce(ORDERHEAD_INVOICE_NO, '-') from ORDERHEAD where "
+                           "ORDERHEAD_ID = ?",
+                           {order}),
+                 QString("-"));
+        QCOMPARE(QueryText("select count(*) from INVOICE"), QString("0"));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("1"));
+
+        // A rendering that fails makes no cheque either.
+        QVERIFY(ExecSql("delete from CHEQUE"));
+        IssuedInvoice issued;
+        QVERIFY(!InvoiceNumbering::issue(
+            order, kToday, [](qint64, FrozenInvoice&) { return Result::failure("no render"); },
+            issued));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("0"));
+        QVERIFY(Issue(order));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("1"));
+    }
+
+    void chequesOfSelectedInvoices()
+    {
+        const qint64 issued = NewOrder(2);
+        const qint64 open = NewOrder(2);
+        QVERIFY(Issue(issued));
+        QList<qint64> ids;
+        // An order without a number has no cheque to print, and none is made for the others.
+        Result r = ChequeStore::forInvoices({issued, open}, kToday, ids);
+        QCOMPARE(r.message(), QString("Csekk csak kiallitott szamlahoz nyomtathato."));
+        QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("0"));
+        // Made once, then found again.
+        QVERIFY(ChequeStore::forInvoices({issued}, kToday, ids));
+        QCOMPARE(ids.size(), 1);
+        QList<qint64> again;
+        QVERIFY(ChequeStore::forInvoices({issued}, kToday, again));
+        QCOMPARE(again, ids);
+        QCOMPARE(QueryText("select CHEQUE_ORDERHEAD_ID from CHEQUE"), QString::number(issued));
+    }
+
+private:
+    std::optional<TestCompany> m_company;
+};
+
+QTEST_MAIN(TestCheques)
+#include "tst_cheques.moc"
