@@ -5,12 +5,12 @@
 
 #include "app/CompanyChoice.h"
 #include "app/CompanyCreate.h"
-#include "masterdata/TaxNumber.h"
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/LabelTranslations.h"
+#include "masterdata/TaxNumber.h"
 
 #include <QtTest>
 
