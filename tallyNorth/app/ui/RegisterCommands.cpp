@@ -1,6 +1,7 @@
 #include "RegisterCommands.h"
 
 #include "FileCommands.h"
+#include "HelpCommands.h"
 #include "MainWindow.h"
 #include "SqlErrorDlg.h"
 
@@ -18,6 +19,7 @@ void InstallShellServices()
 {
     GuiInteraction::setMessageFormatter(MessageRichText);
     GuiInteraction::setSqlErrorDialog(&SqlErrorDlg::askRetry);
+    InstallHelp();
     InstallLabelLoading();
     InstallOrderEditPrinting();
     InstallOrderPrinting();
@@ -28,6 +30,7 @@ void InstallShellServices()
 void RegisterCommands(MainWindow& window)
 {
     RegisterFileCommands(window);
+    RegisterHelpCommands(window);
     RegisterMasterdataCommands(window);
     RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);
