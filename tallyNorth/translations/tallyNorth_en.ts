@@ -741,11 +741,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>File</source>
+        <source>&amp;File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>New Order / Invoice...</source>
+        <source>&amp;New Order / Invoice...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -753,7 +753,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Setup...</source>
+        <source>&amp;Setup...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -761,7 +761,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Backup</source>
+        <source>&amp;Backup</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Do backup...</source>
+        <source>&amp;Do backup...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -777,7 +777,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Restore backup...</source>
+        <source>&amp;Restore backup...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -785,7 +785,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Change database/company...</source>
+        <source>&amp;Change database/company...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -793,7 +793,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>New company...</source>
+        <source>Ne&amp;w company...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -801,7 +801,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Exit</source>
+        <source>E&amp;xit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -809,11 +809,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Basic Data</source>
+        <source>&amp;Basic Data</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>VAT Keys</source>
+        <source>&amp;VAT Keys</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -821,7 +821,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No VAT Reasons</source>
+        <source>&amp;No VAT Reasons</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -829,7 +829,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Payment methods</source>
+        <source>&amp;Payment methods</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -837,7 +837,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Stat Numbers</source>
+        <source>&amp;Stat Numbers</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -845,7 +845,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Languages</source>
+        <source>&amp;Languages</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -853,7 +853,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Countries</source>
+        <source>C&amp;ountries</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -861,7 +861,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Currencies, Bank Accounts and Rates</source>
+        <source>&amp;Currencies, Bank Accounts and Rates</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -869,7 +869,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Invoice Label Translations</source>
+        <source>&amp;Invoice Label Translations</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -877,11 +877,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Webshop</source>
+        <source>&amp;Webshop</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Download orders</source>
+        <source>Download &amp;orders</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -889,7 +889,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Download products</source>
+        <source>Download pro&amp;ducts</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -897,7 +897,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Download partners</source>
+        <source>Download p&amp;artners</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -905,35 +905,35 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Szamlak importalasa fajlbol</source>
-        <translation>Import invoices from file</translation>
+        <source>&amp;Szamlak importalasa fajlbol</source>
+        <translation>&amp;Import invoices from file</translation>
     </message>
     <message>
         <source>Szamlakat tartalmazo fajl megnyitasa es importalasa</source>
         <translation>Open and import a file of invoices</translation>
     </message>
     <message>
-        <source>Termekek/szolgaltatasok importalasa fajlbol</source>
-        <translation>Import products/services from file</translation>
+        <source>Termekek/szolgaltatasok &amp;importalasa fajlbol</source>
+        <translation>Import products/services from &amp;file</translation>
     </message>
     <message>
         <source>Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa</source>
         <translation>Open and import a file of products/services</translation>
     </message>
     <message>
-        <source>Partnerek importalasa fajlbol</source>
-        <translation>Import partners from file</translation>
+        <source>&amp;Partnerek importalasa fajlbol</source>
+        <translation>Import pa&amp;rtners from file</translation>
     </message>
     <message>
         <source>Partnereket tartalmazo fajl megnyitasa es importalasa</source>
         <translation>Open and import a file of partners</translation>
     </message>
     <message>
-        <source>Reports</source>
+        <source>&amp;Reports</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Outgoing Invoices</source>
+        <source>Outgoing &amp;Invoices</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -941,7 +941,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Outgoing Invoice Items</source>
+        <source>Outgoing Invoice I&amp;tems</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -949,7 +949,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Customers Report</source>
+        <source>&amp;Customers Report</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -957,7 +957,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Products Sold Report</source>
+        <source>&amp;Products Sold Report</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -965,11 +965,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Receivables</source>
+        <source>&amp;Receivables</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Receivables by invoices</source>
+        <source>Receivables by &amp;invoices</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -977,7 +977,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Receivables by partners</source>
+        <source>Receivables by &amp;partners</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -985,11 +985,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Help</source>
+        <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Help Topics</source>
+        <source>&amp;Help Topics</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -997,15 +997,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Nyilatkozat</source>
-        <translation>Declaration</translation>
+        <source>&amp;Nyilatkozat</source>
+        <translation>&amp;Declaration</translation>
     </message>
     <message>
         <source>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese</source>
         <translation>Show the declaration under Ministry of Finance decree 24/1995. (XI. 22.)</translation>
     </message>
     <message>
-        <source>About</source>
+        <source>&amp;About</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2041,6 +2041,66 @@
     <message>
         <source>Percent field must have a value.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SetupChequePage</name>
+    <message>
+        <source>Csekk vizszintes (x) pozicioja a lapon (mm)</source>
+        <translation>Horizontal (x) position of the cheque on the page (mm)</translation>
+    </message>
+    <message>
+        <source>Csekk fuggoleges (y) pozicioja a lapon (mm)</source>
+        <translation>Vertical (y) position of the cheque on the page (mm)</translation>
+    </message>
+    <message>
+        <source>Teszt</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Csekk-nyomtatas kiprobalasa</source>
+        <translation>Try printing a cheque</translation>
+    </message>
+    <message>
+        <source>Csekk</source>
+        <translation>Cheque</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInvoiceTemplatePage</name>
+    <message>
+        <source>Logo nyomtatasa a szamlara</source>
+        <translation>Print logo on invoice</translation>
+    </message>
+    <message>
+        <source>Logo merete a szamlan (%)</source>
+        <translation>Logo size on invoice (%)</translation>
+    </message>
+    <message>
+        <source>Megnyitás...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>A kivalasztott kep betoltese nem sikerult.&amp;Ellenorizze, biztosan kepet tartalmaz-e a fajl!</source>
+        <translation>The selected picture could not be loaded.&amp;Check that the file holds a picture!</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSave</name>
+    <message>
+        <source>A logo adatbazisba mentese nem sikerult.</source>
+        <translation>Saving the logo into the database failed.</translation>
+    </message>
+    <message>
+        <source>A számlaszám előtagjában szerepel az évszám.&amp;Az előtag az első számla kinyomtatása után már nem változtatható meg, a számlák sorszámozása pedig az év végén sem kezdődik újra. Új évhez új előtaggal új cégadatbázist kell kezdeni.</source>
+        <translation>The invoice number prefix contains the year.&amp;The prefix cannot be changed once the first invoice has been printed, and the numbering does not start again at the end of the year. A new year with a new prefix needs a new company database.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Vantrell Számlázó Súgó</source>
+        <translation>Vantrell Invoicer Help</translation>
     </message>
 </context>
 </TS>
