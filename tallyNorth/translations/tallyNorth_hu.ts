@@ -3513,6 +3513,10 @@ Folytatja?</translation>
             <source>Csekk</source>
             <translation>Csekk</translation>
         </message>
+        <message>
+            <source>No cheque template installed</source>
+            <translation>Nincs telepített csekksablon</translation>
+        </message>
     </context>
     <context>
         <name>SetupCompanyPage</name>

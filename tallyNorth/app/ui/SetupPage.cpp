@@ -63,6 +63,9 @@ QSpinBox* SetupPage::addNumber(QFormLayout* form, const char* column, const QStr
 {
     auto* spin = new QSpinBox(this);
     spin->setRange(min, max);
+    // A number needs no more room than its digits.
+    spin->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    spin->setMinimumWidth(110);
     bind(column, spin);
     form->addRow(caption, spin);
     return spin;
@@ -75,6 +78,8 @@ QDoubleSpinBox* SetupPage::addMillimetres(QFormLayout* form, const char* column,
     spin->setRange(0, 300);
     spin->setDecimals(1);
     spin->setSuffix(QStringLiteral(" mm"));
+    spin->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    spin->setMinimumWidth(110);
     bind(column, spin);
     form->addRow(caption, spin);
     return spin;

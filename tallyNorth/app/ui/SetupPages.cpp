@@ -402,6 +402,7 @@ SetupDownloadPage::SetupDownloadPage(QWidget* parent) : SetupPage(parent)
     addCheck(form, SETUP_DOWNLOAD_SAVE_PASSWORD, tr("Save password"));
     auto* advanced = new QPushButton(tr("Advanced Setup.."), this);
     advanced->setObjectName(QStringLiteral("m_advanced"));
+    advanced->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form->addRow(QString(), advanced);
     connect(advanced, &QPushButton::clicked, this, &SetupDownloadPage::openAdvanced);
 
@@ -420,6 +421,8 @@ SetupDownloadPage::SetupDownloadPage(QWidget* parent) : SetupPage(parent)
     const auto number = [this, advForm](const char* column, const QString& caption) {
         auto* spin = new QSpinBox(m_advanced);
         spin->setRange(0, 1000000);
+        spin->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        spin->setMinimumWidth(110);
         bind(column, spin);
         advForm->addRow(caption, spin);
     };
@@ -477,6 +480,7 @@ SetupChequePage::SetupChequePage(QWidget* parent) : SetupPage(parent)
     QFormLayout* form = NewForm(this);
     m_template = new QComboBox(this);
     m_template->setObjectName(QStringLiteral("m_cheque_template"));
+    m_template->setPlaceholderText(tr("No cheque template installed"));
     form->addRow(tr("Checque Template"), m_template);
     addMillimetres(form, SETUP_CHEQUE_MARGIN_LEFT_MM,
                    tr("Csekk vizszintes (x) pozicioja a lapon (mm)"));
@@ -485,6 +489,7 @@ SetupChequePage::SetupChequePage(QWidget* parent) : SetupPage(parent)
     m_test = new QPushButton(tr("Teszt"), this);
     m_test->setObjectName(QStringLiteral("m_test_cheque"));
     m_test->setToolTip(tr("Csekk-nyomtatas kiprobalasa"));
+    m_test->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form->addRow(QString(), m_test);
     connect(m_test, &QPushButton::clicked, this, &SetupChequePage::testPrint);
 }
