@@ -3,9 +3,12 @@
 #include "ModalDriver.h"
 
 #include "app/HelpTopics.h"
+#include "app/ui/HelpCommands.h"
 #include "app/ui/HelpWindow.h"
 #include "base/ui/HelpLink.h"
 #include "documents/QtfReader.h"
+#include "masterdata/ui/MasterBrowses.h"
+#include "masterdata/ui/RecordBrowse.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -96,6 +99,21 @@ private Q_SLOTS:
         QVERIFY(!found.isEmpty());
         window.tree()->setCurrentItem(found.first());
         QCOMPARE(window.currentTopic(), QStringLiteral("Partnerek"));
+    }
+
+    // Once the help is installed, the lists' Help buttons are live and name a topic that exists.
+    void listHelpButtonsLive()
+    {
+        InstallHelp();
+        for (MasterTable table :
+             {MasterTable::Vat, MasterTable::Currency, MasterTable::PaymentMethod,
+              MasterTable::NoVatReason, MasterTable::StatNo, MasterTable::Lang,
+              MasterTable::Country, MasterTable::Partner}) {
+            const BrowseInfo& info = MasterBrowseInfo(table);
+            RecordBrowse browse(info, RecordBrowse::Mode::Manage);
+            QVERIFY(browse.findChild<QPushButton*>(u"m_help"_qs)->isEnabled());
+            QVERIFY2(!HelpTopicQtf(QString::fromLatin1(info.helpTopic)).isEmpty(), info.helpTopic);
+        }
     }
 
     // A dialog's Help button opens the help window over the dialog, on the dialog's topic.
