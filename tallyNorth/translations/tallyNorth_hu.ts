@@ -3816,6 +3816,10 @@ Folytatja?</translation>
             <source>Built-in template</source>
             <translation>Beépített sablon</translation>
         </message>
+        <message>
+            <source>The template in use</source>
+            <translation>A jelenleg használt sablon</translation>
+        </message>
     </context>
     <context>
         <name>SetupRoundingPage</name>

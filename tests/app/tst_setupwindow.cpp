@@ -144,6 +144,40 @@ private Q_SLOTS:
         QCOMPARE(window.tabs()->currentIndex(), 0);
     }
 
+    // A template stored without its folder stays until another set is chosen.
+    void unnamedTemplateKept()
+    {
+        TestCompany company;
+        QVERIFY(company.isValid());
+        QVERIFY(Setup::write({{"SETUP_NAME", "Kft"},
+                              {"SETUP_ZIP", "1000"},
+                              {"SETUP_CITY", "Budapest"},
+                              {"SETUP_ADDRESS", "Fő utca 1."},
+                              {"SETUP_TAX_NO", "12345676-2-41"},
+                              {"SETUP_INVOICE_CURRENCY_ID", 0},
+                              {"SETUP_INVOICE_CURR_TMPL_DIR", QVariant()},
+                              {"SETUP_INVOICE_HEADER_QTF", "[* own header]"}}));
+        SetupWindow window;
+        QVERIFY(window.load());
+        window.accept();
+        QCOMPARE(window.result(), int(QDialog::Accepted));
+        QCOMPARE(
+            SelectValue(QStringLiteral("select SETUP_INVOICE_HEADER_QTF from SETUP")).toString(),
+            QStringLiteral("[* own header]"));
+
+        // Choosing the built-in set installs its texts and its folder.
+        SetupWindow again;
+        QVERIFY(again.load());
+        auto* chooser = again.findChild<QComboBox*>(u"m_invoice_template"_qs);
+        chooser->setCurrentIndex(chooser->findData(QStringLiteral(":/templates/invoice")));
+        again.accept();
+        QCOMPARE(again.result(), int(QDialog::Accepted));
+        QCOMPARE(Setup::current().text("SETUP_INVOICE_CURR_TMPL_DIR"),
+                 QStringLiteral(":/templates/invoice"));
+        QVERIFY(Setup::current().text("SETUP_INVOICE_HEADER_QTF") !=
+                QLatin1String("[* own header]"));
+    }
+
     void furtherPage()
     {
         TestCompany company;

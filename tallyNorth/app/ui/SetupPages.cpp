@@ -86,9 +86,13 @@ QString TemplateCaption(const QString& folder)
 // The template folders offered: the built-in one, those under the base folder's "templates"
 // and the one in use when it lies elsewhere.
 void FillTemplates(QComboBox* combo, const QString& builtIn, const QString& cfgName,
-                   const QString& current)
+                   const QString& current, bool keepUnnamed)
 {
     combo->clear();
+    // A set stored without its folder (an older program's, or one edited by hand) is kept
+    // until another is chosen.
+    if (current.isEmpty() && keepUnnamed)
+        combo->addItem(QCoreApplication::translate("SetupPages", "The template in use"), QString());
     QStringList folders;
     if (QFileInfo::exists(builtIn + u'/' + cfgName))
         folders << builtIn;
@@ -232,9 +236,8 @@ void SetupInvoiceTemplatePage::load(const Setup& setup)
 {
     SetupPage::load(setup);
     m_installedDir = setup.text(SETUP_INVOICE_CURR_TMPL_DIR);
-    FillTemplates(
-        m_template, QString::fromLatin1(kShippedTemplateDir), QStringLiteral("invoice.cfg"),
-        m_installedDir.isEmpty() ? QString::fromLatin1(kShippedTemplateDir) : m_installedDir);
+    FillTemplates(m_template, QString::fromLatin1(kShippedTemplateDir),
+                  QStringLiteral("invoice.cfg"), m_installedDir, true);
     templateChosen(false);
     m_newLogo.reset();
     const std::optional<qint64> logoId = RowId(setup.value(SETUP_INVOICE_LOGO_ID));
@@ -267,7 +270,8 @@ void SetupInvoiceTemplatePage::store(SetupChanges& changes) const
 void SetupInvoiceTemplatePage::templateChosen(bool tell)
 {
     const QString folder = m_template->currentData().toString();
-    const bool certified = !folder.isEmpty() && LoadTemplateDir(folder).certified();
+    const bool certified =
+        (folder.isEmpty() ? LoadTemplateFromSetup() : LoadTemplateDir(folder)).certified();
     const QString warning =
         tr("This invoice template is not certified. Printing will not work with it.");
     m_certified->setText(certified ? tr("Certified invoice template.") : warning);
@@ -498,7 +502,7 @@ void SetupChequePage::load(const Setup& setup)
 {
     SetupPage::load(setup);
     FillTemplates(m_template, QStringLiteral(":/templates/cheque"), QStringLiteral("cheque.cfg"),
-                  setup.text(SETUP_CHEQUE_CURR_TMPL_DIR));
+                  setup.text(SETUP_CHEQUE_CURR_TMPL_DIR), false);
     m_test->setEnabled(static_cast<bool>(ChequeTestPrint()));
 }
 
