@@ -85,17 +85,18 @@ QString HelpTopicTitle(const QString& id)
 
 QString ProgramHomepage()
 {
-    return QStringLiteral("https://www.vantrell.hu");
+    return QStringLiteral("www.tallynorth.hu");
 }
 
 QString ProgramEmail()
 {
-    return QStringLiteral("szamlazo@vantrell.hu");
+    return QStringLiteral("info@tallynorth.hu");
 }
 
 QString AboutQtf()
 {
-    // The fields are filled escaped: an address holds QTF command characters.
+    // The same address as on the invoices' footer. The fields are filled escaped: an address holds
+    // QTF command characters.
     QString qtf = HelpTopicQtf(QStringLiteral("AboutTemplate"));
     qtf.replace(QStringLiteral("!VERSION!"), QtfEscape(ProgramVersion()));
     qtf.replace(QStringLiteral("!HOMEPAGE!"), QtfEscape(ProgramHomepage()));
