@@ -8,6 +8,7 @@
 #include "base/SqlStatement.h"
 #include "documents/ChequeTemplate.h"
 #include "documents/InvoiceTemplate.h"
+#include "masterdata/TaxNumber.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -39,6 +40,8 @@ Result Validate(const NewCompany& company, const QString& folder)
     if (company.taxNo.trimmed().isEmpty())
         return Result::failure(
             QCoreApplication::translate("CompanyCreate", "Tax No field must have a value."));
+    if (const QString wrong = HungarianTaxNoMessage(company.taxNo); !wrong.isEmpty())
+        return Result::failure(wrong);
     if (!company.fileName.isEmpty() && !ValidFileName(company.fileName))
         return Result::failure(QCoreApplication::translate(
             "CompanyCreate", "The file name must end with \".db\", be longer than three "

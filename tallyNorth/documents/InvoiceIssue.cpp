@@ -147,12 +147,17 @@ Result InvoiceIssue::print(qint64 orderId, Interaction& interaction, InvoiceOutp
 
 Result InvoiceIssue::printSample(InvoiceOutput& output)
 {
+    return printSample(output, LoadTemplateFromSetup());
+}
+
+Result InvoiceIssue::printSample(InvoiceOutput& output, const InvoiceTemplate& invoiceTemplate)
+{
     InvoiceData data;
     if (Result r = InvoiceRender::loadSample(data); !r)
         return r;
     FrozenInvoice frozen;
     const LabelTranslations& labels = LabelTranslations::current();
-    if (Result r = InvoiceRender::render(data, LoadTemplateFromSetup(), labels, frozen); !r)
+    if (Result r = InvoiceRender::render(data, invoiceTemplate, labels, frozen); !r)
         return r;
     Report report;
     if (Result r = PrintCopy(report, frozen, {0, false, 0, 0, QString(), true}, labels); !r)

@@ -13,6 +13,7 @@
 #include <optional>
 
 class Interaction;
+class InvoiceTemplate;
 class Report;
 
 // Where the pages go: a PDF file here; a printer or the print preview in the ui library.
@@ -59,6 +60,8 @@ public:
                         Outcome& outcome, const InvoicePrintOptions& options = {});
     // The sample invoice of the current template, without any order.
     static Result printSample(InvoiceOutput& output);
+    // The same with a template not installed yet (the setup window's "Test").
+    static Result printSample(InvoiceOutput& output, const InvoiceTemplate& invoiceTemplate);
 
     // The report of copies of an issued invoice, counted from firstCopyIndex (copies printed
     // before), and its document title.

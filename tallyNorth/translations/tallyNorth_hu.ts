@@ -228,6 +228,336 @@
         </message>
     </context>
     <context>
+        <name>ChequeCommands</name>
+        <message>
+            <source>Cheques printed: %d</source>
+            <translation>Kinyomtatott csekkek: %d</translation>
+        </message>
+        <message>
+            <source>Not a cheque ID: %s</source>
+            <translation>Nem csekkazonosító: %s</translation>
+        </message>
+        <message>
+            <source>Nyomtatas napja</source>
+            <translation>Nyomtatás napja</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeEdit</name>
+        <message>
+            <source>Create Cheque</source>
+            <translation>Csekk létrehozása</translation>
+        </message>
+        <message>
+            <source>Edit Cheque</source>
+            <translation>Csekk szerkesztése</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeEditLayout</name>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>ZIP</source>
+            <translation>Irányítószám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Település</translation>
+        </message>
+        <message>
+            <source>Street Address</source>
+            <translation>Utca, házszám</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Jogcim (bal oldalon)</source>
+            <translation>Jogcím (bal oldalon)</translation>
+        </message>
+        <message>
+            <source>Kozlemeny (jobb oldalon)</source>
+            <translation>Közlemény (jobb oldalon)</translation>
+        </message>
+        <message>
+            <source>Partner keresese vagy uj partner letrehozasa</source>
+            <translation>Partner keresése vagy új partner létrehozása</translation>
+        </message>
+        <message>
+            <source>&amp;Find Partner</source>
+            <translation>&amp;Partner keresése</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Later</source>
+            <translation>Később</translation>
+        </message>
+        <message>
+            <source>Csekk letrehozasa/szerkesztese</source>
+            <translation>Csekk létrehozása/szerkesztése</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeFilter</name>
+        <message>
+            <source>Filter by partner</source>
+            <translation>Szűrés partnerre</translation>
+        </message>
+        <message>
+            <source>Filter</source>
+            <translation>Szűrés</translation>
+        </message>
+        <message>
+            <source>You can search by the start of partner's name</source>
+            <translation>A partner nevének elejére kereshet</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeList</name>
+        <message>
+            <source>Csekkek nyomtatasa</source>
+            <translation>Csekkek nyomtatása</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Törlés</translation>
+        </message>
+        <message>
+            <source>Delete	Delete</source>
+            <translation>Törlés	Delete</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Szerkesztés</translation>
+        </message>
+        <message>
+            <source>Filter list of cheques</source>
+            <translation>A csekkek listájának szűrése</translation>
+        </message>
+        <message>
+            <source>Filter</source>
+            <translation>Szűrés</translation>
+        </message>
+        <message>
+            <source>Insert</source>
+            <translation>Új</translation>
+        </message>
+        <message>
+            <source>Refresh list of cheques</source>
+            <translation>A csekkek listájának frissítése</translation>
+        </message>
+        <message>
+            <source>Refresh</source>
+            <translation>Frissítés</translation>
+        </message>
+        <message>
+            <source>Valassza ki a torlendo csekket!</source>
+            <translation>Válassza ki a törlendő csekket!</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeListModel</name>
+        <message>
+            <source>Code</source>
+            <translation>Kód</translation>
+        </message>
+        <message>
+            <source>Szamlaszam</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Osszeg</source>
+            <translation>Összeg</translation>
+        </message>
+        <message>
+            <source>Nyomtatas napja</source>
+            <translation>Nyomtatás napja</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequePrinterLayout</name>
+        <message>
+            <source>Csak a kivalasztott csekkeket nyomtatja</source>
+            <translation>Csak a kiválasztott csekkeket nyomtatja</translation>
+        </message>
+        <message>
+            <source>Csekknyomtatas modja</source>
+            <translation>Csekknyomtatás módja</translation>
+        </message>
+        <message>
+            <source>Minden csekket nyomtat, amik meg nem voltak nyomtatva</source>
+            <translation>Minden csekket nyomtat, amely még nem volt nyomtatva</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequePrinting</name>
+        <message>
+            <source>Csekk-nyomtatas kiprobalasa</source>
+            <translation>Csekknyomtatás kipróbálása</translation>
+        </message>
+        <message>
+            <source>Csekk: %s, %d Ft</source>
+            <translation>Csekk: %s, %d Ft</translation>
+        </message>
+        <message>
+            <source>Csekkek nyomtatasa - Vantrell Szamlazo</source>
+            <translation>Csekkek nyomtatása - Vantrell Számlázó</translation>
+        </message>
+        <message>
+            <source>Csekkek nyomtatasa</source>
+            <translation>Csekkek nyomtatása</translation>
+        </message>
+        <message>
+            <source>Nem sikerult a csekk adatainak betoltese az adatbazisbol.</source>
+            <translation>Nem sikerült a csekk adatainak betöltése az adatbázisból.</translation>
+        </message>
+        <message>
+            <source>Nincsenek nyomtatando csekkek</source>
+            <translation>Nincsenek nyomtatandó csekkek</translation>
+        </message>
+        <message>
+            <source>Nyomtatas nem sikerult.</source>
+            <translation>A nyomtatás nem sikerült.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeStore</name>
+        <message>
+            <source>%d db csekk torlese.&amp;Biztosan torolni szeretne a kijelolt csekkeket?</source>
+            <translation>%d db csekk törlése.&amp;Biztosan törölni szeretné a kijelölt csekkeket?</translation>
+        </message>
+        <message>
+            <source>%d kijelolt csekk nem torolheto,&amp;mert mar korabban ki lettek nyomtatva.</source>
+            <translation>%d kijelölt csekk nem törölhető,&amp;mert már korábban ki lettek nyomtatva.</translation>
+        </message>
+        <message>
+            <source>A csekk osszege nem lehet negativ.</source>
+            <translation>A csekk összege nem lehet negatív.</translation>
+        </message>
+        <message>
+            <source>A csekk osszege tul nagy.</source>
+            <translation>A csekk összege túl nagy.</translation>
+        </message>
+        <message>
+            <source>Az osszeget meg kell adnia.</source>
+            <translation>Az összeget meg kell adnia.</translation>
+        </message>
+        <message>
+            <source>Biztosan torolni szeretne a kivalasztott csekket?</source>
+            <translation>Biztosan törölni szeretné a kiválasztott csekket?</translation>
+        </message>
+        <message>
+            <source>Csekk adatainak betoltese nem sikerult.&amp;Elkepzelheto, hogy egy masik felhasznalo mar torolte.</source>
+            <translation>A csekk adatainak betöltése nem sikerült.&amp;Elképzelhető, hogy egy másik felhasználó már törölte.</translation>
+        </message>
+        <message>
+            <source>Csekk csak kiallitott szamlahoz nyomtathato.</source>
+            <translation>Csekk csak kiállított számlához nyomtatható.</translation>
+        </message>
+        <message>
+            <source>Csekk mentese nem sikerult.</source>
+            <translation>A csekk mentése nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázishiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Hiba: Csekkek lekerdezese nem sikerult&amp;%s</source>
+            <translation>Hiba: a csekkek lekérdezése nem sikerült&amp;%s</translation>
+        </message>
+        <message>
+            <source>Kelt: %1:s
+Fiz. hatarido: %2:s
+%3:s</source>
+            <translation>Kelt: %1:s
+Fiz. határidő: %2:s
+%3:s</translation>
+        </message>
+        <message>
+            <source>Kelt:
+%1:s
+Fiz. hatarido:
+%2:s
+%3:s</source>
+            <translation>Kelt:
+%1:s
+Fiz. határidő:
+%2:s
+%3:s</translation>
+        </message>
+        <message>
+            <source>There are more matching cheques then displayed. Try more specific filter.</source>
+            <translation>Több csekk felel meg a szűrésnek, mint amennyi megjelenik. Adjon meg pontosabb szűrést.</translation>
+        </message>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>"%s" is not an amount. Type digits, with a decimal comma or point.</source>
+            <translation>„%s” nem összeg. Számjegyeket írjon, tizedesvesszővel vagy -ponttal.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChequeTemplates</name>
+        <message>
+            <source>Select a cheque template in Setup.</source>
+            <translation>Válasszon csekksablont a Beállításokban.</translation>
+        </message>
+        <message>
+            <source>The cheque template %s is missing from %s.</source>
+            <translation>A(z) %s csekksablon hiányzik innen: %s.</translation>
+        </message>
+    </context>
+    <context>
         <name>Cli</name>
         <message>
             <source>unexpected argument %1</source>
@@ -865,10 +1195,40 @@
         </message>
     </context>
     <context>
+        <name>FirstStart</name>
+        <message>
+            <source>Welcome! There is no company database yet.&amp;You can try the program on the demonstration company, or start with the data of your own company.</source>
+            <translation>Üdvözöljük! Még nincs cégadatbázis.&amp;Kipróbálhatja a programot a bemutató cégen, vagy rögtön a saját cége adataival kezdhet.</translation>
+        </message>
+        <message>
+            <source>Demonstration company</source>
+            <translation>Bemutató cég</translation>
+        </message>
+        <message>
+            <source>New company...</source>
+            <translation>Új cég...</translation>
+        </message>
+        <message>
+            <source>Exit</source>
+            <translation>Kilépés</translation>
+        </message>
+    </context>
+    <context>
         <name>GuiInteraction</name>
         <message>
             <source>Cancel</source>
             <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
+        <name>HelpWindow</name>
+        <message>
+            <source>Vantrell Számlázó Súgó</source>
+            <translation>Vantrell Számlázó Súgó</translation>
+        </message>
+        <message>
+            <source>About Program</source>
+            <translation>A program névjegye</translation>
         </message>
     </context>
     <context>
@@ -1170,232 +1530,104 @@
             <translation>Ez a lista még nem érhető el.</translation>
         </message>
         <message>
-            <source>File</source>
-            <translation>Fájl</translation>
-        </message>
-        <message>
-            <source>New Order / Invoice...</source>
-            <translation>Új rendelés / számla...</translation>
-        </message>
-        <message>
             <source>Create new order / invoice</source>
             <translation>Új rendelés / számla készítése</translation>
-        </message>
-        <message>
-            <source>Setup...</source>
-            <translation>Beállítások...</translation>
         </message>
         <message>
             <source>Setup your company's data and application defaults</source>
             <translation>A cég adatainak és a program alapbeállításainak megadása</translation>
         </message>
         <message>
-            <source>Backup</source>
-            <translation>Biztonsági mentés</translation>
-        </message>
-        <message>
             <source>Do or restore backup</source>
             <translation>Biztonsági mentés készítése vagy visszaállítása</translation>
-        </message>
-        <message>
-            <source>Do backup...</source>
-            <translation>Mentés készítése...</translation>
         </message>
         <message>
             <source>Do backup of your database</source>
             <translation>Biztonsági mentés készítése az adatbázisról</translation>
         </message>
         <message>
-            <source>Restore backup...</source>
-            <translation>Mentés visszaállítása...</translation>
-        </message>
-        <message>
             <source>Restore backup of your database</source>
             <translation>Az adatbázis visszaállítása biztonsági mentésből</translation>
-        </message>
-        <message>
-            <source>Change database/company...</source>
-            <translation>Adatbázis/cég váltása...</translation>
         </message>
         <message>
             <source>Change database to an other one if you want to work with an other company</source>
             <translation>Váltás másik adatbázisra, ha egy másik cég adataival szeretne dolgozni</translation>
         </message>
         <message>
-            <source>Exit</source>
-            <translation>Kilépés</translation>
-        </message>
-        <message>
             <source>Finish editing and close this window</source>
             <translation>A munka befejezése és az ablak bezárása</translation>
-        </message>
-        <message>
-            <source>Basic Data</source>
-            <translation>Alapadatok</translation>
-        </message>
-        <message>
-            <source>VAT Keys</source>
-            <translation>ÁFA-kulcsok</translation>
         </message>
         <message>
             <source>Change VAT keys</source>
             <translation>Az ÁFA-kulcsok módosítása</translation>
         </message>
         <message>
-            <source>No VAT Reasons</source>
-            <translation>ÁFA-mentesség okai</translation>
-        </message>
-        <message>
             <source>Manage No VAT Reasons</source>
             <translation>Az ÁFA-mentesség okainak kezelése</translation>
-        </message>
-        <message>
-            <source>Payment methods</source>
-            <translation>Fizetési módok</translation>
         </message>
         <message>
             <source>Change payment methods</source>
             <translation>A fizetési módok módosítása</translation>
         </message>
         <message>
-            <source>Stat Numbers</source>
-            <translation>VTSZ/SZJ számok</translation>
-        </message>
-        <message>
             <source>Change often used stat numbers</source>
             <translation>A gyakran használt VTSZ/SZJ számok módosítása</translation>
-        </message>
-        <message>
-            <source>Languages</source>
-            <translation>Nyelvek</translation>
         </message>
         <message>
             <source>Change languages</source>
             <translation>A nyelvek módosítása</translation>
         </message>
         <message>
-            <source>Countries</source>
-            <translation>Országok</translation>
-        </message>
-        <message>
             <source>Manage countries</source>
             <translation>Az országok kezelése</translation>
-        </message>
-        <message>
-            <source>Currencies, Bank Accounts and Rates</source>
-            <translation>Pénznemek, bankszámlák és árfolyamok</translation>
         </message>
         <message>
             <source>Manage currencies, bank accounts and rates</source>
             <translation>A pénznemek, bankszámlák és árfolyamok kezelése</translation>
         </message>
         <message>
-            <source>Invoice Label Translations</source>
-            <translation>Számlafeliratok fordításai</translation>
-        </message>
-        <message>
             <source>Manage invoice label translations</source>
             <translation>A számlán megjelenő feliratok fordításainak kezelése</translation>
-        </message>
-        <message>
-            <source>Webshop</source>
-            <translation>Webáruház</translation>
-        </message>
-        <message>
-            <source>Download orders</source>
-            <translation>Rendelések letöltése</translation>
         </message>
         <message>
             <source>Download external orders from web, based on Setup</source>
             <translation>Külső rendelések letöltése a webről a beállítások alapján</translation>
         </message>
         <message>
-            <source>Download products</source>
-            <translation>Termékek letöltése</translation>
-        </message>
-        <message>
             <source>Download external products from web, based on Setup</source>
             <translation>Külső termékek letöltése a webről a beállítások alapján</translation>
-        </message>
-        <message>
-            <source>Download partners</source>
-            <translation>Partnerek letöltése</translation>
         </message>
         <message>
             <source>Download external partners from web, based on Setup</source>
             <translation>Külső partnerek letöltése a webről a beállítások alapján</translation>
         </message>
         <message>
-            <source>Reports</source>
-            <translation>Kimutatások</translation>
-        </message>
-        <message>
-            <source>Outgoing Invoices</source>
-            <translation>Kimenő számlák</translation>
-        </message>
-        <message>
             <source>Print or export list of invoices</source>
             <translation>A számlák listájának nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Outgoing Invoice Items</source>
-            <translation>Kimenő számlák tételei</translation>
         </message>
         <message>
             <source>Print or export list of invoice items</source>
             <translation>A számlatételek listájának nyomtatása vagy exportálása</translation>
         </message>
         <message>
-            <source>Customers Report</source>
-            <translation>Vevők szerinti kimutatás</translation>
-        </message>
-        <message>
             <source>Print or export sum of sales grouped by partners</source>
             <translation>Az eladások partnerenkénti összesítésének nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Products Sold Report</source>
-            <translation>Eladott termékek kimutatása</translation>
         </message>
         <message>
             <source>Print or export sum of sales grouped by products</source>
             <translation>Az eladások termékenkénti összesítésének nyomtatása vagy exportálása</translation>
         </message>
         <message>
-            <source>Receivables</source>
-            <translation>Kintlévőségek</translation>
-        </message>
-        <message>
-            <source>Receivables by invoices</source>
-            <translation>Kintlévőségek számlánként</translation>
-        </message>
-        <message>
             <source>Print or export unpaid invoices</source>
             <translation>A kifizetetlen számlák nyomtatása vagy exportálása</translation>
-        </message>
-        <message>
-            <source>Receivables by partners</source>
-            <translation>Kintlévőségek partnerenként</translation>
         </message>
         <message>
             <source>Print or export unpaid invoices grouped by partners</source>
             <translation>A kifizetetlen számlák partnerenkénti nyomtatása vagy exportálása</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Súgó</translation>
-        </message>
-        <message>
-            <source>Help Topics</source>
-            <translation>Súgótémakörök</translation>
-        </message>
-        <message>
             <source>Show the list of Help topics</source>
             <translation>A súgótémakörök listájának megjelenítése</translation>
-        </message>
-        <message>
-            <source>About</source>
-            <translation>Névjegy</translation>
         </message>
         <message>
             <source>Information about the program, its version and developer</source>
@@ -1418,40 +1650,20 @@
             <translation>Partnerek</translation>
         </message>
         <message>
-            <source>New company...</source>
-            <translation>Új cég...</translation>
-        </message>
-        <message>
             <source>Create a new company database</source>
             <translation>Új cégadatbázis létrehozása</translation>
-        </message>
-        <message>
-            <source>Szamlak importalasa fajlbol</source>
-            <translation>Számlák importálása fájlból</translation>
         </message>
         <message>
             <source>Szamlakat tartalmazo fajl megnyitasa es importalasa</source>
             <translation>Számlákat tartalmazó fájl megnyitása és importálása</translation>
         </message>
         <message>
-            <source>Termekek/szolgaltatasok importalasa fajlbol</source>
-            <translation>Termékek/szolgáltatások importálása fájlból</translation>
-        </message>
-        <message>
             <source>Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa</source>
             <translation>Termékeket/szolgáltatásokat tartalmazó fájl megnyitása és importálása</translation>
         </message>
         <message>
-            <source>Partnerek importalasa fajlbol</source>
-            <translation>Partnerek importálása fájlból</translation>
-        </message>
-        <message>
             <source>Partnereket tartalmazo fajl megnyitasa es importalasa</source>
             <translation>Partnereket tartalmazó fájl megnyitása és importálása</translation>
-        </message>
-        <message>
-            <source>Nyilatkozat</source>
-            <translation>Nyilatkozat</translation>
         </message>
         <message>
             <source>24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese</source>
@@ -1460,6 +1672,154 @@
         <message>
             <source>Csekkek</source>
             <translation>Csekkek</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Fájl</translation>
+        </message>
+        <message>
+            <source>&amp;New Order / Invoice...</source>
+            <translation>Új &amp;rendelés / számla...</translation>
+        </message>
+        <message>
+            <source>&amp;Setup...</source>
+            <translation>&amp;Beállítások...</translation>
+        </message>
+        <message>
+            <source>&amp;Backup</source>
+            <translation>Biztonsági &amp;mentés</translation>
+        </message>
+        <message>
+            <source>&amp;Do backup...</source>
+            <translation>Mentés &amp;készítése...</translation>
+        </message>
+        <message>
+            <source>&amp;Restore backup...</source>
+            <translation>Mentés &amp;visszaállítása...</translation>
+        </message>
+        <message>
+            <source>&amp;Change database/company...</source>
+            <translation>Adatbázis/cég &amp;váltása...</translation>
+        </message>
+        <message>
+            <source>E&amp;xit</source>
+            <translation>&amp;Kilépés</translation>
+        </message>
+        <message>
+            <source>&amp;Basic Data</source>
+            <translation>&amp;Alapadatok</translation>
+        </message>
+        <message>
+            <source>&amp;VAT Keys</source>
+            <translation>Á&amp;FA-kulcsok</translation>
+        </message>
+        <message>
+            <source>&amp;No VAT Reasons</source>
+            <translation>ÁFA-&amp;mentesség okai</translation>
+        </message>
+        <message>
+            <source>&amp;Payment methods</source>
+            <translation>Fi&amp;zetési módok</translation>
+        </message>
+        <message>
+            <source>&amp;Stat Numbers</source>
+            <translation>&amp;VTSZ/SZJ számok</translation>
+        </message>
+        <message>
+            <source>&amp;Languages</source>
+            <translation>&amp;Nyelvek</translation>
+        </message>
+        <message>
+            <source>C&amp;ountries</source>
+            <translation>O&amp;rszágok</translation>
+        </message>
+        <message>
+            <source>&amp;Currencies, Bank Accounts and Rates</source>
+            <translation>&amp;Pénznemek, bankszámlák és árfolyamok</translation>
+        </message>
+        <message>
+            <source>&amp;Invoice Label Translations</source>
+            <translation>Számlafeliratok f&amp;ordításai</translation>
+        </message>
+        <message>
+            <source>&amp;Webshop</source>
+            <translation>&amp;Webáruház</translation>
+        </message>
+        <message>
+            <source>Download &amp;orders</source>
+            <translation>&amp;Rendelések letöltése</translation>
+        </message>
+        <message>
+            <source>Download pro&amp;ducts</source>
+            <translation>&amp;Termékek letöltése</translation>
+        </message>
+        <message>
+            <source>Download p&amp;artners</source>
+            <translation>P&amp;artnerek letöltése</translation>
+        </message>
+        <message>
+            <source>&amp;Reports</source>
+            <translation>&amp;Kimutatások</translation>
+        </message>
+        <message>
+            <source>Outgoing &amp;Invoices</source>
+            <translation>Kimenő &amp;számlák</translation>
+        </message>
+        <message>
+            <source>Outgoing Invoice I&amp;tems</source>
+            <translation>Kimenő számlák &amp;tételei</translation>
+        </message>
+        <message>
+            <source>&amp;Customers Report</source>
+            <translation>&amp;Vevők szerinti kimutatás</translation>
+        </message>
+        <message>
+            <source>&amp;Products Sold Report</source>
+            <translation>&amp;Eladott termékek kimutatása</translation>
+        </message>
+        <message>
+            <source>&amp;Receivables</source>
+            <translation>&amp;Kintlévőségek</translation>
+        </message>
+        <message>
+            <source>Receivables by &amp;invoices</source>
+            <translation>Kintlévőségek &amp;számlánként</translation>
+        </message>
+        <message>
+            <source>Receivables by &amp;partners</source>
+            <translation>Kintlévőségek &amp;partnerenként</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>&amp;Súgó</translation>
+        </message>
+        <message>
+            <source>&amp;Help Topics</source>
+            <translation>&amp;Súgótémakörök</translation>
+        </message>
+        <message>
+            <source>&amp;About</source>
+            <translation>Név&amp;jegy</translation>
+        </message>
+        <message>
+            <source>Ne&amp;w company...</source>
+            <translation>Új &amp;cég...</translation>
+        </message>
+        <message>
+            <source>&amp;Szamlak importalasa fajlbol</source>
+            <translation>&amp;Számlák importálása fájlból</translation>
+        </message>
+        <message>
+            <source>Termekek/szolgaltatasok &amp;importalasa fajlbol</source>
+            <translation>Termékek/szolgáltatások &amp;importálása fájlból</translation>
+        </message>
+        <message>
+            <source>&amp;Partnerek importalasa fajlbol</source>
+            <translation>&amp;Partnerek importálása fájlból</translation>
+        </message>
+        <message>
+            <source>&amp;Nyilatkozat</source>
+            <translation>&amp;Nyilatkozat</translation>
         </message>
     </context>
     <context>
@@ -3252,6 +3612,444 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>SetupAppPage</name>
+        <message>
+            <source>Select partner on new order</source>
+            <translation>Partner kiválasztása új rendelésnél</translation>
+        </message>
+        <message>
+            <source>Select product on new order</source>
+            <translation>Termék kiválasztása új rendelésnél</translation>
+        </message>
+        <message>
+            <source>Maximum number of records on find</source>
+            <translation>Keresési találatok legnagyobb száma</translation>
+        </message>
+        <message>
+            <source>Load main window data on start</source>
+            <translation>A főablak adatainak betöltése induláskor</translation>
+        </message>
+        <message>
+            <source>Refresh main window data on tab change</source>
+            <translation>A főablak adatainak frissítése fülváltáskor</translation>
+        </message>
+        <message>
+            <source>Show list of found partners on find</source>
+            <translation>A talált partnerek listájának megjelenítése kereséskor</translation>
+        </message>
+        <message>
+            <source>Show list of found products on find</source>
+            <translation>A talált termékek listájának megjelenítése kereséskor</translation>
+        </message>
+        <message>
+            <source>Pressing Enter works like TAB key in data entry windows</source>
+            <translation>Az Enter billentyű a TAB billentyűként működik az adatbeviteli ablakokban</translation>
+        </message>
+        <message>
+            <source>Application behaviour</source>
+            <translation>Program működése</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupChequePage</name>
+        <message>
+            <source>Checque Template</source>
+            <translation>Csekksablon</translation>
+        </message>
+        <message>
+            <source>Csekk vizszintes (x) pozicioja a lapon (mm)</source>
+            <translation>Csekk vízszintes (x) pozíciója a lapon (mm)</translation>
+        </message>
+        <message>
+            <source>Csekk fuggoleges (y) pozicioja a lapon (mm)</source>
+            <translation>Csekk függőleges (y) pozíciója a lapon (mm)</translation>
+        </message>
+        <message>
+            <source>Teszt</source>
+            <translation>Teszt</translation>
+        </message>
+        <message>
+            <source>Csekk-nyomtatas kiprobalasa</source>
+            <translation>Csekknyomtatás kipróbálása</translation>
+        </message>
+        <message>
+            <source>Csekk</source>
+            <translation>Csekk</translation>
+        </message>
+        <message>
+            <source>No cheque template installed</source>
+            <translation>Nincs telepített csekksablon</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupCompanyPage</name>
+        <message>
+            <source>Name</source>
+            <translation>Név</translation>
+        </message>
+        <message>
+            <source>ZIP</source>
+            <translation>Irányítószám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Település</translation>
+        </message>
+        <message>
+            <source>Street Address</source>
+            <translation>Utca, házszám</translation>
+        </message>
+        <message>
+            <source>Phone</source>
+            <translation>Telefon</translation>
+        </message>
+        <message>
+            <source>Bank Name</source>
+            <translation>Bank neve</translation>
+        </message>
+        <message>
+            <source>Bank Account No</source>
+            <translation>Bankszámlaszám</translation>
+        </message>
+        <message>
+            <source>SWIFT</source>
+            <translation>SWIFT</translation>
+        </message>
+        <message>
+            <source>IBAN</source>
+            <translation>IBAN</translation>
+        </message>
+        <message>
+            <source>Tax No</source>
+            <translation>Adószám</translation>
+        </message>
+        <message>
+            <source>Hungarian tax number: 12345678-1-12</source>
+            <translation>Magyar adószám: 12345678-1-12</translation>
+        </message>
+        <message>
+            <source>EU VAT Reg. No.</source>
+            <translation>Közösségi adószám</translation>
+        </message>
+        <message>
+            <source>Country code and number, for example HU12345678</source>
+            <translation>Országkód és szám, például HU12345678</translation>
+        </message>
+        <message>
+            <source>Other Company Data on Invoice</source>
+            <translation>Egyéb cégadatok a számlán</translation>
+        </message>
+        <message>
+            <source>Company Data</source>
+            <translation>Cégadatok</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupDownloadPage</name>
+        <message>
+            <source>Download invoices from this URL</source>
+            <translation>Rendelések letöltése erről a címről</translation>
+        </message>
+        <message>
+            <source>Update basic data on import</source>
+            <translation>Alapadatok frissítése importáláskor</translation>
+        </message>
+        <message>
+            <source>Download products from this URL</source>
+            <translation>Termékek letöltése erről a címről</translation>
+        </message>
+        <message>
+            <source>Download partners from this URL</source>
+            <translation>Partnerek letöltése erről a címről</translation>
+        </message>
+        <message>
+            <source>Login name</source>
+            <translation>Belépési név</translation>
+        </message>
+        <message>
+            <source>Password</source>
+            <translation>Jelszó</translation>
+        </message>
+        <message>
+            <source>Save password</source>
+            <translation>Jelszó mentése</translation>
+        </message>
+        <message>
+            <source>Advanced Setup..</source>
+            <translation>Haladó beállítások...</translation>
+        </message>
+        <message>
+            <source>Advanced Download Setup</source>
+            <translation>A letöltés haladó beállításai</translation>
+        </message>
+        <message>
+            <source>Last imported orderhead timestamp</source>
+            <translation>Az utoljára importált rendelés időbélyege</translation>
+        </message>
+        <message>
+            <source>Max. number of orders to import</source>
+            <translation>Egyszerre importált rendelések legnagyobb száma</translation>
+        </message>
+        <message>
+            <source>Show CODE fields</source>
+            <translation>Kódmezők megjelenítése</translation>
+        </message>
+        <message>
+            <source>Last imported product timestamp</source>
+            <translation>Az utoljára importált termék időbélyege</translation>
+        </message>
+        <message>
+            <source>Max. number of products to import</source>
+            <translation>Egyszerre importált termékek legnagyobb száma</translation>
+        </message>
+        <message>
+            <source>Last imported partner timestamp</source>
+            <translation>Az utoljára importált partner időbélyege</translation>
+        </message>
+        <message>
+            <source>Max. number of partners to import</source>
+            <translation>Egyszerre importált partnerek legnagyobb száma</translation>
+        </message>
+        <message>
+            <source>Webshop</source>
+            <translation>Webáruház</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupInvoicePage</name>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>Invoice No prefix</source>
+            <translation>Számlaszám előtagja</translation>
+        </message>
+        <message>
+            <source>This text will be printed before the invoice number</source>
+            <translation>Ez a szöveg a számlaszám elé kerül</translation>
+        </message>
+        <message>
+            <source>Invoice No padding with zeros</source>
+            <translation>Számlaszám hossza (kiegészítés nullákkal)</translation>
+        </message>
+        <message>
+            <source>Defaults</source>
+            <translation>Alapértékek</translation>
+        </message>
+        <message>
+            <source>Default Discount Type</source>
+            <translation>Alapértelmezett kedvezménytípus</translation>
+        </message>
+        <message>
+            <source>Default Invoice Subject</source>
+            <translation>Alapértelmezett számlatárgy</translation>
+        </message>
+        <message>
+            <source>Printing</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Show print preview before printing invoice</source>
+            <translation>Nyomtatási kép megjelenítése a számla nyomtatása előtt</translation>
+        </message>
+        <message>
+            <source>Invoice copies</source>
+            <translation>Számlapéldányok száma</translation>
+        </message>
+        <message>
+            <source>Ask copies before printing invoice</source>
+            <translation>Példányszám megkérdezése a számla nyomtatása előtt</translation>
+        </message>
+        <message>
+            <source>International Setup</source>
+            <translation>Nemzetközi beállítások</translation>
+        </message>
+        <message>
+            <source>Default Country</source>
+            <translation>Alapértelmezett ország</translation>
+        </message>
+        <message>
+            <source>Countries...</source>
+            <translation>Országok...</translation>
+        </message>
+        <message>
+            <source>Default Second Invoice Language</source>
+            <translation>A számla alapértelmezett második nyelve</translation>
+        </message>
+        <message>
+            <source>Languages...</source>
+            <translation>Nyelvek...</translation>
+        </message>
+        <message>
+            <source>Default Currency</source>
+            <translation>Alapértelmezett pénznem</translation>
+        </message>
+        <message>
+            <source>Currencies...</source>
+            <translation>Pénznemek...</translation>
+        </message>
+        <message>
+            <source>Invoice</source>
+            <translation>Számla</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupInvoiceTemplatePage</name>
+        <message>
+            <source>Test</source>
+            <translation>Teszt</translation>
+        </message>
+        <message>
+            <source>Test the print preview of the selected invoice template</source>
+            <translation>A kiválasztott számlasablon nyomtatási képének kipróbálása</translation>
+        </message>
+        <message>
+            <source>Invoice template</source>
+            <translation>Számlasablon</translation>
+        </message>
+        <message>
+            <source>Print Discount To Invoice</source>
+            <translation>Kedvezmény nyomtatása a számlára</translation>
+        </message>
+        <message>
+            <source>Never</source>
+            <translation>Soha</translation>
+        </message>
+        <message>
+            <source>As item-comment if any</source>
+            <translation>Tételmegjegyzésként, ha van</translation>
+        </message>
+        <message>
+            <source>Automatically on invoices with discounted items</source>
+            <translation>Automatikusan a kedvezményes tételeket tartalmazó számlákon</translation>
+        </message>
+        <message>
+            <source>Always</source>
+            <translation>Mindig</translation>
+        </message>
+        <message>
+            <source>Print a form for signings</source>
+            <translation>Aláírási mezők nyomtatása</translation>
+        </message>
+        <message>
+            <source>Logo nyomtatasa a szamlara</source>
+            <translation>Logó nyomtatása a számlára</translation>
+        </message>
+        <message>
+            <source>Logo merete a szamlan (%)</source>
+            <translation>Logó mérete a számlán (%)</translation>
+        </message>
+        <message>
+            <source>Megnyitás...</source>
+            <translation>Megnyitás...</translation>
+        </message>
+        <message>
+            <source>Logo</source>
+            <translation>Logó</translation>
+        </message>
+        <message>
+            <source>This invoice template is not certified. Printing will not work with it.</source>
+            <translation>Ez a számlasablon nem hitelesített. Ezzel a sablonnal nem lehet számlát nyomtatni.</translation>
+        </message>
+        <message>
+            <source>Certified invoice template.</source>
+            <translation>Hitelesített számlasablon.</translation>
+        </message>
+        <message>
+            <source>Pictures</source>
+            <translation>Képek</translation>
+        </message>
+        <message>
+            <source>A kivalasztott kep betoltese nem sikerult.&amp;Ellenorizze, biztosan kepet tartalmaz-e a fajl!</source>
+            <translation>A kiválasztott kép betöltése nem sikerült.&amp;Ellenőrizze, biztosan képet tartalmaz-e a fájl!</translation>
+        </message>
+        <message>
+            <source>No logo</source>
+            <translation>Nincs logó</translation>
+        </message>
+        <message>
+            <source>Invoice Template</source>
+            <translation>Számlasablon</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupPages</name>
+        <message>
+            <source>Built-in template</source>
+            <translation>Beépített sablon</translation>
+        </message>
+        <message>
+            <source>The template in use</source>
+            <translation>A jelenleg használt sablon</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupRoundingPage</name>
+        <message>
+            <source>Rounding and printing decimals of the forint (HUF).</source>
+            <translation>A forint (HUF) kerekítési és nyomtatási tizedesjegyei.</translation>
+        </message>
+        <message>
+            <source>Rounding</source>
+            <translation>Kerekítés</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupSave</name>
+        <message>
+            <source>Company Name is required.</source>
+            <translation>A cég nevét meg kell adni.</translation>
+        </message>
+        <message>
+            <source>ZIP is required.</source>
+            <translation>Az irányítószámot meg kell adni.</translation>
+        </message>
+        <message>
+            <source>City is required.</source>
+            <translation>A települést meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Street Address is required.</source>
+            <translation>Az utcát és a házszámot meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Currency is required.</source>
+            <translation>A pénznemet meg kell adni.</translation>
+        </message>
+        <message>
+            <source>Field is required.</source>
+            <translation>A mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Set the logo size.</source>
+            <translation>Adja meg a logó méretét.</translation>
+        </message>
+        <message>
+            <source>Can not count invoices</source>
+            <translation>Nem sikerült megszámolni a számlákat</translation>
+        </message>
+        <message>
+            <source>A logo adatbazisba mentese nem sikerult.</source>
+            <translation>A logó adatbázisba mentése nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Unable to save setup to database.</source>
+            <translation>Nem sikerült a beállításokat az adatbázisba menteni.</translation>
+        </message>
+        <message>
+            <source>A számlaszám előtagjában szerepel az évszám.&amp;Az előtag az első számla kinyomtatása után már nem változtatható meg, a számlák sorszámozása pedig az év végén sem kezdődik újra. Új évhez új előtaggal új cégadatbázist kell kezdeni.</source>
+            <translation>A számlaszám előtagjában szerepel az évszám.&amp;Az előtag az első számla kinyomtatása után már nem változtatható meg, a számlák sorszámozása pedig az év végén sem kezdődik újra. Új évhez új előtaggal új cégadatbázist kell kezdeni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupWindow</name>
+        <message>
+            <source>Setup</source>
+            <translation>Beállítások</translation>
+        </message>
+    </context>
+    <context>
         <name>SqlErrorLayout</name>
         <message>
             <source>SQL error:</source>
@@ -3373,6 +4171,25 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>TaxNumber</name>
+        <message>
+            <source>The tax number must have the form 12345678-1-12 (8, 1 and 2 digits).</source>
+            <translation>Az adószám formája 12345678-1-12 (8, 1 és 2 számjegy).</translation>
+        </message>
+        <message>
+            <source>The tax number is not valid: its eighth digit does not match the first seven.&amp;Check for a mistyped digit.</source>
+            <translation>Az adószám érvénytelen: a nyolcadik számjegye nem egyezik az első hét számjegyből számolt ellenőrző számmal.&amp;Ellenőrizze, nincs-e elgépelve.</translation>
+        </message>
+        <message>
+            <source>The EU VAT number must begin with a country code of the EU and have that country's form (for example HU12345676).</source>
+            <translation>A közösségi adószám egy uniós ország kódjával kezdődik, és az adott ország formáját követi (például HU12345676).</translation>
+        </message>
+        <message>
+            <source>The EU VAT number is not valid: its check digit does not match.</source>
+            <translation>A közösségi adószám érvénytelen: az ellenőrző számjegye nem egyezik.</translation>
+        </message>
+    </context>
+    <context>
         <name>TranslationModel</name>
         <message>
             <source>Language</source>
@@ -3451,336 +4268,6 @@ Folytatja?</translation>
         <message>
             <source>Percent field must have a value.</source>
             <translation>A százalék mezőt ki kell tölteni.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeStore</name>
-        <message>
-            <source>%d db csekk torlese.&amp;Biztosan torolni szeretne a kijelolt csekkeket?</source>
-            <translation>%d db csekk törlése.&amp;Biztosan törölni szeretné a kijelölt csekkeket?</translation>
-        </message>
-        <message>
-            <source>%d kijelolt csekk nem torolheto,&amp;mert mar korabban ki lettek nyomtatva.</source>
-            <translation>%d kijelölt csekk nem törölhető,&amp;mert már korábban ki lettek nyomtatva.</translation>
-        </message>
-        <message>
-            <source>A csekk osszege nem lehet negativ.</source>
-            <translation>A csekk összege nem lehet negatív.</translation>
-        </message>
-        <message>
-            <source>A csekk osszege tul nagy.</source>
-            <translation>A csekk összege túl nagy.</translation>
-        </message>
-        <message>
-            <source>Az osszeget meg kell adnia.</source>
-            <translation>Az összeget meg kell adnia.</translation>
-        </message>
-        <message>
-            <source>Biztosan torolni szeretne a kivalasztott csekket?</source>
-            <translation>Biztosan törölni szeretné a kiválasztott csekket?</translation>
-        </message>
-        <message>
-            <source>Csekk adatainak betoltese nem sikerult.&amp;Elkepzelheto, hogy egy masik felhasznalo mar torolte.</source>
-            <translation>A csekk adatainak betöltése nem sikerült.&amp;Elképzelhető, hogy egy másik felhasználó már törölte.</translation>
-        </message>
-        <message>
-            <source>Csekk csak kiallitott szamlahoz nyomtathato.</source>
-            <translation>Csekk csak kiállított számlához nyomtatható.</translation>
-        </message>
-        <message>
-            <source>Csekk mentese nem sikerult.</source>
-            <translation>A csekk mentése nem sikerült.</translation>
-        </message>
-        <message>
-            <source>Database error:&amp;</source>
-            <translation>Adatbázishiba:&amp;</translation>
-        </message>
-        <message>
-            <source>Hiba: Csekkek lekerdezese nem sikerult&amp;%s</source>
-            <translation>Hiba: a csekkek lekérdezése nem sikerült&amp;%s</translation>
-        </message>
-        <message>
-            <source>Kelt: %1:s
-Fiz. hatarido: %2:s
-%3:s</source>
-            <translation>Kelt: %1:s
-Fiz. határidő: %2:s
-%3:s</translation>
-        </message>
-        <message>
-            <source>Kelt:
-%1:s
-Fiz. hatarido:
-%2:s
-%3:s</source>
-            <translation>Kelt:
-%1:s
-Fiz. határidő:
-%2:s
-%3:s</translation>
-        </message>
-        <message>
-            <source>There are more matching cheques then displayed. Try more specific filter.</source>
-            <translation>Több csekk felel meg a szűrésnek, mint amennyi megjelenik. Adjon meg pontosabb szűrést.</translation>
-        </message>
-        <message>
-            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
-            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
-        </message>
-        <message>
-            <source>"%s" is not an amount. Type digits, with a decimal comma or point.</source>
-            <translation>„%s” nem összeg. Számjegyeket írjon, tizedesvesszővel vagy -ponttal.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequePrinting</name>
-        <message>
-            <source>Csekk-nyomtatas kiprobalasa</source>
-            <translation>Csekknyomtatás kipróbálása</translation>
-        </message>
-        <message>
-            <source>Csekk: %s, %d Ft</source>
-            <translation>Csekk: %s, %d Ft</translation>
-        </message>
-        <message>
-            <source>Csekkek nyomtatasa - Vantrell Szamlazo</source>
-            <translation>Csekkek nyomtatása - Vantrell Számlázó</translation>
-        </message>
-        <message>
-            <source>Csekkek nyomtatasa</source>
-            <translation>Csekkek nyomtatása</translation>
-        </message>
-        <message>
-            <source>Nem sikerult a csekk adatainak betoltese az adatbazisbol.</source>
-            <translation>Nem sikerült a csekk adatainak betöltése az adatbázisból.</translation>
-        </message>
-        <message>
-            <source>Nincsenek nyomtatando csekkek</source>
-            <translation>Nincsenek nyomtatandó csekkek</translation>
-        </message>
-        <message>
-            <source>Nyomtatas nem sikerult.</source>
-            <translation>A nyomtatás nem sikerült.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeTemplates</name>
-        <message>
-            <source>Select a cheque template in Setup.</source>
-            <translation>Válasszon csekksablont a Beállításokban.</translation>
-        </message>
-        <message>
-            <source>The cheque template %s is missing from %s.</source>
-            <translation>A(z) %s csekksablon hiányzik innen: %s.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeCommands</name>
-        <message>
-            <source>Cheques printed: %d</source>
-            <translation>Kinyomtatott csekkek: %d</translation>
-        </message>
-        <message>
-            <source>Not a cheque ID: %s</source>
-            <translation>Nem csekkazonosító: %s</translation>
-        </message>
-        <message>
-            <source>Nyomtatas napja</source>
-            <translation>Nyomtatás napja</translation>
-        </message>
-        <message>
-            <source>Osszeg</source>
-            <translation>Összeg</translation>
-        </message>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>Szamlaszam</source>
-            <translation>Számlaszám</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeEdit</name>
-        <message>
-            <source>Create Cheque</source>
-            <translation>Csekk létrehozása</translation>
-        </message>
-        <message>
-            <source>Edit Cheque</source>
-            <translation>Csekk szerkesztése</translation>
-        </message>
-        <message>
-            <source>Print Preview</source>
-            <translation>Nyomtatási kép</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeFilter</name>
-        <message>
-            <source>Filter by partner</source>
-            <translation>Szűrés partnerre</translation>
-        </message>
-        <message>
-            <source>Filter</source>
-            <translation>Szűrés</translation>
-        </message>
-        <message>
-            <source>You can search by the start of partner's name</source>
-            <translation>A partner nevének elejére kereshet</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeList</name>
-        <message>
-            <source>Csekkek nyomtatasa</source>
-            <translation>Csekkek nyomtatása</translation>
-        </message>
-        <message>
-            <source>Delete</source>
-            <translation>Törlés</translation>
-        </message>
-        <message>
-            <source>Delete	Delete</source>
-            <translation>Törlés	Delete</translation>
-        </message>
-        <message>
-            <source>Edit</source>
-            <translation>Szerkesztés</translation>
-        </message>
-        <message>
-            <source>Filter list of cheques</source>
-            <translation>A csekkek listájának szűrése</translation>
-        </message>
-        <message>
-            <source>Filter</source>
-            <translation>Szűrés</translation>
-        </message>
-        <message>
-            <source>Insert</source>
-            <translation>Új</translation>
-        </message>
-        <message>
-            <source>Refresh list of cheques</source>
-            <translation>A csekkek listájának frissítése</translation>
-        </message>
-        <message>
-            <source>Refresh</source>
-            <translation>Frissítés</translation>
-        </message>
-        <message>
-            <source>Valassza ki a torlendo csekket!</source>
-            <translation>Válassza ki a törlendő csekket!</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequePrinterLayout</name>
-        <message>
-            <source>Csak a kivalasztott csekkeket nyomtatja</source>
-            <translation>Csak a kiválasztott csekkeket nyomtatja</translation>
-        </message>
-        <message>
-            <source>Csekknyomtatas modja</source>
-            <translation>Csekknyomtatás módja</translation>
-        </message>
-        <message>
-            <source>Minden csekket nyomtat, amik meg nem voltak nyomtatva</source>
-            <translation>Minden csekket nyomtat, amely még nem volt nyomtatva</translation>
-        </message>
-        <message>
-            <source>Print</source>
-            <translation>Nyomtatás</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeListModel</name>
-        <message>
-            <source>Code</source>
-            <translation>Kód</translation>
-        </message>
-        <message>
-            <source>Szamlaszam</source>
-            <translation>Számlaszám</translation>
-        </message>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>Osszeg</source>
-            <translation>Összeg</translation>
-        </message>
-        <message>
-            <source>Nyomtatas napja</source>
-            <translation>Nyomtatás napja</translation>
-        </message>
-    </context>
-    <context>
-        <name>ChequeEditLayout</name>
-        <message>
-            <source>Partner Name</source>
-            <translation>Partner neve</translation>
-        </message>
-        <message>
-            <source>ZIP</source>
-            <translation>Irányítószám</translation>
-        </message>
-        <message>
-            <source>City</source>
-            <translation>Település</translation>
-        </message>
-        <message>
-            <source>Street Address</source>
-            <translation>Utca, házszám</translation>
-        </message>
-        <message>
-            <source>Szamlaszam</source>
-            <translation>Számlaszám</translation>
-        </message>
-        <message>
-            <source>Osszeg</source>
-            <translation>Összeg</translation>
-        </message>
-        <message>
-            <source>Jogcim (bal oldalon)</source>
-            <translation>Jogcím (bal oldalon)</translation>
-        </message>
-        <message>
-            <source>Kozlemeny (jobb oldalon)</source>
-            <translation>Közlemény (jobb oldalon)</translation>
-        </message>
-        <message>
-            <source>Partner keresese vagy uj partner letrehozasa</source>
-            <translation>Partner keresése vagy új partner létrehozása</translation>
-        </message>
-        <message>
-            <source>&amp;Find Partner</source>
-            <translation>&amp;Partner keresése</translation>
-        </message>
-        <message>
-            <source>Print</source>
-            <translation>Nyomtatás</translation>
-        </message>
-        <message>
-            <source>Later</source>
-            <translation>Később</translation>
-        </message>
-        <message>
-            <source>Csekk letrehozasa/szerkesztese</source>
-            <translation>Csekk létrehozása/szerkesztése</translation>
-        </message>
-        <message>
-            <source>Print Preview</source>
-            <translation>Nyomtatási kép</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Mégse</translation>
         </message>
     </context>
 </TS>

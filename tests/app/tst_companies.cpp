@@ -10,6 +10,7 @@
 #include "base/SqlStatement.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/LabelTranslations.h"
+#include "masterdata/TaxNumber.h"
 
 #include <QtTest>
 
@@ -170,6 +171,9 @@ private Q_SLOTS:
         AddRow("same tax number written differently", "Másik Kft.", " 11111111 2 41", "",
                taxNoTaken);
         AddRow("no name", "  ", "33333333-2-43", "", "Name field must have a value.");
+        AddRow("wrong check digit", "Másik Kft.", "33333334-2-43", "",
+               "The tax number is not valid: its eighth digit does not match the first "
+               "seven.&Check for a mistyped digit.");
         AddRow("file exists", "Másik Kft.", "33333333-2-43", "kovacs_bt.db",
                "kovacs_bt.db already exists.");
         AddRow("file would be hidden", "Másik Kft.", "33333333-2-43", ".masik.db",
@@ -276,7 +280,11 @@ private:
 QString TestCompanies::company(const QString& name, QString taxNo)
 {
     if (taxNo.isEmpty())
-        taxNo = QStringLiteral("1000000%1-2-41").arg(++m_taxNo);
+    {
+        // Distinct numbers that pass the check digit.
+        const QString seven = QString::number(1000000 + ++m_taxNo);
+        taxNo = seven + QString::number(HungarianTaxNoCheckDigit(seven)) + QStringLiteral("-2-41");
+    }
     QString path;
     ScriptedInteraction quiet;
     const Result r = name == "demo" ? CreateDemoCompany(m_dir->path(), quiet, &path)

@@ -175,10 +175,10 @@ private Q_SLOTS:
     {
         AddColumns<QString, QString, QString, int, QString>(
             {"language", "context", "source", "count", "expected"});
-        AddRow("hu menu", "hu", "MainWindow", "Szamlak importalasa fajlbol", -1,
-               "Számlák importálása fájlból");
-        AddRow("en menu", "en", "MainWindow", "Szamlak importalasa fajlbol", -1,
-               "Import invoices from file");
+        AddRow("hu menu", "hu", "MainWindow", "&Szamlak importalasa fajlbol", -1,
+               "&Számlák importálása fájlból");
+        AddRow("en menu", "en", "MainWindow", "&Szamlak importalasa fajlbol", -1,
+               "&Import invoices from file");
         AddRow("en dialog", "en", "PartnerEditLayout", "Levelezesi cim", -1, "Mailing Address");
         AddRow("en order list", "en", "OrderList", "Egyeb muveletek", -1, "Other Operations");
         AddRow("en plural", "en", "VatTable", "This VAT key is used by %n product(s).", 3,

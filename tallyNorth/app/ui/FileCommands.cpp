@@ -2,6 +2,7 @@
 
 #include "MainWindow.h"
 #include "NewCompanyDlg.h"
+#include "SetupWindow.h"
 #include "Startup.h"
 #include "base/ui/GuiInteraction.h"
 
@@ -109,4 +110,9 @@ void RegisterFileCommands(MainWindow& window)
     window.setCommand(MainCommand::DoBackup, [&window] { DoBackupCommand(window); });
     window.setCommand(MainCommand::RestoreBackup, [&window] { RestoreBackupCommand(window); });
     window.setCommand(MainCommand::Exit, [&window] { window.close(); });
+    // Saved settings apply at once: title, Enter as Tab, the lists' loading rules.
+    window.setCommand(MainCommand::Setup, [&window] {
+        if (SetupWindow::edit(&window))
+            window.companyChanged();
+    });
 }

@@ -84,94 +84,95 @@ QAction* MainWindow::addCommand(QMenu* menu, MainCommand command, const QString&
 void MainWindow::buildMenus()
 {
     QStyle* s = style();
-    QMenu* file = menuBar()->addMenu(tr("File"));
+    QMenu* file = menuBar()->addMenu(tr("&File"));
     file->setObjectName(QStringLiteral("m_menu_file"));
-    QAction* newOrder = addCommand(file, MainCommand::NewOrder, tr("New Order / Invoice..."),
+    QAction* newOrder = addCommand(file, MainCommand::NewOrder, tr("&New Order / Invoice..."),
                                    tr("Create new order / invoice"));
     newOrder->setIcon(s->standardIcon(QStyle::SP_FileIcon));
     newOrder->setShortcut(QKeySequence::New);
-    addCommand(file, MainCommand::Setup, tr("Setup..."),
+    addCommand(file, MainCommand::Setup, tr("&Setup..."),
                tr("Setup your company's data and application defaults"))
         ->setIcon(s->standardIcon(QStyle::SP_FileDialogDetailedView));
-    QMenu* backup = file->addMenu(s->standardIcon(QStyle::SP_DialogSaveButton), tr("Backup"));
+    QMenu* backup = file->addMenu(s->standardIcon(QStyle::SP_DialogSaveButton), tr("&Backup"));
     m_submenus << backup;
     backup->menuAction()->setStatusTip(tr("Do or restore backup"));
-    addCommand(backup, MainCommand::DoBackup, tr("Do backup..."), tr("Do backup of your database"))
+    addCommand(backup, MainCommand::DoBackup, tr("&Do backup..."), tr("Do backup of your database"))
         ->setIcon(s->standardIcon(QStyle::SP_DialogSaveButton));
-    addCommand(backup, MainCommand::RestoreBackup, tr("Restore backup..."),
+    addCommand(backup, MainCommand::RestoreBackup, tr("&Restore backup..."),
                tr("Restore backup of your database"))
         ->setIcon(s->standardIcon(QStyle::SP_BrowserReload));
-    addCommand(file, MainCommand::ChangeCompany, tr("Change database/company..."),
+    addCommand(file, MainCommand::ChangeCompany, tr("&Change database/company..."),
                tr("Change database to an other one if you want to work with an other company"))
         ->setIcon(s->standardIcon(QStyle::SP_DirOpenIcon));
-    addCommand(file, MainCommand::NewCompany, tr("New company..."),
+    addCommand(file, MainCommand::NewCompany, tr("Ne&w company..."),
                tr("Create a new company database"))
         ->setIcon(s->standardIcon(QStyle::SP_FileDialogNewFolder));
     file->addSeparator();
-    QAction* exit =
-        addCommand(file, MainCommand::Exit, tr("Exit"), tr("Finish editing and close this window"));
+    QAction* exit = addCommand(file, MainCommand::Exit, tr("E&xit"),
+                               tr("Finish editing and close this window"));
     exit->setIcon(s->standardIcon(QStyle::SP_DialogCloseButton));
     exit->setShortcut(QKeySequence::Quit);
     exit->setMenuRole(QAction::QuitRole);
 
-    QMenu* basic = menuBar()->addMenu(tr("Basic Data"));
-    addCommand(basic, MainCommand::VatKeys, tr("VAT Keys"), tr("Change VAT keys"));
-    addCommand(basic, MainCommand::NoVatReasons, tr("No VAT Reasons"), tr("Manage No VAT Reasons"));
-    addCommand(basic, MainCommand::PaymentMethods, tr("Payment methods"),
+    QMenu* basic = menuBar()->addMenu(tr("&Basic Data"));
+    addCommand(basic, MainCommand::VatKeys, tr("&VAT Keys"), tr("Change VAT keys"));
+    addCommand(basic, MainCommand::NoVatReasons, tr("&No VAT Reasons"),
+               tr("Manage No VAT Reasons"));
+    addCommand(basic, MainCommand::PaymentMethods, tr("&Payment methods"),
                tr("Change payment methods"));
-    addCommand(basic, MainCommand::StatNumbers, tr("Stat Numbers"),
+    addCommand(basic, MainCommand::StatNumbers, tr("&Stat Numbers"),
                tr("Change often used stat numbers"));
-    addCommand(basic, MainCommand::Languages, tr("Languages"), tr("Change languages"));
-    addCommand(basic, MainCommand::Countries, tr("Countries"), tr("Manage countries"));
-    addCommand(basic, MainCommand::Currencies, tr("Currencies, Bank Accounts and Rates"),
+    addCommand(basic, MainCommand::Languages, tr("&Languages"), tr("Change languages"));
+    addCommand(basic, MainCommand::Countries, tr("C&ountries"), tr("Manage countries"));
+    addCommand(basic, MainCommand::Currencies, tr("&Currencies, Bank Accounts and Rates"),
                tr("Manage currencies, bank accounts and rates"));
-    addCommand(basic, MainCommand::LabelTranslations, tr("Invoice Label Translations"),
+    addCommand(basic, MainCommand::LabelTranslations, tr("&Invoice Label Translations"),
                tr("Manage invoice label translations"));
 
-    QMenu* webshop = menuBar()->addMenu(tr("Webshop"));
-    addCommand(webshop, MainCommand::DownloadOrders, tr("Download orders"),
+    QMenu* webshop = menuBar()->addMenu(tr("&Webshop"));
+    addCommand(webshop, MainCommand::DownloadOrders, tr("Download &orders"),
                tr("Download external orders from web, based on Setup"))
         ->setIcon(s->standardIcon(QStyle::SP_ArrowDown));
-    addCommand(webshop, MainCommand::DownloadProducts, tr("Download products"),
+    addCommand(webshop, MainCommand::DownloadProducts, tr("Download pro&ducts"),
                tr("Download external products from web, based on Setup"));
-    addCommand(webshop, MainCommand::DownloadPartners, tr("Download partners"),
+    addCommand(webshop, MainCommand::DownloadPartners, tr("Download p&artners"),
                tr("Download external partners from web, based on Setup"));
     webshop->addSeparator();
     // Source texts in Hungarian without accents: both translations give the readable text.
-    addCommand(webshop, MainCommand::ImportOrders, tr("Szamlak importalasa fajlbol"),
+    addCommand(webshop, MainCommand::ImportOrders, tr("&Szamlak importalasa fajlbol"),
                tr("Szamlakat tartalmazo fajl megnyitasa es importalasa"))
         ->setIcon(s->standardIcon(QStyle::SP_DialogOpenButton));
     addCommand(webshop, MainCommand::ImportProducts,
-               tr("Termekek/szolgaltatasok importalasa fajlbol"),
+               tr("Termekek/szolgaltatasok &importalasa fajlbol"),
                tr("Termekeket/szolgaltatasokat tartalmazo fajl megnyitasa es importalasa"));
-    addCommand(webshop, MainCommand::ImportPartners, tr("Partnerek importalasa fajlbol"),
+    addCommand(webshop, MainCommand::ImportPartners, tr("&Partnerek importalasa fajlbol"),
                tr("Partnereket tartalmazo fajl megnyitasa es importalasa"));
 
-    QMenu* reports = menuBar()->addMenu(tr("Reports"));
-    addCommand(reports, MainCommand::OutgoingInvoices, tr("Outgoing Invoices"),
+    QMenu* reports = menuBar()->addMenu(tr("&Reports"));
+    addCommand(reports, MainCommand::OutgoingInvoices, tr("Outgoing &Invoices"),
                tr("Print or export list of invoices"));
-    addCommand(reports, MainCommand::OutgoingInvoiceItems, tr("Outgoing Invoice Items"),
+    addCommand(reports, MainCommand::OutgoingInvoiceItems, tr("Outgoing Invoice I&tems"),
                tr("Print or export list of invoice items"));
-    addCommand(reports, MainCommand::CustomersReport, tr("Customers Report"),
+    addCommand(reports, MainCommand::CustomersReport, tr("&Customers Report"),
                tr("Print or export sum of sales grouped by partners"));
-    addCommand(reports, MainCommand::ProductsSoldReport, tr("Products Sold Report"),
+    addCommand(reports, MainCommand::ProductsSoldReport, tr("&Products Sold Report"),
                tr("Print or export sum of sales grouped by products"));
-    QMenu* receivables = reports->addMenu(tr("Receivables"));
+    QMenu* receivables = reports->addMenu(tr("&Receivables"));
     m_submenus << receivables;
-    addCommand(receivables, MainCommand::ReceivablesByInvoices, tr("Receivables by invoices"),
+    addCommand(receivables, MainCommand::ReceivablesByInvoices, tr("Receivables by &invoices"),
                tr("Print or export unpaid invoices"));
-    addCommand(receivables, MainCommand::ReceivablesByPartners, tr("Receivables by partners"),
+    addCommand(receivables, MainCommand::ReceivablesByPartners, tr("Receivables by &partners"),
                tr("Print or export unpaid invoices grouped by partners"));
 
-    QMenu* help = menuBar()->addMenu(tr("Help"));
-    QAction* topics = addCommand(help, MainCommand::HelpTopics, tr("Help Topics"),
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    QAction* topics = addCommand(help, MainCommand::HelpTopics, tr("&Help Topics"),
                                  tr("Show the list of Help topics"));
     topics->setIcon(s->standardIcon(QStyle::SP_DialogHelpButton));
     topics->setShortcut(QKeySequence::HelpContents);
-    addCommand(help, MainCommand::Declaration, tr("Nyilatkozat"),
+    addCommand(help, MainCommand::Declaration, tr("&Nyilatkozat"),
                tr("24/1995. (XI. 22.) PM rendelet szerinti nyilatkozat megjelenitese"));
     help->addSeparator();
-    addCommand(help, MainCommand::About, tr("About"),
+    addCommand(help, MainCommand::About, tr("&About"),
                tr("Information about the program, its version and developer"))
         ->setMenuRole(QAction::AboutRole);
 }

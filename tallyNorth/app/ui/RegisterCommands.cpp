@@ -1,6 +1,7 @@
 #include "RegisterCommands.h"
 
 #include "FileCommands.h"
+#include "HelpCommands.h"
 #include "MainWindow.h"
 #include "SqlErrorDlg.h"
 
@@ -19,6 +20,7 @@ void InstallShellServices()
 {
     GuiInteraction::setMessageFormatter(MessageRichText);
     GuiInteraction::setSqlErrorDialog(&SqlErrorDlg::askRetry);
+    InstallHelp();
     InstallLabelLoading();
     InstallOrderEditPrinting();
     InstallOrderPrinting();
@@ -29,6 +31,7 @@ void InstallShellServices()
 void RegisterCommands(MainWindow& window)
 {
     RegisterFileCommands(window);
+    RegisterHelpCommands(window);
     RegisterMasterdataCommands(window);
     RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);

@@ -7,6 +7,7 @@
 #include "Columns.h"
 #include "masterdata/DiscountType.h"
 #include "masterdata/MasterTables.h"
+#include "masterdata/TaxNumber.h"
 
 using namespace Col;
 
@@ -59,6 +60,21 @@ void PartnerEdit::showRecord(const Record& row)
 {
     Q_UNUSED(row);
     mirrorMailAddress();
+}
+
+void PartnerEdit::accept()
+{
+    const std::optional<qint64> country = RowId(m_ui->m_country_id->currentData());
+    const bool home = !country || *country == 0;
+    const QString taxNo = m_ui->m_tax_no->text();
+    const QString wrong = PartnerTaxNoMessage(taxNo, m_ui->m_eu_tax_no->text(), home);
+    if (!wrong.isEmpty()) {
+        interaction().exclamation(wrong);
+        const bool taxNoWrong = home && !HungarianTaxNoMessage(taxNo).isEmpty();
+        RevealField(taxNoWrong ? m_ui->m_tax_no : m_ui->m_eu_tax_no);
+        return;
+    }
+    RecordEditDlg::accept();
 }
 
 void PartnerEdit::mirrorMailAddress()

@@ -14,6 +14,9 @@ public:
     PartnerEdit(std::optional<qint64> id, QWidget* parent = nullptr);
     ~PartnerEdit() override;
 
+    // The tax numbers are checked before the row is saved.
+    void accept() override;
+
 protected:
     void newRecord(Record& row) override;
     void showRecord(const Record& row) override;

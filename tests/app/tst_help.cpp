@@ -1,0 +1,144 @@
+// The help: every topic of the tree is a readable Hungarian document, the addresses resolve,
+// the about box is filled, and the "Help" buttons open the window on their topic.
+#include "ModalDriver.h"
+
+#include "app/HelpTopics.h"
+#include "app/ui/HelpCommands.h"
+#include "app/ui/HelpWindow.h"
+#include "base/ui/HelpLink.h"
+#include "documents/QtfReader.h"
+#include "masterdata/ui/MasterBrowses.h"
+#include "masterdata/ui/RecordBrowse.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QtTest>
+
+class TestHelp : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void everyTopicReads_data()
+    {
+        QTest::addColumn<QString>("id");
+        for (const HelpTopic& topic : HelpTopicTree())
+            if (!topic.id.isEmpty())
+                QTest::newRow(qPrintable(topic.id)) << topic.id;
+        QTest::newRow("AboutTemplate") << "AboutTemplate";
+    }
+    void everyTopicReads()
+    {
+        QFETCH(QString, id);
+        const QString qtf = HelpTopicQtf(HelpTopicAddress(id));
+        QVERIFY(!qtf.isEmpty());
+        const QString text = QtfToPlainText(qtf);
+        // A QTF slip stops the reader with an ERROR mark in the text.
+        QVERIFY2(!text.contains(QLatin1String("ERROR:")), qPrintable(text.right(200)));
+        QVERIFY(text.size() > 40);
+        QCOMPARE(HelpTopicQtf(id), qtf);
+    }
+
+    // The titles of the tree are the topics' own titles, in the given order.
+    void treeOrder()
+    {
+        const QList<HelpTopic>& tree = HelpTopicTree();
+        QCOMPARE(tree.size(), 25);
+        QCOMPARE(tree.first().id, QStringLiteral("Bevezetes"));
+        QCOMPARE(tree.at(1).title, QStringLiteral("Beállítások"));
+        QVERIFY(tree.at(1).id.isEmpty());
+        QCOMPARE(tree.at(2).id, QStringLiteral("ProgramKezelese"));
+        QCOMPARE(tree.last().id, QStringLiteral("Nyilatkozat"));
+        for (const HelpTopic& topic : tree)
+            if (!topic.id.isEmpty())
+                QCOMPARE(HelpTopicTitle(topic.id), topic.title);
+    }
+
+    void addresses_data()
+    {
+        QTest::addColumn<QString>("topic");
+        QTest::addColumn<QString>("id");
+        QTest::newRow("address") << "topic://tallyNorth/app/AboutTemplate$hu-hu"
+                                 << "AboutTemplate";
+        QTest::newRow("id") << "Partnerek"
+                            << "Partnerek";
+        QTest::newRow("unknown") << "NoSuchTopic" << QString();
+        QTest::newRow("path") << "../Partnerek" << QString();
+    }
+    void addresses()
+    {
+        QFETCH(QString, topic);
+        QFETCH(QString, id);
+        QCOMPARE(HelpTopicQtf(topic).isEmpty(), id.isEmpty());
+        if (!id.isEmpty())
+            QCOMPARE(HelpTopicId(topic), id);
+    }
+
+    void aboutIsFilled()
+    {
+        const QString text = QtfToPlainText(AboutQtf());
+        QVERIFY(text.contains(QStringLiteral("3.0.4")));
+        QVERIFY(text.contains(ProgramHomepage()));
+        QVERIFY(text.contains(ProgramEmail()));
+        QVERIFY(!text.contains(u'!'));
+    }
+
+    void windowShowsTopic()
+    {
+        HelpWindow window;
+        QCOMPARE(window.windowTitle(), QStringLiteral("Vantrell Számlázó Súgó"));
+        QVERIFY(window.showTopic(QStringLiteral("topic://tallyNorth/app/Nyilatkozat$hu-hu")));
+        QCOMPARE(window.currentTopic(), QStringLiteral("Nyilatkozat"));
+        QCOMPARE(window.tree()->currentItem()->text(0), QStringLiteral("Nyilatkozat"));
+        QVERIFY(window.text()->toPlainText().contains(QStringLiteral("24/1995")));
+        QVERIFY(!window.showTopic(QStringLiteral("NoSuchTopic")));
+        // Choosing in the tree shows that topic.
+        const QList<QTreeWidgetItem*> found =
+            window.tree()->findItems(QStringLiteral("Partnerek"), Qt::MatchRecursive);
+        QVERIFY(!found.isEmpty());
+        window.tree()->setCurrentItem(found.first());
+        QCOMPARE(window.currentTopic(), QStringLiteral("Partnerek"));
+    }
+
+    // Once the help is installed, the lists' Help buttons are live and name a topic that exists.
+    void listHelpButtonsLive()
+    {
+        InstallHelp();
+        for (MasterTable table :
+             {MasterTable::Vat, MasterTable::Currency, MasterTable::PaymentMethod,
+              MasterTable::NoVatReason, MasterTable::StatNo, MasterTable::Lang,
+              MasterTable::Country, MasterTable::Partner}) {
+            const BrowseInfo& info = MasterBrowseInfo(table);
+            RecordBrowse browse(info, RecordBrowse::Mode::Manage);
+            QVERIFY(browse.findChild<QPushButton*>(u"m_help"_qs)->isEnabled());
+            QVERIFY2(!HelpTopicQtf(QString::fromLatin1(info.helpTopic)).isEmpty(), info.helpTopic);
+        }
+    }
+
+    // A dialog's Help button opens the help window over the dialog, on the dialog's topic.
+    void helpButtonOpensTopic()
+    {
+        SetHelpOpener(&HelpWindow::open);
+        QDialog dialog;
+        auto* buttons = new QDialogButtonBox(QDialogButtonBox::Help, &dialog);
+        LinkHelp(buttons, QStringLiteral("SztornoSzamla"));
+        QString shown;
+        ModalDriver driver(
+            {[buttons](QWidget*) {
+                 Later([buttons] { buttons->button(QDialogButtonBox::Help)->click(); });
+             },
+             [&shown](QWidget* w) {
+                 if (auto* help = qobject_cast<HelpWindow*>(w))
+                     shown = help->currentTopic();
+                 w->close();
+             },
+             [](QWidget* w) { w->close(); }});
+        dialog.exec();
+        QTRY_VERIFY(driver.done());
+        QCOMPARE(shown, QStringLiteral("SztornoSzamla"));
+    }
+};
+
+QTEST_MAIN(TestHelp)
+#include "tst_help.moc"
