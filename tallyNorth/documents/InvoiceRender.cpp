@@ -602,7 +602,7 @@ Result InvoiceRender::loadSample(InvoiceData& data)
     set(h, Col::ORDERHEAD_PARTNER_ZIP, QStringLiteral("1011"));
     set(h, Col::ORDERHEAD_PARTNER_CITY, QStringLiteral("Budapest"));
     set(h, Col::ORDERHEAD_PARTNER_ADDRESS, QStringLiteral("Fő utca 1."));
-    set(h, Col::ORDERHEAD_PARTNER_TAX_NO, QStringLiteral("12345678-2-41"));
+    set(h, Col::ORDERHEAD_PARTNER_TAX_NO, QStringLiteral("12345676-2-41"));
     set(h, Col::ORDERHEAD_PARTNER_COUNTRY_NAME, QStringLiteral("Magyarország"));
     set(h, Col::ORDERHEAD_PARTNER_LANG_ID, 0);
     set(h, Col::ORDERHEAD_PAYMENTMETHOD_NAME, QStringLiteral("Átutalás"));

@@ -16,7 +16,7 @@ private Q_SLOTS:
     void init()
     {
         QVERIFY(m_base.emplace().isValid());
-        QCOMPARE(cli({"create", "Minta Kft", "--tax-no", "12345678-2-42", "--file", "minta.db"})
+        QCOMPARE(cli({"create", "Minta Kft", "--tax-no", "12345676-2-42", "--file", "minta.db"})
                      .exitCode,
                  0);
         QCOMPARE(stored("insert into PAYMENTMETHOD (PAYMENTMETHOD_CODE, PAYMENTMETHOD_PAID, "

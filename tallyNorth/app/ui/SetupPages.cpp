@@ -4,9 +4,10 @@
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
-#include "base/ui/ChequeTestPrint.h"
 #include "base/ui/EnterLikeTab.h"
 #include "base/ui/GuiInteraction.h"
+#include "documents/ChequePrinting.h"
+#include "documents/ChequeTemplate.h"
 #include "documents/InvoiceIssue.h"
 #include "documents/InvoiceTemplate.h"
 #include "documents/ui/InvoicePrinting.h"
@@ -490,39 +491,53 @@ SetupChequePage::SetupChequePage(QWidget* parent) : SetupPage(parent)
                    tr("Csekk vizszintes (x) pozicioja a lapon (mm)"));
     addMillimetres(form, SETUP_CHEQUE_MARGIN_TOP_MM,
                    tr("Csekk fuggoleges (y) pozicioja a lapon (mm)"));
-    m_test = new QPushButton(tr("Teszt"), this);
-    m_test->setObjectName(QStringLiteral("m_test_cheque"));
-    m_test->setToolTip(tr("Csekk-nyomtatas kiprobalasa"));
-    m_test->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    form->addRow(QString(), m_test);
-    connect(m_test, &QPushButton::clicked, this, &SetupChequePage::testPrint);
+    auto* test = new QPushButton(tr("Teszt"), this);
+    test->setObjectName(QStringLiteral("m_test_cheque"));
+    test->setToolTip(tr("Csekk-nyomtatas kiprobalasa"));
+    test->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    form->addRow(QString(), test);
+    connect(test, &QPushButton::clicked, this, &SetupChequePage::testPrint);
 }
 
 void SetupChequePage::load(const Setup& setup)
 {
     SetupPage::load(setup);
-    FillTemplates(m_template, QStringLiteral(":/templates/cheque"), QStringLiteral("cheque.cfg"),
-                  setup.text(SETUP_CHEQUE_CURR_TMPL_DIR), false);
-    m_test->setEnabled(static_cast<bool>(ChequeTestPrint()));
+    m_installedDir = setup.text(SETUP_CHEQUE_CURR_TMPL_DIR);
+    FillTemplates(m_template, QString::fromLatin1(kShippedChequeTemplateDir),
+                  QStringLiteral("cheque.cfg"), m_installedDir, true);
 }
 
 void SetupChequePage::store(SetupChanges& changes) const
 {
     SetupPage::store(changes);
     const QString folder = m_template->currentData().toString();
-    if (!folder.isEmpty())
-        changes.values.insert(ColumnName(SETUP_CHEQUE_CURR_TMPL_DIR), folder);
+    // As with invoices, the text is taken in again only when another set was chosen.
+    if (folder.isEmpty() || folder == m_installedDir)
+        return;
+    ChequeTemplate chosen;
+    if (!ChequeTemplates::load(folder, chosen))
+        return;
+    changes.values.insert(ColumnName(SETUP_CHEQUE_QTF), chosen.qtf);
+    changes.values.insert(ColumnName(SETUP_CHEQUE_CURR_TMPL_DIR), folder);
 }
 
 void SetupChequePage::testPrint()
 {
-    if (!ChequeTestPrint())
+    // The unsaved choice and offsets are what the user wants to try on the form.
+    const QString folder = m_template->currentData().toString();
+    ChequeTemplate chosen;
+    if (folder.isEmpty())
+        chosen.qtf = ChequeTemplates::current();
+    else if (Result r = ChequeTemplates::load(folder, chosen); !r) {
+        GuiInteraction(this).error(r.message());
         return;
+    }
     SetupChanges now;
-    store(now);
-    ChequeTestSettings settings;
-    settings.templateDir = m_template->currentData().toString();
-    settings.marginLeftMm = ToNumber(now.values.value(ColumnName(SETUP_CHEQUE_MARGIN_LEFT_MM)), 20);
-    settings.marginTopMm = ToNumber(now.values.value(ColumnName(SETUP_CHEQUE_MARGIN_TOP_MM)), 20);
-    ChequeTestPrint()(this, settings);
+    SetupPage::store(now);
+    const QPointF shift(ToNumber(now.values.value(ColumnName(SETUP_CHEQUE_MARGIN_LEFT_MM)), 20),
+                        ToNumber(now.values.value(ColumnName(SETUP_CHEQUE_MARGIN_TOP_MM)), 20));
+    PrinterInvoiceOutput preview(true, this);
+    if (Result r = ChequePrinting::printTest(chosen.qtf, shift, preview);
+        !r && !r.message().isEmpty())
+        GuiInteraction(this).error(r.message());
 }

@@ -113,5 +113,5 @@ private:
     void testPrint();
 
     QComboBox* m_template = nullptr;
-    QPushButton* m_test = nullptr;
+    QString m_installedDir;
 };
