@@ -6,6 +6,7 @@
 #include "InvoiceCommands.h"
 #include "OrderCommands.h"
 #include "PaymentCommands.h"
+#include "ReportCommands.h"
 #include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
@@ -57,6 +58,11 @@ const CliCommand kCommands[] = {
     {"pay", "pay INVOICE_NO_STR AMOUNT --date YYYY-MM-DD [--record-no X] [--comment C]",
      RunPayCommand},
     {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
+    {"report",
+     "report products|customers|invoices|items|receivables-invoices|receivables-partners "
+     "[--from D --to D --date shipped|created|due] [--partner TEXT|--partner-id ID] "
+     "[--currency local|original] [--format txt|csv|pdf] [--out FILE]",
+     RunReportCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

@@ -1,0 +1,410 @@
+#include "ReportQuery.h"
+
+#include "orders/ConvertOrderType.h"
+
+#include "base/DateText.h"
+#include "base/FoldName.h"
+#include "base/Interaction.h"
+#include "base/SqlStatement.h"
+#include "base/SqlValue.h"
+
+#include <QMap>
+#include <QSqlError>
+
+namespace {
+
+using Type = ReportColumn::Type;
+
+ReportColumn Text(const QString& title)
+{
+    return {title, Type::Text, 0, false};
+}
+ReportColumn Date(const QString& title)
+{
+    return {title, Type::Date, 0, false};
+}
+ReportColumn Amount(const QString& title, int decimals)
+{
+    return {title, Type::Number, decimals, true};
+}
+
+// How each selected value becomes a cell; the order of the select list.
+enum class Cell { Text, Date, Number, Kind, Id };
+
+struct Query
+{
+    QStringList select; // expressions, one per Cell
+    QList<Cell> cells;
+    QList<ReportColumn> columns; // one per cell except Id; Kind takes five values
+    QString from;
+    QString group;
+    QString order;
+    int currencyColumn = -1; // the column naming the currency, when there is one
+};
+
+void Add(Query& q, const QString& expression, Cell cell, const ReportColumn& column)
+{
+    q.select << expression;
+    q.cells << cell;
+    q.columns << column;
+}
+
+const char* const kSalesFrom = "ORDERITEM join ORDERHEAD on ORDERHEAD_ID = ORDERITEM_ORDERHEAD_ID";
+
+// The three amount sums of the sales reports.
+void AddSums(Query& q, bool local, int decimals)
+{
+    const QString prefix = local ? QStringLiteral("ORDERITEM_TOTAL_LOCAL_CURRENCY_")
+                                 : QStringLiteral("ORDERITEM_TOTAL_");
+    Add(q, "sum(" + prefix + "NET)", Cell::Number, Amount(ReportQuery::tr("Net"), decimals));
+    Add(q, "sum(" + prefix + "VAT)", Cell::Number, Amount(ReportQuery::tr("VAT"), decimals));
+    Add(q, "sum(" + prefix + "GROSS)", Cell::Number, Amount(ReportQuery::tr("Gross"), decimals));
+}
+
+void AddCurrency(Query& q)
+{
+    q.currencyColumn = int(q.columns.size());
+    Add(q, QStringLiteral("ORDERHEAD_CURRENCY_ABBREVIATION"), Cell::Text,
+        Text(ReportQuery::tr("Currency")));
+}
+
+void AddKind(Query& q)
+{
+    // ConvertOrderType reads five columns; the report shows one text.
+    q.select << QStringLiteral("ORDERHEAD_TYPE") << QStringLiteral("ORDERHEAD_VERIFIED")
+             << QStringLiteral("ORDERHEAD_INVOICE_NO")
+             << QStringLiteral("ORDERHEAD_CANCELLING_INVOICE_NO")
+             << QStringLiteral("ORDERHEAD_CONSOLIDATED_INVOICE");
+    q.cells << Cell::Kind;
+    q.columns << Text(ReportQuery::tr("Kind"));
+}
+
+Query Build(ReportKind kind, bool local)
+{
+    Query q;
+    const QString currency = QStringLiteral("ORDERHEAD_CURRENCY_ABBREVIATION");
+    switch (kind) {
+    case ReportKind::ProductsSold:
+        q.from = QLatin1String(kSalesFrom);
+        Add(q, QStringLiteral("ORDERITEM_NAME"), Cell::Text, Text(ReportQuery::tr("Product Name")));
+        Add(q, QStringLiteral("sum(ORDERITEM_QTY)"), Cell::Number,
+            {ReportQuery::tr("Qty"), Type::Number, 2, false});
+        Add(q, QStringLiteral("ORDERITEM_UNIT"), Cell::Text, Text(ReportQuery::tr("Unit")));
+        if (!local)
+            AddCurrency(q);
+        AddSums(q, local, 2);
+        q.group = QStringLiteral("ORDERITEM_NAME, ORDERITEM_UNIT");
+        q.order = QStringLiteral("ORDERITEM_NAME, ORDERITEM_UNIT");
+        break;
+    case ReportKind::Customers:
+        q.from = QLatin1String(kSalesFrom);
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Partner Name")));
+        if (!local)
+            AddCurrency(q);
+        AddSums(q, local, 0);
+        q.group = q.order = QStringLiteral("ORDERHEAD_PARTNER_NAME");
+        break;
+    case ReportKind::Invoices:
+        q.from = QLatin1String(kSalesFrom);
+        q.select << QStringLiteral("ORDERHEAD_ID");
+        q.cells << Cell::Id;
+        Add(q, QStringLiteral("ORDERHEAD_INVOICE_NO_STR"), Cell::Text,
+            Text(ReportQuery::tr("Invoice No")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Partner Name")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_CITY"), Cell::Text, Text(ReportQuery::tr("City")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_ADDRESS"), Cell::Text,
+            Text(ReportQuery::tr("Address")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_SHIPPED"), Cell::Date,
+            Date(ReportQuery::tr("Date Shipped")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_CREATED"), Cell::Date,
+            Date(ReportQuery::tr("Date Created")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE"), Cell::Date,
+            Date(ReportQuery::tr("Date Payment Due")));
+        AddCurrency(q);
+        AddSums(q, local, 0);
+        Add(q, QStringLiteral("ORDERHEAD_PAYMENTMETHOD_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Payment Method")));
+        AddKind(q);
+        q.group = QStringLiteral("ORDERHEAD_ID");
+        q.order = QStringLiteral("ORDERHEAD_INVOICE_NO_STR, ORDERHEAD_ID");
+        return q;
+    case ReportKind::InvoiceItems:
+        q.from = QLatin1String(kSalesFrom);
+        q.select << QStringLiteral("ORDERHEAD_ID");
+        q.cells << Cell::Id;
+        Add(q, QStringLiteral("ORDERHEAD_INVOICE_NO_STR"), Cell::Text,
+            Text(ReportQuery::tr("Invoice No")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Partner Name")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_ZIP"), Cell::Text, Text(ReportQuery::tr("ZIP")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_CITY"), Cell::Text, Text(ReportQuery::tr("City")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_ADDRESS"), Cell::Text,
+            Text(ReportQuery::tr("Address")));
+        Add(q, QStringLiteral("ORDERITEM_DATE_SHIPPED"), Cell::Date,
+            Date(ReportQuery::tr("Date Shipped")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_CREATED"), Cell::Date,
+            Date(ReportQuery::tr("Date Created")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE"), Cell::Date,
+            Date(ReportQuery::tr("Date Payment Due")));
+        Add(q, QStringLiteral("ORDERHEAD_PAYMENTMETHOD_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Payment Method")));
+        AddKind(q);
+        Add(q, QStringLiteral("ORDERITEM_STAT_NO"), Cell::Text, Text(ReportQuery::tr("Stat No")));
+        Add(q, QStringLiteral("ORDERITEM_NAME"), Cell::Text, Text(ReportQuery::tr("Product Name")));
+        Add(q, QStringLiteral("ORDERITEM_QTY"), Cell::Number,
+            {ReportQuery::tr("Qty"), Type::Number, 2, false});
+        Add(q, QStringLiteral("ORDERITEM_UNIT"), Cell::Text, Text(ReportQuery::tr("Unit")));
+        AddCurrency(q);
+        {
+            const QString prefix = local ? QStringLiteral("ORDERITEM_TOTAL_LOCAL_CURRENCY_")
+                                         : QStringLiteral("ORDERITEM_TOTAL_");
+            Add(q, prefix + "NET", Cell::Number, Amount(ReportQuery::tr("Net"), 2));
+            Add(q, prefix + "VAT", Cell::Number, Amount(ReportQuery::tr("VAT"), 2));
+            Add(q, prefix + "GROSS", Cell::Number, Amount(ReportQuery::tr("Gross"), 2));
+        }
+        q.order = QStringLiteral("ORDERHEAD_INVOICE_NO_STR, ORDERITEM_ID");
+        return q;
+    case ReportKind::ReceivablesByInvoices:
+        q.from = QStringLiteral("ORDERHEAD");
+        q.select << QStringLiteral("ORDERHEAD_ID");
+        q.cells << Cell::Id;
+        Add(q, QStringLiteral("ORDERHEAD_INVOICE_NO_STR"), Cell::Text,
+            Text(ReportQuery::tr("Invoice No")));
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Partner Name")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_SHIPPED"), Cell::Date,
+            Date(ReportQuery::tr("Date Shipped")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_CREATED"), Cell::Date,
+            Date(ReportQuery::tr("Date Created")));
+        Add(q, QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE"), Cell::Date,
+            Date(ReportQuery::tr("Date Payment Due")));
+        AddCurrency(q);
+        Add(q,
+            local ? QStringLiteral("ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS")
+                  : QStringLiteral("ORDERHEAD_TOTAL_GROSS"),
+            Cell::Number, Amount(ReportQuery::tr("Gross"), 0));
+        // A null unpaid total stays null in either currency.
+        Add(q,
+            local ? QStringLiteral("ORDERHEAD_CURRENCY_RATE * ORDERHEAD_UNPAID_TOTAL")
+                  : QStringLiteral("ORDERHEAD_UNPAID_TOTAL"),
+            Cell::Number, Amount(ReportQuery::tr("Unpaid Total"), 0));
+        q.order = QStringLiteral("ORDERHEAD_INVOICE_NO_STR, ORDERHEAD_ID");
+        return q;
+    case ReportKind::ReceivablesByPartners:
+        q.from = QStringLiteral("ORDERHEAD");
+        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+            Text(ReportQuery::tr("Partner Name")));
+        if (!local)
+            AddCurrency(q);
+        Add(q,
+            local ? QStringLiteral("sum(ORDERHEAD_CURRENCY_RATE * ORDERHEAD_UNPAID_TOTAL)")
+                  : QStringLiteral("sum(ORDERHEAD_UNPAID_TOTAL)"),
+            Cell::Number, Amount(ReportQuery::tr("Unpaid Total"), 0));
+        q.group = q.order = QStringLiteral("ORDERHEAD_PARTNER_NAME");
+        break;
+    }
+    // The grouping reports: in original currency each currency is a group of its own.
+    if (!local) {
+        q.group += u", " + currency;
+        q.order += u", " + currency;
+    }
+    return q;
+}
+
+QString DateColumn(ReportDate type)
+{
+    switch (type) {
+    case ReportDate::Shipped:
+        // The item's own date: a consolidated invoice is split by its items' days.
+        return QStringLiteral("ORDERITEM_DATE_SHIPPED");
+    case ReportDate::Created:
+        return QStringLiteral("ORDERHEAD_DATE_CREATED");
+    case ReportDate::PaymentDue:
+        return QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE");
+    }
+    return {};
+}
+
+QVariant CellValue(const QVariant& v, Cell cell)
+{
+    if (IsNullValue(v))
+        return {};
+    switch (cell) {
+    case Cell::Date:
+        return DateFromSql(v);
+    case Cell::Number:
+        return ToNumber(v);
+    default:
+        return v.toString();
+    }
+}
+
+} // namespace
+
+int ReportTable::columnIndex(const QString& title) const
+{
+    for (int i = 0; i < columns.size(); ++i) {
+        if (columns.at(i).title == title)
+            return i;
+    }
+    return -1;
+}
+
+bool ReportQuery::isReceivables(ReportKind kind)
+{
+    return kind == ReportKind::ReceivablesByInvoices || kind == ReportKind::ReceivablesByPartners;
+}
+
+QString ReportQuery::title(ReportKind kind, ReportCurrency currency)
+{
+    const bool local = currency == ReportCurrency::Local;
+    switch (kind) {
+    case ReportKind::ProductsSold:
+        return local ? tr("Products Sold Report In Local Currency (HUF)")
+                     : tr("Products Sold Report In Original Currency");
+    case ReportKind::Customers:
+        return local ? tr("Customers Report In Local Currency (HUF)")
+                     : tr("Customers Report In Original Currency");
+    case ReportKind::Invoices:
+        return local ? tr("Outgoing Invoices In Local Currency (HUF)")
+                     : tr("Outgoing Invoices In Original Currency");
+    case ReportKind::InvoiceItems:
+        return local ? tr("Outgoing Invoice Items In Local Currency (HUF)")
+                     : tr("Outgoing Invoice Items In Original Currency");
+    case ReportKind::ReceivablesByInvoices:
+        return local ? tr("Kifizetetlen szamlak In Local Currency (HUF)")
+                     : tr("Kifizetetlen szamlak In Original Currency");
+    case ReportKind::ReceivablesByPartners:
+        return local ? tr("Tartozo partnerek In Local Currency (HUF)")
+                     : tr("Tartozo partnerek In Original Currency");
+    }
+    return {};
+}
+
+QString ReportQuery::dateTypeText(ReportDate type)
+{
+    switch (type) {
+    case ReportDate::Shipped:
+        return tr("Filter by date shipped");
+    case ReportDate::Created:
+        return tr("Filter by date created");
+    case ReportDate::PaymentDue:
+        return tr("Filter by payment due");
+    }
+    return {};
+}
+
+std::pair<QDate, QDate> ReportQuery::daysAgoRange(int days1, int days2, const QDate& today)
+{
+    const QDate a = today.addDays(-days1);
+    const QDate b = today.addDays(-days2);
+    return a <= b ? std::pair{a, b} : std::pair{b, a};
+}
+
+Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable& table,
+                        Progress* progress)
+{
+    const bool local = filter.currency == ReportCurrency::Local;
+    const bool receivables = isReceivables(kind);
+    const Query q = Build(kind, local);
+
+    QStringList where;
+    QVariantList binds;
+    QStringList lines;
+    if (filter.byPartner) {
+        lines << tr("Partner: ") + filter.partnerText;
+        if (filter.partnerId > 0) {
+            // By id: a partner renamed since keeps its invoices.
+            where << QStringLiteral("ORDERHEAD_PARTNER_ID = ?");
+            binds << filter.partnerId;
+        } else {
+            // A range on the folded name: its index serves it, and the typed text has no
+            // wildcards of its own as it would under "like".
+            const QString prefix = FoldName(filter.partnerText.trimmed());
+            where << QStringLiteral("ORDERHEAD_PARTNER_NAME_ASCII >= ? and "
+                                    "ORDERHEAD_PARTNER_NAME_ASCII < ?");
+            binds << prefix << QString(prefix + QChar(0xFFFF));
+        }
+    }
+    if (filter.byDate) {
+        const ReportDate type = receivables ? ReportDate::PaymentDue : filter.dateType;
+        if (!filter.from.isValid() || !filter.to.isValid())
+            return Result::failure(tr("Error"));
+        where << DateColumn(type) + QStringLiteral(" between ? and ?");
+        binds << DateToSql(filter.from) << DateToSql(filter.to);
+        lines << (receivables ? tr("Filter by payment due") : dateTypeText(type)) + u": " +
+                     FormatDate(filter.from) + u" - " + FormatDate(filter.to);
+    }
+    if (receivables) {
+        where << QStringLiteral("ORDERHEAD_INVOICE_NO is not null")
+              << QStringLiteral("coalesce(ORDERHEAD_PAID, '0') <> '1'");
+    } else {
+        // Every issued invoice counts, cancelling invoices included.
+        where << QStringLiteral("ORDERHEAD_INVOICE_NO_STR is not null");
+    }
+    QString text = u"select " + q.select.join(u", ") + u" from " + q.from + u" where " +
+                   where.join(QLatin1String(" and "));
+    if (!q.group.isEmpty())
+        text += u" group by " + q.group;
+    text += u" order by " + q.order;
+
+    SqlStatement st(text, binds);
+    st.query().setForwardOnly(true);
+    if (!st.exec())
+        return st.failure(st.errorText());
+
+    ReportTable out;
+    out.kind = kind;
+    out.title = title(kind, filter.currency);
+    out.columns = q.columns;
+    out.filterLines = lines;
+    if (progress)
+        progress->setTotal(0);
+    int read = 0;
+    while (st.next()) {
+        if (progress && ++read % 1000 == 0 && progress->canceled())
+            return Result::failure(QString());
+        QVariantList row;
+        row.reserve(q.columns.size());
+        int i = 0;
+        for (const Cell cell : q.cells) {
+            if (cell == Cell::Id) {
+                out.orderIds << ToInteger(st.value(i++));
+            } else if (cell == Cell::Kind) {
+                row << ConvertOrderType(st.value(i), st.value(i + 1), st.value(i + 2),
+                                        st.value(i + 3), st.value(i + 4))
+                           .text;
+                i += 5;
+            } else {
+                row << CellValue(st.value(i++), cell);
+            }
+        }
+        out.rows << row;
+    }
+    if (st.query().lastError().isValid())
+        return st.failure(st.errorText());
+
+    // Totals: one row per currency in original currency, else one.
+    QMap<QString, QVariantList> sums;
+    for (const QVariantList& row : std::as_const(out.rows)) {
+        const QString key =
+            local || q.currencyColumn < 0 ? QString() : row.at(q.currencyColumn).toString();
+        QVariantList& total = sums[key];
+        if (total.isEmpty()) {
+            for (int c = 0; c < out.columns.size(); ++c)
+                total << (out.columns.at(c).sum ? QVariant(0.0) : QVariant());
+            total[0] = local ? tr("Total") : tr("Total (%1)").arg(key);
+            if (q.currencyColumn >= 0)
+                total[q.currencyColumn] = local ? QStringLiteral("HUF") : key;
+        }
+        for (int c = 0; c < out.columns.size(); ++c) {
+            if (out.columns.at(c).sum && row.at(c).isValid())
+                total[c] = total.at(c).toDouble() + row.at(c).toDouble();
+        }
+    }
+    out.totals = sums.values();
+    table = std::move(out);
+    return Result::success();
+}
