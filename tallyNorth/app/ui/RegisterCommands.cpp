@@ -10,6 +10,7 @@
 #include "documents/ui/InvoicePrinting.h"
 #include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "documents/ui/OrderListPrinting.h"
+#include "documents/ui/ReportCommands.h"
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderListCommands.h"
@@ -32,6 +33,7 @@ void RegisterCommands(MainWindow& window)
     RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);
     RegisterOrderList(window);
+    RegisterReportCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()
