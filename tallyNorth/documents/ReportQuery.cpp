@@ -8,6 +8,7 @@
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 
+#include <QHash>
 #include <QMap>
 #include <QSqlError>
 
@@ -227,19 +228,61 @@ QString DateColumn(ReportDate type)
     return {};
 }
 
+// A stored ISO date read without the general parser: a long list reads one per row.
+QDate SqlDate(const QVariant& v)
+{
+    if (v.typeId() == QMetaType::QString) {
+        const QString t = v.toString();
+        const auto digit = [&t](int i) { return t.at(i).unicode() - u'0'; };
+        if (t.size() >= 10 && t.at(4) == u'-' && t.at(7) == u'-') {
+            const QDate d(digit(0) * 1000 + digit(1) * 100 + digit(2) * 10 + digit(3),
+                          digit(5) * 10 + digit(6), digit(8) * 10 + digit(9));
+            if (d.isValid())
+                return d;
+        }
+    }
+    return DateFromSql(v);
+}
+
 QVariant CellValue(const QVariant& v, Cell cell)
 {
     if (IsNullValue(v))
         return {};
     switch (cell) {
     case Cell::Date:
-        return DateFromSql(v);
+        return SqlDate(v);
     case Cell::Number:
-        return ToNumber(v);
+        return v.typeId() == QMetaType::Double ? v : QVariant(ToNumber(v));
     default:
-        return v.toString();
+        return v.typeId() == QMetaType::QString ? v : QVariant(v.toString());
     }
 }
+
+// The status texts of the rows: few distinct states, each translated once per run.
+class KindTexts
+{
+public:
+    QString text(const QVariant& type, const QVariant& verified, const QVariant& invoiceNo,
+                 const QVariant& cancellingNo, const QVariant& consolidated)
+    {
+        const qint64 t = IsNullValue(type) ? -1 : ToInteger(type, -2);
+        const int key = int((t + 2) << 4) | (IsFlagSet(verified) ? 1 : 0) |
+                        (IsNullValue(invoiceNo) ? 2 : 0) | (IsNullValue(cancellingNo) ? 4 : 0) |
+                        (IsFlagSet(consolidated) ? 8 : 0);
+        const auto it = m_texts.constFind(key);
+        if (it != m_texts.cend())
+            return *it;
+        const QString text =
+            ConvertOrderType(type, verified, invoiceNo, cancellingNo, consolidated).text;
+        // Types beyond the two known ones all read as unknown; keep them out of the cache.
+        if (t >= -1 && t <= 1)
+            m_texts.insert(key, text);
+        return text;
+    }
+
+private:
+    QHash<int, QString> m_texts;
+};
 
 } // namespace
 
@@ -362,6 +405,7 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
     out.filterLines = lines;
     if (progress)
         progress->setTotal(0);
+    KindTexts kinds;
     int read = 0;
     while (st.next()) {
         if (progress && ++read % 1000 == 0 && progress->canceled())
@@ -373,15 +417,14 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
             if (cell == Cell::Id) {
                 out.orderIds << ToInteger(st.value(i++));
             } else if (cell == Cell::Kind) {
-                row << ConvertOrderType(st.value(i), st.value(i + 1), st.value(i + 2),
-                                        st.value(i + 3), st.value(i + 4))
-                           .text;
+                row << kinds.text(st.value(i), st.value(i + 1), st.value(i + 2), st.value(i + 3),
+                                  st.value(i + 4));
                 i += 5;
             } else {
                 row << CellValue(st.value(i++), cell);
             }
         }
-        out.rows << row;
+        out.rows << std::move(row);
     }
     if (st.query().lastError().isValid())
         return st.failure(st.errorText());
