@@ -48,16 +48,6 @@ QString CsvCell(const QString& text)
     return u'"' + QString(text).replace(QLatin1String("\""), QLatin1String("\"\"")) + u'"';
 }
 
-int Weight(const ReportColumn& c)
-{
-    if (c.type == Type::Date || c.type == Type::Number)
-        return 2;
-    return c.title == ReportQuery::tr("Currency") || c.title == ReportQuery::tr("Unit") ||
-                   c.title == ReportQuery::tr("ZIP")
-               ? 1
-               : 3;
-}
-
 QString PrintedCell(const ReportColumn& c, const QVariant& v)
 {
     if (!v.isValid())
@@ -67,6 +57,22 @@ QString PrintedCell(const ReportColumn& c, const QVariant& v)
     if (c.type == Type::Date)
         return FormatDate(v.toDate());
     return v.toString();
+}
+
+// A column's share of the page: its longest cell, or the longest word of its title, so that
+// dates and amounts stay on one line; measured over the first rows of a long list.
+int Weight(const ReportTable& t, int column)
+{
+    const ReportColumn& c = t.columns.at(column);
+    qsizetype chars = 3;
+    for (const QString& word : c.title.split(u' '))
+        chars = std::max(chars, word.size());
+    const qsizetype sample = std::min<qsizetype>(t.rows.size(), 1000);
+    for (qsizetype r = 0; r < sample; ++r)
+        chars = std::max(chars, PrintedCell(c, t.rows.at(r).value(column)).size());
+    for (const QVariantList& row : t.totals)
+        chars = std::max(chars, PrintedCell(c, row.value(column)).size());
+    return int(std::min<qsizetype>(chars, 40));
 }
 
 } // namespace
@@ -161,8 +167,8 @@ QString ReportOutput::qtf(const ReportTable& table, const QString& seller, const
     out += QStringLiteral("[2 &]");
 
     QStringList widths;
-    for (const ReportColumn& c : table.columns)
-        widths << QString::number(Weight(c));
+    for (int c = 0; c < table.columns.size(); ++c)
+        widths << QString::number(Weight(table, c));
     QStringList cells;
     for (const ReportColumn& c : table.columns) {
         const QChar align = c.type == Type::Number ? u'>' : u'<';
