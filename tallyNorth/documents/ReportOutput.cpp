@@ -196,11 +196,11 @@ QString ReportOutput::qtf(const ReportTable& table, const QString& seller, const
         const int unpaid = int(table.columns.size()) - 1;
         QStringList totals;
         for (const QVariantList& row : table.totals)
-            totals << QStringLiteral("[2*> ") +
-                          QtfEscape(row.value(0).toString() + u": " +
-                                    PrintedCell(table.columns.at(unpaid), row.value(unpaid))) +
-                          u']';
-        out += QStringLiteral("&{{1~^ ") + totals.join(QLatin1String("&")) + QStringLiteral("}}");
+            totals << QtfEscape(row.value(0).toString() + u": " +
+                                PrintedCell(table.columns.at(unpaid), row.value(unpaid)));
+        // Each line ends inside its block, so that every one of them is right aligned.
+        out += QStringLiteral("&{{1~^ [2*> ") + totals.join(QLatin1String("&][2*> ")) +
+               QStringLiteral("]}}");
     }
     return out;
 }

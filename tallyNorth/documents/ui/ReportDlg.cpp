@@ -84,7 +84,6 @@ ReportDlg::ReportDlg(ReportKind kind, QWidget* parent)
     m_array->setAlternatingRowColors(true);
     m_array->verticalHeader()->hide();
     m_array->verticalHeader()->setDefaultSectionSize(m_array->fontMetrics().height() + 6);
-    m_array->horizontalHeader()->setStretchLastSection(true);
     layout->addWidget(m_array, 1);
 
     auto* buttons = new QHBoxLayout;
@@ -268,6 +267,8 @@ ByDateReport::ByDateReport(ReportKind kind, QWidget* parent) : ReportDlg(kind, p
     m_date_1->setObjectName(QStringLiteral("m_date_1"));
     m_date_2 = new DateEdit;
     m_date_2->setObjectName(QStringLiteral("m_date_2"));
+    for (DateEdit* d : {m_date_1, m_date_2})
+        d->setMaximumWidth(d->fontMetrics().horizontalAdvance(QStringLiteral("2024.03.05.")) + 60);
     auto* minus = new QLabel(QStringLiteral("-"));
     minus->setObjectName(QStringLiteral("m_label_date_minus"));
     dateRow->addWidget(m_by_date);
@@ -349,8 +350,10 @@ ReceivablesReport::ReceivablesReport(ReportKind kind, QWidget* parent) : ReportD
     m_date_2 = new DateEdit;
     m_days_1 = new QSpinBox;
     m_days_2 = new QSpinBox;
-    for (QSpinBox* s : {m_days_1, m_days_2})
+    for (QSpinBox* s : {m_days_1, m_days_2}) {
         s->setRange(-36500, 36500);
+        s->setMaximumWidth(110);
+    }
     m_days_2->setValue(30);
     m_parent_1->addWidget(m_date_1);
     m_parent_1->addWidget(m_days_1);
