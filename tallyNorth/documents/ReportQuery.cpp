@@ -1,5 +1,7 @@
 #include "ReportQuery.h"
 
+#include "StatementProgress.h"
+
 #include "orders/ConvertOrderType.h"
 
 #include "base/DateText.h"
@@ -395,20 +397,25 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
 
     SqlStatement st(text, binds);
     st.query().setForwardOnly(true);
+    // Grouping a million rows happens before the first row comes: the window is kept alive and
+    // can stop the statement meanwhile.
+    StatementProgress watch(progress, Database::session());
+    if (progress)
+        progress->setTotal(0);
     if (!st.exec())
-        return st.failure(st.errorText());
+        return watch.cancelled() ? Result::failure(QString()) : st.failure(st.errorText());
 
     ReportTable out;
     out.kind = kind;
     out.title = title(kind, filter.currency);
     out.columns = q.columns;
     out.filterLines = lines;
-    if (progress)
-        progress->setTotal(0);
     KindTexts kinds;
     int read = 0;
     while (st.next()) {
         if (progress && ++read % 1000 == 0 && progress->canceled())
+            return Result::failure(QString());
+        if (watch.cancelled())
             return Result::failure(QString());
         QVariantList row;
         row.reserve(q.columns.size());
@@ -426,6 +433,8 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
         }
         out.rows << std::move(row);
     }
+    if (watch.cancelled())
+        return Result::failure(QString());
     if (st.query().lastError().isValid())
         return st.failure(st.errorText());
 

@@ -13,6 +13,7 @@
 //        Csavar 1 db    100 / 27 / 127
 //   an order of Béta Bt. never issued: Csavar 100 db 99999 / 0 / 99999
 #include "ReportTestData.h"
+#include "ScriptedInteraction.h"
 #include "TestCompany.h"
 #include "TestData.h"
 
@@ -386,6 +387,36 @@ private Q_SLOTS:
         QVERIFY(Database::open(m_company.path()).ok());
         QVERIFY2(r.exitCode == exitCode, qPrintable(r.err));
         QVERIFY2(r.out.contains(contains), qPrintable(r.out));
+    }
+
+    // Last: it adds a great many items to A-1 for a while.
+    void cancel_data()
+    {
+        AddColumns<ReportKind>({"kind"});
+        // Stopped while the rows are read, and while SQLite groups them before the first row (three
+        // customers: no row loop to stop in).
+        AddRow("rows", ReportKind::InvoiceItems);
+        AddRow("grouping", ReportKind::Customers);
+    }
+
+    void cancel()
+    {
+        auto [kind] = Fetch<ReportKind>({"kind"});
+        QVERIFY(ReportTestData::Exec(
+            u"insert into ORDERITEM (ORDERITEM_ORDERHEAD_ID, ORDERITEM_NAME, ORDERITEM_QTY) "
+            "with recursive n(i) as (select 1 union all select i + 1 from n where i < 400000) "
+            "select 1, 'Filler ' || (i % 5000), 1 from n"_s));
+        ReportTable table;
+        table.title = u"before"_s;
+        ScriptedInteraction ask;
+        ask.cancelAfterChecks = 0;
+        const auto progress = ask.progress(u"Running"_s);
+        const Result r = ReportQuery::run(kind, Filter(), table, progress.get());
+        QVERIFY(
+            ReportTestData::Exec(u"delete from ORDERITEM where ORDERITEM_NAME like 'Filler %'"_s));
+        QVERIFY(!r.ok());
+        QCOMPARE(r.message(), QString()); // nothing to tell
+        QCOMPARE(table.title, u"before"_s);
     }
 
 private:
