@@ -156,8 +156,10 @@ QByteArray ReportOutput::csv(const ReportTable& table)
 QString ReportOutput::qtf(const ReportTable& table, const QString& seller, const QDate& today)
 {
     // Wide lists get a smaller type.
-    const bool wide = table.columns.size() > 8;
-    const QString size = wide ? QStringLiteral("0") : QStringLiteral("2");
+    const qsizetype columns = table.columns.size();
+    const QString size = columns > 14  ? QStringLiteral("0")
+                         : columns > 8 ? QStringLiteral("1")
+                                       : QStringLiteral("2");
     QString out = QStringLiteral("[*4 ") + QtfEscape(table.title) + QStringLiteral("&]");
     for (const QString& line : table.filterLines)
         out += QStringLiteral("[2 ") + QtfEscape(line) + QStringLiteral("&]");

@@ -449,7 +449,7 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
                 total << (out.columns.at(c).sum ? QVariant(0.0) : QVariant());
             total[0] = local ? tr("Total") : tr("Total (%1)").arg(key);
             if (q.currencyColumn >= 0)
-                total[q.currencyColumn] = local ? QStringLiteral("HUF") : key;
+                total[q.currencyColumn] = local ? QVariant() : QVariant(key);
         }
         for (int c = 0; c < out.columns.size(); ++c) {
             if (out.columns.at(c).sum && row.at(c).isValid())
