@@ -4,7 +4,10 @@
 // target is a ratio within 1.5.
 //
 //   ./build/bench/bench_orders_fill orders.db             # once: 1 000 000 orders
-//   ./build/bench/bench_reports orders.db [runs]
+//   ./build/bench/bench_reports orders.db [runs] [text]    # text: only the cases naming it
+//
+// Each time is the fastest of the runs: on a machine shared with other work the least disturbed
+// run is the one that tells the cost.
 //
 // The per-invoice and per-item lists run over the last year and the last month, not over
 // every one of the five million items: nobody prints those, and their rows would only measure
@@ -96,10 +99,9 @@ struct Case
     QVariantList binds;
 };
 
-double Median(QList<double> values)
+double Fastest(const QList<double>& values)
 {
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
+    return *std::min_element(values.begin(), values.end());
 }
 
 double BareMs(const Case& c, qsizetype& rows)
@@ -165,10 +167,11 @@ int main(int argc, char** argv)
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
     if (args.size() < 2) {
-        std::fprintf(stderr, "usage: bench_reports COMPANY.db [runs]\n");
+        std::fprintf(stderr, "usage: bench_reports COMPANY.db [runs] [text]\n");
         return 2;
     }
     const int runs = args.size() > 2 ? std::max(1, args.at(2).toInt()) : 3;
+    const QString only = args.value(3);
     if (Result r = OpenBenchCompany(args.at(1)); !r) {
         std::fprintf(stderr, "%s\n", qPrintable(r.message()));
         return 1;
@@ -227,6 +230,8 @@ int main(int argc, char** argv)
     std::printf("%-48s %10s %10s %10s %6s\n", "report", "rows", "report ms", "bare ms", "ratio");
     double worst = 0;
     for (const Case& c : cases) {
+        if (!c.name.contains(only))
+            continue;
         QList<double> report, bare;
         qsizetype reportRows = 0, bareRows = 0;
         // Alternated, so that the page cache serves both alike.
@@ -234,7 +239,7 @@ int main(int argc, char** argv)
             bare << BareMs(c, bareRows);
             report << ReportMs(c, reportRows);
         }
-        const double r = Median(report), b = Median(bare);
+        const double r = Fastest(report), b = Fastest(bare);
         const double ratio = b > 0 ? r / b : 0;
         // Times of a millisecond or two are noise, not a ratio.
         if (b >= 2)

@@ -438,25 +438,38 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
     if (st.query().lastError().isValid())
         return st.failure(st.errorText());
 
-    // Totals: one row per currency in original currency, else one.
-    QMap<QString, QVariantList> sums;
+    // Totals: one row per currency in original currency, else one. Plain sums while the rows
+    // stream past, the currency of the previous row tried first.
+    QList<int> summed;
+    for (int c = 0; c < out.columns.size(); ++c) {
+        if (out.columns.at(c).sum)
+            summed << c;
+    }
+    QMap<QString, std::vector<double>> sums;
+    std::vector<double>* current = nullptr;
+    QString currentKey;
     for (const QVariantList& row : std::as_const(out.rows)) {
         const QString key =
             local || q.currencyColumn < 0 ? QString() : row.at(q.currencyColumn).toString();
-        QVariantList& total = sums[key];
-        if (total.isEmpty()) {
-            for (int c = 0; c < out.columns.size(); ++c)
-                total << (out.columns.at(c).sum ? QVariant(0.0) : QVariant());
-            total[0] = local ? tr("Total") : tr("Total (%1)").arg(key);
-            if (q.currencyColumn >= 0)
-                total[q.currencyColumn] = local ? QVariant() : QVariant(key);
+        if (!current || key != currentKey) {
+            auto it = sums.find(key);
+            if (it == sums.end())
+                it = sums.insert(key, std::vector<double>(summed.size(), 0.0));
+            current = &*it;
+            currentKey = key;
         }
-        for (int c = 0; c < out.columns.size(); ++c) {
-            if (out.columns.at(c).sum && row.at(c).isValid())
-                total[c] = total.at(c).toDouble() + row.at(c).toDouble();
-        }
+        for (qsizetype k = 0; k < summed.size(); ++k)
+            (*current)[k] += row.at(summed.at(k)).toDouble(); // null counts as 0
     }
-    out.totals = sums.values();
+    for (auto it = sums.cbegin(); it != sums.cend(); ++it) {
+        QVariantList total(out.columns.size());
+        total[0] = local ? tr("Total") : tr("Total (%1)").arg(it.key());
+        if (q.currencyColumn >= 0 && !local)
+            total[q.currencyColumn] = it.key();
+        for (qsizetype k = 0; k < summed.size(); ++k)
+            total[summed.at(k)] = it.value().at(k);
+        out.totals << total;
+    }
     table = std::move(out);
     return Result::success();
 }
