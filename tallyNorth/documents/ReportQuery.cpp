@@ -234,7 +234,7 @@ QString DateColumn(ReportDate type)
 QDate SqlDate(const QVariant& v)
 {
     if (v.typeId() == QMetaType::QString) {
-        const QString t = v.toString();
+        const QString& t = *static_cast<const QString*>(v.constData());
         const auto digit = [&t](int i) { return t.at(i).unicode() - u'0'; };
         if (t.size() >= 10 && t.at(4) == u'-' && t.at(7) == u'-') {
             const QDate d(digit(0) * 1000 + digit(1) * 100 + digit(2) * 10 + digit(3),
@@ -246,17 +246,23 @@ QDate SqlDate(const QVariant& v)
     return DateFromSql(v);
 }
 
-QVariant CellValue(const QVariant& v, Cell cell)
+// A cell as read, moved rather than copied where it already has its type: a long list reads
+// millions of them.
+QVariant CellValue(QVariant&& v, Cell cell)
 {
-    if (IsNullValue(v))
+    if (v.isNull())
         return {};
     switch (cell) {
     case Cell::Date:
         return SqlDate(v);
     case Cell::Number:
-        return v.typeId() == QMetaType::Double ? v : QVariant(ToNumber(v));
+        if (v.typeId() == QMetaType::Double)
+            return std::move(v);
+        return IsNullValue(v) ? QVariant() : QVariant(ToNumber(v));
     default:
-        return v.typeId() == QMetaType::QString ? v : QVariant(v.toString());
+        if (v.typeId() == QMetaType::QString)
+            return std::move(v);
+        return v.toString();
     }
 }
 
