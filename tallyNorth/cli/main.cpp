@@ -7,6 +7,7 @@
 #include "InvoiceCommands.h"
 #include "OrderCommands.h"
 #include "PaymentCommands.h"
+#include "ReportCommands.h"
 #include "ShellCommands.h"
 
 #include "app/BaseFolder.h"
@@ -60,6 +61,11 @@ const CliCommand kCommands[] = {
     {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
     {"cheques", "cheques [--partner TEXT]", RunChequesCommand},
     {"cheque", "cheque print [--all-unprinted | ID...] --pdf FILE", RunChequeCommand},
+    {"report",
+     "report products|customers|invoices|items|receivables-invoices|receivables-partners "
+     "[--from D --to D --date shipped|created|due] [--partner TEXT|--partner-id ID] "
+     "[--currency local|original] [--format txt|csv|pdf] [--out FILE]",
+     RunReportCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

@@ -1932,6 +1932,21 @@ Payment due:
         </message>
     </context>
     <context>
+        <name>ReceivablesReport</name>
+        <message>
+            <source>Fizetesi hatarido szerinti szures</source>
+            <translation>Filter by payment deadline</translation>
+        </message>
+        <message>
+            <source>Szures a fizetesi hatarido datuma szerint</source>
+            <translation>Filter by the date of the payment deadline</translation>
+        </message>
+        <message>
+            <source>Szures a fizetesi hatarido lejarta utan eltelt napok szama szerint</source>
+            <translation>Filter by the number of days elapsed since the payment deadline</translation>
+        </message>
+    </context>
+    <context>
         <name>RecordBrowse</name>
         <message>
             <source>Select a record to edit.</source>
@@ -2001,6 +2016,25 @@ Payment due:
         <message>
             <source>Print Preview</source>
             <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>ReportQuery</name>
+        <message>
+            <source>Kifizetetlen szamlak In Local Currency (HUF)</source>
+            <translation>Unpaid Invoices In Local Currency (HUF)</translation>
+        </message>
+        <message>
+            <source>Kifizetetlen szamlak In Original Currency</source>
+            <translation>Unpaid Invoices In Original Currency</translation>
+        </message>
+        <message>
+            <source>Tartozo partnerek In Local Currency (HUF)</source>
+            <translation>Partners In Debt In Local Currency (HUF)</translation>
+        </message>
+        <message>
+            <source>Tartozo partnerek In Original Currency</source>
+            <translation>Partners In Debt In Original Currency</translation>
         </message>
     </context>
     <context>

@@ -169,6 +169,29 @@
         </message>
     </context>
     <context>
+        <name>ByDateReport</name>
+        <message>
+            <source>Filter by partner</source>
+            <translation>Szűrés partnerre</translation>
+        </message>
+        <message>
+            <source>You can search by the start of partner's name</source>
+            <translation>A partner nevének elejére lehet keresni</translation>
+        </message>
+        <message>
+            <source>Filter by date</source>
+            <translation>Szűrés dátumra</translation>
+        </message>
+        <message>
+            <source>Error</source>
+            <translation>Hiba</translation>
+        </message>
+        <message>
+            <source>Enter the first and the last day.</source>
+            <translation>Adja meg az első és az utolsó napot.</translation>
+        </message>
+    </context>
+    <context>
         <name>CancelInvoice</name>
         <message>
             <source>Can't create Cancel Invoice.</source>
@@ -3495,6 +3518,45 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>ReceivablesReport</name>
+        <message>
+            <source>Fizetesi hatarido szerinti szures</source>
+            <translation>Fizetési határidő szerinti szűrés</translation>
+        </message>
+        <message>
+            <source>Filter by date</source>
+            <translation>Szűrés dátumra</translation>
+        </message>
+        <message>
+            <source>Szures a fizetesi hatarido datuma szerint</source>
+            <translation>Szűrés a fizetési határidő dátuma szerint</translation>
+        </message>
+        <message>
+            <source>Szures a fizetesi hatarido lejarta utan eltelt napok szama szerint</source>
+            <translation>Szűrés a fizetési határidő lejárta után eltelt napok száma szerint</translation>
+        </message>
+        <message>
+            <source>Show Invoice</source>
+            <translation>Számla megtekintése</translation>
+        </message>
+        <message>
+            <source>This case must not be run in OnDateType.</source>
+            <translation>Ez az eset nem fordulhat elő a dátumtípus választásakor.</translation>
+        </message>
+        <message>
+            <source>Enter the first and the last day.</source>
+            <translation>Adja meg az első és az utolsó napot.</translation>
+        </message>
+        <message>
+            <source>Error</source>
+            <translation>Hiba</translation>
+        </message>
+        <message>
+            <source>Select an invoice to view.</source>
+            <translation>Válassza ki a megtekintendő számlát.</translation>
+        </message>
+    </context>
+    <context>
         <name>RecordBrowse</name>
         <message>
             <source>Select a record to edit.</source>
@@ -3564,10 +3626,306 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>ReportCommands</name>
+        <message>
+            <source>Unable to write file %s.</source>
+            <translation>A(z) %s fájl nem írható.</translation>
+        </message>
+        <message>
+            <source>name one report</source>
+            <translation>adjon meg egy kimutatást</translation>
+        </message>
+        <message>
+            <source>unknown report %1</source>
+            <translation>ismeretlen kimutatás: %1</translation>
+        </message>
+        <message>
+            <source>unknown date %1</source>
+            <translation>ismeretlen dátum: %1</translation>
+        </message>
+        <message>
+            <source>--from and --to go together</source>
+            <translation>a --from és a --to csak együtt adható meg</translation>
+        </message>
+        <message>
+            <source>dates are written as 2024.03.05. or 2024-03-05</source>
+            <translation>a dátum formája 2024.03.05. vagy 2024-03-05</translation>
+        </message>
+        <message>
+            <source>--partner or --partner-id, not both</source>
+            <translation>vagy --partner, vagy --partner-id, a kettő együtt nem</translation>
+        </message>
+        <message>
+            <source>--partner-id takes a partner's id</source>
+            <translation>a --partner-id egy partner azonosítóját várja</translation>
+        </message>
+        <message>
+            <source>unknown currency %1</source>
+            <translation>ismeretlen pénznem: %1</translation>
+        </message>
+        <message>
+            <source>unknown format %1</source>
+            <translation>ismeretlen formátum: %1</translation>
+        </message>
+        <message>
+            <source>a PDF needs --out FILE</source>
+            <translation>PDF-hez meg kell adni: --out FÁJL</translation>
+        </message>
+    </context>
+    <context>
+        <name>ReportDlg</name>
+        <message>
+            <source>Unable to write file %s.</source>
+            <translation>A(z) %s fájl nem írható.</translation>
+        </message>
+        <message>
+            <source>Currency</source>
+            <translation>Pénznem</translation>
+        </message>
+        <message>
+            <source>Local Currency (HUF)</source>
+            <translation>Helyi pénznem (HUF)</translation>
+        </message>
+        <message>
+            <source>Original Currency</source>
+            <translation>Eredeti pénznem</translation>
+        </message>
+        <message>
+            <source>Filter</source>
+            <translation>Szűrés</translation>
+        </message>
+        <message>
+            <source>Export PDF</source>
+            <translation>Exportálás PDF-be</translation>
+        </message>
+        <message>
+            <source>Export to PDF format</source>
+            <translation>Exportálás PDF formátumba</translation>
+        </message>
+        <message>
+            <source>Export TXT</source>
+            <translation>Exportálás TXT-be</translation>
+        </message>
+        <message>
+            <source>Export to textfile (*.txt)</source>
+            <translation>Exportálás szövegfájlba (*.txt)</translation>
+        </message>
+        <message>
+            <source>Export CSV</source>
+            <translation>Exportálás CSV-be</translation>
+        </message>
+        <message>
+            <source>Export to spreadsheet file (*.csv)</source>
+            <translation>Exportálás táblázatfájlba (*.csv)</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Másolás</translation>
+        </message>
+        <message>
+            <source>Copy to clipboard</source>
+            <translation>Másolás a vágólapra</translation>
+        </message>
+        <message>
+            <source>Print Preview</source>
+            <translation>Nyomtatási kép</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Nyomtatás</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+        <message>
+            <source>Help</source>
+            <translation>Súgó</translation>
+        </message>
+        <message>
+            <source>PDF files (*.pdf)</source>
+            <translation>PDF-fájlok (*.pdf)</translation>
+        </message>
+        <message>
+            <source>Text files (*.txt)</source>
+            <translation>Szövegfájlok (*.txt)</translation>
+        </message>
+        <message>
+            <source>CSV files (*.csv)</source>
+            <translation>CSV-fájlok (*.csv)</translation>
+        </message>
+        <message>
+            <source>Running the report...</source>
+            <translation>A kimutatás készül...</translation>
+        </message>
+    </context>
+    <context>
+        <name>ReportOutput</name>
+        <message>
+            <source>Printing Date: </source>
+            <translation>Nyomtatás dátuma: </translation>
+        </message>
+    </context>
+    <context>
         <name>ReportPrinter</name>
         <message>
             <source>Print Preview</source>
             <translation>Nyomtatási kép</translation>
+        </message>
+    </context>
+    <context>
+        <name>ReportQuery</name>
+        <message>
+            <source>Net</source>
+            <translation>Nettó</translation>
+        </message>
+        <message>
+            <source>VAT</source>
+            <translation>ÁFA</translation>
+        </message>
+        <message>
+            <source>Gross</source>
+            <translation>Bruttó</translation>
+        </message>
+        <message>
+            <source>Currency</source>
+            <translation>Pénznem</translation>
+        </message>
+        <message>
+            <source>Kind</source>
+            <translation>Fajta</translation>
+        </message>
+        <message>
+            <source>Product Name</source>
+            <translation>Termék neve</translation>
+        </message>
+        <message>
+            <source>Qty</source>
+            <translation>Menny.</translation>
+        </message>
+        <message>
+            <source>Unit</source>
+            <translation>Egység</translation>
+        </message>
+        <message>
+            <source>Partner Name</source>
+            <translation>Partner neve</translation>
+        </message>
+        <message>
+            <source>Invoice No</source>
+            <translation>Számlaszám</translation>
+        </message>
+        <message>
+            <source>City</source>
+            <translation>Város</translation>
+        </message>
+        <message>
+            <source>Address</source>
+            <translation>Cím</translation>
+        </message>
+        <message>
+            <source>Date Shipped</source>
+            <translation>Teljesítés dátuma</translation>
+        </message>
+        <message>
+            <source>Date Created</source>
+            <translation>Kiállítás dátuma</translation>
+        </message>
+        <message>
+            <source>Date Payment Due</source>
+            <translation>Fizetési határidő</translation>
+        </message>
+        <message>
+            <source>Payment Method</source>
+            <translation>Fizetési mód</translation>
+        </message>
+        <message>
+            <source>ZIP</source>
+            <translation>Irsz.</translation>
+        </message>
+        <message>
+            <source>Stat No</source>
+            <translation>Stat. szám</translation>
+        </message>
+        <message>
+            <source>Unpaid Total</source>
+            <translation>Kifizetetlen összeg</translation>
+        </message>
+        <message>
+            <source>Products Sold Report In Local Currency (HUF)</source>
+            <translation>Eladott termékek helyi pénznemben (HUF)</translation>
+        </message>
+        <message>
+            <source>Products Sold Report In Original Currency</source>
+            <translation>Eladott termékek eredeti pénznemben</translation>
+        </message>
+        <message>
+            <source>Customers Report In Local Currency (HUF)</source>
+            <translation>Vevők helyi pénznemben (HUF)</translation>
+        </message>
+        <message>
+            <source>Customers Report In Original Currency</source>
+            <translation>Vevők eredeti pénznemben</translation>
+        </message>
+        <message>
+            <source>Outgoing Invoices In Local Currency (HUF)</source>
+            <translation>Kimenő számlák helyi pénznemben (HUF)</translation>
+        </message>
+        <message>
+            <source>Outgoing Invoices In Original Currency</source>
+            <translation>Kimenő számlák eredeti pénznemben</translation>
+        </message>
+        <message>
+            <source>Outgoing Invoice Items In Local Currency (HUF)</source>
+            <translation>Kimenő számlatételek helyi pénznemben (HUF)</translation>
+        </message>
+        <message>
+            <source>Outgoing Invoice Items In Original Currency</source>
+            <translation>Kimenő számlatételek eredeti pénznemben</translation>
+        </message>
+        <message>
+            <source>Kifizetetlen szamlak In Local Currency (HUF)</source>
+            <translation>Kifizetetlen számlák helyi pénznemben (HUF)</translation>
+        </message>
+        <message>
+            <source>Kifizetetlen szamlak In Original Currency</source>
+            <translation>Kifizetetlen számlák eredeti pénznemben</translation>
+        </message>
+        <message>
+            <source>Tartozo partnerek In Local Currency (HUF)</source>
+            <translation>Tartozó partnerek helyi pénznemben (HUF)</translation>
+        </message>
+        <message>
+            <source>Tartozo partnerek In Original Currency</source>
+            <translation>Tartozó partnerek eredeti pénznemben</translation>
+        </message>
+        <message>
+            <source>Filter by date shipped</source>
+            <translation>Szűrés teljesítés dátumára</translation>
+        </message>
+        <message>
+            <source>Filter by date created</source>
+            <translation>Szűrés kiállítás dátumára</translation>
+        </message>
+        <message>
+            <source>Filter by payment due</source>
+            <translation>Szűrés fizetési határidőre</translation>
+        </message>
+        <message>
+            <source>Partner: </source>
+            <translation>Partner: </translation>
+        </message>
+        <message>
+            <source>Error</source>
+            <translation>Hiba</translation>
+        </message>
+        <message>
+            <source>Total</source>
+            <translation>Összesen</translation>
+        </message>
+        <message>
+            <source>Total (%1)</source>
+            <translation>Összesen (%1)</translation>
         </message>
     </context>
     <context>

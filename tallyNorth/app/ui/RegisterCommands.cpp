@@ -12,6 +12,7 @@
 #include "documents/ui/InvoicePrinting.h"
 #include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "documents/ui/OrderListPrinting.h"
+#include "documents/ui/ReportCommands.h"
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderListCommands.h"
@@ -37,6 +38,7 @@ void RegisterCommands(MainWindow& window)
     RegisterOrderEditCommands(window);
     RegisterOrderList(window);
     RegisterChequeList(window);
+    RegisterReportCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()
