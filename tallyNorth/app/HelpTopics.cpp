@@ -34,6 +34,8 @@ const QList<HelpTopic>& HelpTopicTree()
         {QStringLiteral("Partnerek"), QStringLiteral("Partnerek")},
         {QStringLiteral("Szamlakeszites"), QStringLiteral("Számlakészítés")},
         {QStringLiteral("SztornoSzamla"), QStringLiteral("Sztornó számla")},
+        {QStringLiteral("Befizetesek"), QStringLiteral("Befizetések")},
+        {QStringLiteral("Csekkek"), QStringLiteral("Csekkek")},
         {QStringLiteral("Webaruhaz"), QStringLiteral("Webáruház")},
         {QStringLiteral("Listak"), QStringLiteral("Listák")},
         {QStringLiteral("TobbCegKezelese"),

@@ -44,7 +44,6 @@ private Q_SLOTS:
     void treeOrder()
     {
         const QList<HelpTopic>& tree = HelpTopicTree();
-        QCOMPARE(tree.size(), 25);
         QCOMPARE(tree.first().id, QStringLiteral("Bevezetes"));
         QCOMPARE(tree.at(1).title, QStringLiteral("Beállítások"));
         QVERIFY(tree.at(1).id.isEmpty());

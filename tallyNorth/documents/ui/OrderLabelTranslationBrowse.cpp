@@ -3,6 +3,7 @@
 #include "base/Interaction.h"
 #include "base/ui/CommandHost.h"
 #include "base/ui/GuiInteraction.h"
+#include "base/ui/HelpLink.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -33,10 +34,7 @@ OrderLabelTranslationBrowse::OrderLabelTranslationBrowse(Interaction& interactio
     connect(edit, &QPushButton::clicked, this, &OrderLabelTranslationBrowse::editRow);
     connect(buttons, &QDialogButtonBox::accepted, this, &OrderLabelTranslationBrowse::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &OrderLabelTranslationBrowse::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
-        m_interaction.info(tr("Every label is printed in Hungarian; the partner's language, "
-                              "when it has a text here, is printed beside it."));
-    });
+    LinkHelp(buttons, QStringLiteral("Szamlakeszites"));
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_table);

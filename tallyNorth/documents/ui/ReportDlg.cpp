@@ -6,6 +6,7 @@
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
 #include "base/ui/DateEdit.h"
+#include "base/ui/HelpLink.h"
 #include "documents/QtfReader.h"
 #include "documents/ReportOutput.h"
 #include "masterdata/ui/RecordFinder.h"
@@ -97,8 +98,7 @@ ReportDlg::ReportDlg(ReportKind kind, QWidget* parent)
     QPushButton* printButton = Button(tr("Print"), QString(), "m_button_print");
     QPushButton* cancel = Button(tr("Cancel"), QString(), "cancel");
     QPushButton* help = Button(tr("Help"), QString(), "m_help");
-    // Help topics come with the help system; until then the button stays off.
-    help->setEnabled(false);
+    LinkHelp(help, QStringLiteral("Listak"));
     for (QPushButton* b : {pdf, txt, csv, copy})
         buttons->addWidget(b);
     buttons->addStretch();

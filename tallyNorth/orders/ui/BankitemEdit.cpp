@@ -5,6 +5,7 @@
 #include "base/Interaction.h"
 #include "base/ui/DateEdit.h"
 #include "base/ui/GuiInteraction.h"
+#include "base/ui/HelpLink.h"
 #include "masterdata/ui/NumberEdit.h"
 
 #include <QDialogButtonBox>
@@ -55,7 +56,7 @@ BankitemEdit::BankitemEdit(const BankItemInvoice& invoice, QWidget* parent, cons
         QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &BankitemEdit::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &BankitemEdit::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &BankitemEdit::showHelp);
+    LinkHelp(buttons, QStringLiteral("Befizetesek"));
     connect(m_pastPayments, &QPushButton::clicked, this, &BankitemEdit::listPastPayments);
 
     auto* column = new QVBoxLayout(this);
@@ -123,15 +124,6 @@ void BankitemEdit::listPastPayments()
     }
     BankItemListDlg dialog(items, m_invoice.currency, m_invoice.decimals, this);
     dialog.exec();
-}
-
-void BankitemEdit::showHelp()
-{
-    interaction().info(
-        tr("Record a payment received for this invoice, as it stands on the bank statement: "
-           "its record number, the date of the transfer and the amount in the invoice's "
-           "currency.&When the payments reach the invoice's total the invoice becomes paid; "
-           "an overpayment stays as a negative unpaid total."));
 }
 
 bool BankitemEdit::addTo(qint64 orderId, QWidget* parent, Interaction& interaction)

@@ -37,7 +37,6 @@ public:
 
 private:
     Interaction& interaction();
-    void showHelp();
 
     BankItemInvoice m_invoice;
     QLineEdit* m_invoiceNo;

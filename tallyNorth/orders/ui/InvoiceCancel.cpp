@@ -3,6 +3,7 @@
 #include "base/DateText.h"
 #include "base/Interaction.h"
 #include "base/ui/DateEdit.h"
+#include "base/ui/HelpLink.h"
 #include "masterdata/MasterTables.h"
 #include "masterdata/ui/FieldBinding.h"
 #include "masterdata/ui/MasterBrowses.h"
@@ -97,12 +98,7 @@ InvoiceCancel::InvoiceCancel(const Order& original, Interaction& interaction, QW
                                          QDialogButtonBox::Help);
     connect(buttons, &QDialogButtonBox::accepted, this, &InvoiceCancel::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &InvoiceCancel::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
-        m_interaction.info(
-            tr("The cancelling invoice repeats this invoice with negative quantities and "
-               "totals.&It gets its number when it is printed; the invoice is marked as "
-               "cancelled then."));
-    });
+    LinkHelp(buttons, QStringLiteral("SztornoSzamla"));
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(originalBox);
