@@ -7,6 +7,7 @@
 #include "OrderCommands.h"
 #include "PaymentCommands.h"
 #include "ShellCommands.h"
+#include "WebshopCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
@@ -57,6 +58,12 @@ const CliCommand kCommands[] = {
     {"pay", "pay INVOICE_NO_STR AMOUNT --date YYYY-MM-DD [--record-no X] [--comment C]",
      RunPayCommand},
     {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
+    {"import-orders", "import-orders FILE", RunImportOrders},
+    {"import-partners", "import-partners FILE", RunImportPartners},
+    {"import-products", "import-products FILE", RunImportProducts},
+    {"download-orders", "download-orders [--timeout SECONDS]", RunDownloadOrders},
+    {"download-partners", "download-partners [--timeout SECONDS]", RunDownloadPartners},
+    {"download-products", "download-products [--timeout SECONDS]", RunDownloadProducts},
 };
 
 void PrintMessage(CliContext& context, const QString& text)
