@@ -15,12 +15,21 @@ class WebshopCommands
 
 namespace {
 
-// Nobody to ask: a missing code or login stops the run with its message.
-WebshopInteraction& NoQuestions()
+// Nobody to ask: a missing code stops the run with its message; a login that the server refused
+// is told, never asked for.
+class CliWebshop : public WebshopInteraction
 {
-    static WebshopInteraction none;
-    return none;
-}
+public:
+    explicit CliWebshop(CliContext& context) : m_context(context) {}
+    std::optional<Login> login(const QString& message, const Login&) override
+    {
+        PrintMessage(m_context, message);
+        return std::nullopt;
+    }
+
+private:
+    CliContext& m_context;
+};
 
 int Finish(CliContext& context, const WebshopExchange& exchange, bool ok)
 {
@@ -39,7 +48,8 @@ int Import(CliContext& context, const QStringList& args, WebshopDocument documen
         return UsageError(context, WebshopCommands::tr("give the file to import"));
     if (!OpenChosenCompany(context))
         return ExitFailure;
-    WebshopExchange exchange(*context.interaction, NoQuestions());
+    CliWebshop ask(context);
+    WebshopExchange exchange(*context.interaction, ask);
     const bool ok = exchange.importFile(document, positional.first());
     return Finish(context, exchange, ok);
 }
@@ -63,7 +73,8 @@ int Download(CliContext& context, const QStringList& args, WebshopDocument docum
                                          "download from the command line."));
         return ExitFailure;
     }
-    WebshopExchange exchange(*context.interaction, NoQuestions());
+    CliWebshop ask(context);
+    WebshopExchange exchange(*context.interaction, ask);
     if (options.contains(timeout))
         exchange.setIdleTimeout(qMax(1, options.value(timeout).toInt()) * 1000);
     const bool ok = exchange.download(document);

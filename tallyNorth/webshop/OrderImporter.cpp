@@ -11,6 +11,7 @@
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "base/SqlTransaction.h"
+#include "documents/QtfReader.h"
 #include "orders/Order.h"
 #include "orders/OrderFill.h"
 #include "orders/OrderStore.h"
@@ -129,7 +130,7 @@ bool OrderImporter::importDocument(QIODevice& device, Progress* progress)
         return false;
     }
     if (reader.hasError()) {
-        m_interaction.error(reader.errorString());
+        m_interaction.error(QtfEscape(reader.errorString()));
         return false;
     }
     return true;
@@ -213,7 +214,7 @@ Result OrderImporter::importOrder(const XmlRecord& element, Progress* progress)
     if (!transaction.commit())
         return Result::failure(
             FillArgs(Text(QT_TRANSLATE_NOOP("OrderImporter", "Can't insert order %s.")), {code}) +
-            u'&' + transaction.errorText());
+            u'&' + QtfEscape(transaction.errorText()));
     m_created << order.id;
     if (m_updateBasicData && order.partnerId)
         m_partners << *order.partnerId;
@@ -622,13 +623,13 @@ Result OrderImporter::storeOrder(Order& order, const QString& timestamp)
                 : FillArgs(Text(QT_TRANSLATE_NOOP(
                                "OrderImporter", "Error creating order in database with CODE %s.")),
                            {order.code});
-        return failed(what + u'&' + r.sqlError());
+        return failed(what + u'&' + QtfEscape(r.sqlError()));
     }
     // An order without a timestamp leaves the last one standing, so nothing is fetched twice.
     if (!timestamp.isEmpty()) {
         if (!ExecSql(Sql("UPDATE SETUP SET %1 = ?", {Col::SETUP_DOWNLOAD_LAST_ORDERHEAD_TIMESTAMP}),
                      {timestamp}))
-            return failed(Database::session().lastError().text());
+            return failed(QtfEscape(Database::session().lastError().text()));
     }
     return Result::success();
 }

@@ -12,6 +12,7 @@
 #include "base/SqlStatement.h"
 #include "base/SqlTransaction.h"
 #include "base/SqlValue.h"
+#include "documents/QtfReader.h"
 #include "masterdata/MasterTables.h"
 
 #include <QBuffer>
@@ -107,7 +108,7 @@ bool RecordImporter::importDocument(QIODevice& device, Progress* progress)
         if (outcome && reader.hasError())
             outcome = Result::failure(
                 Text(QT_TRANSLATE_NOOP("RecordImporter", "Error processing data from server:&")) +
-                reader.errorString());
+                QtfEscape(reader.errorString()));
     }
     if (!m_stored.isEmpty())
         (void)Setup::current().load();
@@ -258,7 +259,7 @@ Result RecordImporter::importRecord(const XmlRecord& record)
                                                          "in the database with the same name and "
                                                          "a different code:&"))) +
                       message;
-        return Result::failure(message + u'&' + error);
+        return Result::failure(message + u'&' + QtfEscape(error));
     }
     m_stored << *id;
     return Result::success();

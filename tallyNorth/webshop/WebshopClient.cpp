@@ -92,11 +92,13 @@ HttpAnswer GetOnce(QNetworkAccessManager& manager, const HttpRequest& request, Q
             QCoreApplication::translate("WebshopClient", "The server did not answer in time.");
     } else if (writeFailed) {
         answer.error = out.errorString();
+    } else if (answer.status >= 400) {
+        answer.error = reply->attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
+        if (answer.error.isEmpty())
+            answer.error = reply->errorString();
     } else if (reply->error() != QNetworkReply::NoError) {
         answer.error = reply->errorString();
         retry = answer.status == 0 && Retryable(reply->error());
-    } else if (answer.status >= 400) {
-        answer.error = reply->attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
     }
     reply->deleteLater();
     if (!answer.ok()) {

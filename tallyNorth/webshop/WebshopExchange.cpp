@@ -9,6 +9,7 @@
 #include "base/Interaction.h"
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
+#include "documents/QtfReader.h"
 
 #include <QFile>
 #include <QTemporaryFile>
@@ -189,7 +190,7 @@ bool WebshopExchange::fetch(WebshopDocument document, QFile& file)
         m_interaction.error(FillArgs(
             Text(QT_TRANSLATE_NOOP("WebshopExchange", "Communication error with web "
                                                       "server.&Code: %d&Error message: %s")),
-            {QString::number(answer.status), answer.error}));
+            {QString::number(answer.status), QtfEscape(answer.error)}));
         return false;
     }
 }
