@@ -13,6 +13,7 @@
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderListCommands.h"
+#include "webshop/ui/WebshopCommands.h"
 
 void InstallShellServices()
 {
@@ -32,6 +33,7 @@ void RegisterCommands(MainWindow& window)
     RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);
     RegisterOrderList(window);
+    RegisterWebshopCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()
