@@ -5,6 +5,7 @@
 #include "WebshopXml.h"
 
 #include "Columns.h"
+#include "base/Database.h"
 #include "base/FoldName.h"
 #include "base/Interaction.h"
 #include "base/MessageArgs.h"
@@ -77,6 +78,7 @@ bool OrderImporter::importDocument(QIODevice& device, Progress* progress)
     m_partners.clear();
     m_products.clear();
     m_homeCountry.reset();
+    forgetCaches();
     VersionSlot() = QStringLiteral("1.0");
     m_updateBasicData = Setup::current().flag(Col::SETUP_DOWNLOAD_UPDATE_BASIC_DATA);
 
@@ -118,6 +120,7 @@ bool OrderImporter::importDocument(QIODevice& device, Progress* progress)
             break;
         }
     }
+    m_prepared.clear();
     // Each stored order moved the timestamp; the settings in memory follow the database.
     if (!m_created.isEmpty())
         (void)Setup::current().load();
@@ -143,8 +146,8 @@ Result OrderImporter::importOrder(const XmlRecord& element, Progress* progress)
         const bool currencyOk = SelectValue(Sql("select count(*) from %1 where %2 = 0",
                                                 {Tbl::CURRENCYY, Col::CURRENCY_ID}))
                                     .toInt() == 1;
-        if (!FindByCode(Tbl::COUNTRY, Col::COUNTRY_ID, Col::COUNTRY_INTERNATIONAL_CODE,
-                        QStringLiteral("HU"), country) ||
+        if (!findCode(Tbl::COUNTRY, Col::COUNTRY_ID, Col::COUNTRY_INTERNATIONAL_CODE,
+                      QStringLiteral("HU"), country) ||
             !country || !currencyOk)
             return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error in reading database."));
         m_homeCountry = country;
@@ -205,9 +208,10 @@ Result OrderImporter::importOrder(const XmlRecord& element, Progress* progress)
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Order without items. ORDERHEAD_CODE is %s"),
                     {code});
     if (!order.datePaymentDue.isValid()) {
-        QDate due;
-        if (OrderFill::defaultDueDate(order, due, order.dateCreated))
-            order.datePaymentDue = due;
+        const int days = OrderFill::dueDays(
+            m_partnerDays,
+            order.paymentMethodId ? methodDueDays(*order.paymentMethodId) : std::nullopt);
+        order.datePaymentDue = order.dateCreated.addDays(days);
     }
     if (Result r = storeOrder(order, timestamp); !r)
         return r;
@@ -228,8 +232,14 @@ Result OrderImporter::readHeader(const XmlRecord& e, Order& order, QString& time
 {
     if (!e.has(QStringLiteral("ORDERHEAD_CODE")))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "ORDERHEAD_CODE is missing"));
-    if (Result r = OrderFill::newOrder(order); !r)
-        return r;
+    if (!m_newOrder) {
+        m_newOrder.emplace();
+        if (Result r = OrderFill::newOrder(*m_newOrder); !r) {
+            m_newOrder.reset();
+            return r;
+        }
+    }
+    order = *m_newOrder;
     order.code = e.text(QStringLiteral("ORDERHEAD_CODE"));
     timestamp = e.text(QStringLiteral("ORDERHEAD_TIMESTAMP"));
     const auto text = [&](const char* tag, QString& field) {
@@ -279,7 +289,7 @@ Result OrderImporter::resolveCurrency(const QString& code, Order& order)
 {
     std::optional<qint64> id = 0;
     if (!code.isEmpty()) {
-        if (!FindByCode(Tbl::CURRENCYY, Col::CURRENCY_ID, Col::CURRENCY_ABBREVIATION, code, id))
+        if (!findCode(Tbl::CURRENCYY, Col::CURRENCY_ID, Col::CURRENCY_ABBREVIATION, code, id))
             return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading currency data (%s)."),
                         {code});
         if (!id) {
@@ -287,17 +297,17 @@ Result OrderImporter::resolveCurrency(const QString& code, Order& order)
                 Text(QT_TRANSLATE_NOOP("OrderImporter", "There is no %s currency in database.&You "
                                                         "have to set it up in the next window.")),
                 {code}));
+            forgetCaches(); // the user may change any row in the windows
             if (!m_ask.editRow(MasterTable::Currency, std::nullopt,
                                {{QLatin1String(Col::CURRENCY_ABBREVIATION), code}}))
                 return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Setting up currency aborted."));
-            if (!FindByCode(Tbl::CURRENCYY, Col::CURRENCY_ID, Col::CURRENCY_ABBREVIATION, code,
-                            id) ||
+            if (!findCode(Tbl::CURRENCYY, Col::CURRENCY_ID, Col::CURRENCY_ABBREVIATION, code, id) ||
                 !id)
                 return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading currency data (%s)."),
                             {code});
         }
     }
-    if (!OrderFill::currency(order, *id))
+    if (!fillCurrency(order, *id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading currency data (%s)."),
                     {code});
     return Result::success();
@@ -308,14 +318,14 @@ Result OrderImporter::resolveLanguage(const QString& code, Order& order)
     // Hungarian is language 0 and has no row.
     std::optional<qint64> id = 0;
     if (!code.isEmpty() && code.compare(QLatin1String("HU"), Qt::CaseInsensitive) != 0) {
-        if (!FindByCode(Tbl::LANG, Col::LANG_ID, Col::LANG_CODE, code.toUpper(), id) || !id)
+        if (!findCode(Tbl::LANG, Col::LANG_ID, Col::LANG_CODE, code.toUpper(), id) || !id)
             return Fail(QT_TRANSLATE_NOOP("OrderImporter",
                                           "There is no lang with code %s in database.&&Add this "
                                           "language and the translations and try downloading "
                                           "orders again."),
                         {code});
     }
-    if (Result r = OrderFill::language(order, *id); !r)
+    if (Result r = fillLanguage(order, *id); !r)
         return r;
     return Result::success();
 }
@@ -326,7 +336,7 @@ Result OrderImporter::resolveCountry(const QString& code, std::optional<qint64>&
         id = m_homeCountry;
         return Result::success();
     }
-    if (!FindByCode(Tbl::COUNTRY, Col::COUNTRY_ID, Col::COUNTRY_INTERNATIONAL_CODE, code, id))
+    if (!findCode(Tbl::COUNTRY, Col::COUNTRY_ID, Col::COUNTRY_INTERNATIONAL_CODE, code, id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading country data (%s)."), {code});
     if (id)
         return Result::success();
@@ -334,11 +344,11 @@ Result OrderImporter::resolveCountry(const QString& code, std::optional<qint64>&
         FillArgs(Text(QT_TRANSLATE_NOOP("OrderImporter", "There is no %s country in database.&You "
                                                          "have to set it up in the next window.")),
                  {code}));
+    forgetCaches(); // the user may change any row in the windows
     if (!m_ask.editRow(MasterTable::Country, std::nullopt,
                        {{QLatin1String(Col::COUNTRY_INTERNATIONAL_CODE), code}}))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Setting up country aborted."));
-    if (!FindByCode(Tbl::COUNTRY, Col::COUNTRY_ID, Col::COUNTRY_INTERNATIONAL_CODE, code, id) ||
-        !id)
+    if (!findCode(Tbl::COUNTRY, Col::COUNTRY_ID, Col::COUNTRY_INTERNATIONAL_CODE, code, id) || !id)
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading country data (%s)."), {code});
     return Result::success();
 }
@@ -350,14 +360,21 @@ Result OrderImporter::requireTranslation(const char* table, const char* parentCo
 {
     if (langId == 0)
         return Result::success();
+    const QString key =
+        QStringLiteral("%1 %2 %3").arg(QLatin1String(table)).arg(parentId).arg(langId);
+    if (m_translations.contains(key))
+        return Result::success();
     const QString sql =
         Sql("select count(*) from %1 where %2 = ? and %3 = ?", {table, parentColumn, langColumn});
     QVariant count = SelectValue(sql, {parentId, langId});
     if (!count.isValid())
         return Fail(loadError);
-    if (count.toInt() > 0)
+    if (count.toInt() > 0) {
+        m_translations.insert(key, true);
         return Result::success();
+    }
     m_interaction.exclamation(question);
+    forgetCaches(); // the user may change any row in the windows
     if (!m_ask.editRow(editor, parentId))
         return Fail(aborted);
     count = SelectValue(sql, {parentId, langId});
@@ -370,7 +387,7 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
 {
     std::optional<qint64> id;
     if (!code.isEmpty()) {
-        if (!FindByCode(Tbl::NOVATREASON, Col::NOVATREASON_ID, Col::NOVATREASON_CODE, code, id))
+        if (!findCode(Tbl::NOVATREASON, Col::NOVATREASON_ID, Col::NOVATREASON_CODE, code, id))
             return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."));
         if (!id) {
             m_interaction.exclamation(FillArgs(
@@ -378,6 +395,7 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
                                        "There is no novatreason with code %s in database.&&Add or "
                                        "select this novatreason in the next window.")),
                 {code}));
+            forgetCaches(); // the user may change any row in the windows
             id = m_ask.chooseRow(MasterTable::NoVatReason);
             if (!id)
                 return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."));
@@ -400,7 +418,7 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
             !r)
             return r;
     }
-    if (!OrderFill::noVatReason(order, id))
+    if (!fillNoVatReason(order, id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."));
     return Result::success();
 }
@@ -414,7 +432,7 @@ Result OrderImporter::resolvePaymentMethod(const QString& code, const QString& o
                               "ORDERHEAD_PAYMENTMETHOD_CODE is missing.&&ORDERHEAD_CODE=%s"),
             {orderCode});
     std::optional<qint64> id;
-    if (!FindByCode(Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID, Col::PAYMENTMETHOD_CODE, code, id))
+    if (!findCode(Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID, Col::PAYMENTMETHOD_CODE, code, id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."));
     if (!id) {
         m_interaction.exclamation(
@@ -423,6 +441,7 @@ Result OrderImporter::resolvePaymentMethod(const QString& code, const QString& o
                                             "database.&&Add or select this payment method and the "
                                             "translations in the next window.")),
                      {code}));
+        forgetCaches(); // the user may change any row in the windows
         id = m_ask.chooseRow(MasterTable::PaymentMethod);
         if (!id)
             return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."));
@@ -443,7 +462,7 @@ Result OrderImporter::resolvePaymentMethod(const QString& code, const QString& o
             QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method translation."));
         !r)
         return r;
-    if (!OrderFill::paymentMethod(order, *id))
+    if (!fillPaymentMethod(order, *id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."));
     return Result::success();
 }
@@ -456,22 +475,31 @@ Result OrderImporter::resolvePartner(Order& order)
                      &order.partnerCountryNameOnMails},
           std::tuple{order.mailCountryId, &order.mailCountryCode, &order.mailCountryName,
                      &order.mailCountryNameOnMails}}) {
-        SqlStatement st(Sql("select %1, %2, %3 from %4 where %5 = ?",
-                            {Col::COUNTRY_INTERNATIONAL_CODE, Col::COUNTRY_NAME,
-                             Col::COUNTRY_NAME_ON_MAILS, Tbl::COUNTRY, Col::COUNTRY_ID}),
-                        {id.value_or(0)});
-        if (!st.exec() || !st.next())
-            return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading country data (%s)."),
-                        {QString::number(id.value_or(0))});
-        *code = st.value(0).toString();
-        *name = st.value(1).toString();
-        *onMails = st.value(2).toString();
+        QStringList& country = m_countries[id.value_or(0)];
+        if (country.isEmpty()) {
+            SqlStatement st(Sql("select %1, %2, %3 from %4 where %5 = ?",
+                                {Col::COUNTRY_INTERNATIONAL_CODE, Col::COUNTRY_NAME,
+                                 Col::COUNTRY_NAME_ON_MAILS, Tbl::COUNTRY, Col::COUNTRY_ID}),
+                            {id.value_or(0)});
+            if (!st.exec() || !st.next())
+                return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading country data (%s)."),
+                            {QString::number(id.value_or(0))});
+            country = {st.value(0).toString(), st.value(1).toString(), st.value(2).toString()};
+        }
+        *code = country.at(0);
+        *name = country.at(1);
+        *onMails = country.at(2);
     }
 
     std::optional<qint64> id;
+    QVariant days;
+    m_partnerDays.reset();
     if (!order.partnerCode.isEmpty() &&
-        !FindByCode(Tbl::PARTNER, Col::PARTNER_ID, Col::PARTNER_CODE, order.partnerCode, id))
+        !lookup(Tbl::PARTNER, Col::PARTNER_ID, Col::PARTNER_CODE, order.partnerCode, id,
+                Col::PARTNER_PAYMENT_DUE_DAYS, &days))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading partner data."));
+    if (id && !days.isNull())
+        m_partnerDays = days.toLongLong();
     order.partnerId = id;
     if (!m_updateBasicData || order.partnerCode.isEmpty())
         return Result::success();
@@ -540,7 +568,7 @@ Result OrderImporter::readItem(const XmlRecord& e, const Order& order, OrderItem
 
     std::optional<qint64> vatId;
     if (!item.vatCode.isEmpty()) {
-        if (!FindByCode(Tbl::VAT, Col::VAT_ID, Col::VAT_CODE, item.vatCode, vatId))
+        if (!findCode(Tbl::VAT, Col::VAT_ID, Col::VAT_CODE, item.vatCode, vatId))
             return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading VAT data."));
         if (m_updateBasicData) {
             Record vat{{QLatin1String(Col::VAT_CODE), item.vatCode},
@@ -559,7 +587,7 @@ Result OrderImporter::resolveProduct(const Order& order, OrderItem& item)
     if (item.productCode.isEmpty())
         return Result::success();
     std::optional<qint64> id;
-    if (!FindByCode(Tbl::PRODUCT, Col::PRODUCT_ID, Col::PRODUCT_CODE, item.productCode, id))
+    if (!lookup(Tbl::PRODUCT, Col::PRODUCT_ID, Col::PRODUCT_CODE, item.productCode, id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading product data."));
     item.productId = id;
     if (!m_updateBasicData)
@@ -631,5 +659,151 @@ Result OrderImporter::storeOrder(Order& order, const QString& timestamp)
                      {timestamp}))
             return failed(QtfEscape(Database::session().lastError().text()));
     }
+    return Result::success();
+}
+
+void OrderImporter::forgetCaches()
+{
+    m_codes.clear();
+    m_snapshots.clear();
+    m_translations.clear();
+    m_countries.clear();
+    m_methodDays.clear();
+}
+
+bool OrderImporter::lookup(const char* table, const char* idColumn, const char* codeColumn,
+                           const QString& code, std::optional<qint64>& id, const char* extraColumn,
+                           QVariant* extra)
+{
+    id.reset();
+    const QString key = QLatin1String(table);
+    std::shared_ptr<QSqlQuery>& query = m_prepared[key];
+    if (!query) {
+        query = std::make_shared<QSqlQuery>(Database::session());
+        const QString text =
+            extraColumn ? Sql("select %1, %2 from %3 where %4 = ?",
+                              {idColumn, extraColumn, table, codeColumn})
+                        : Sql("select %1 from %2 where %3 = ?", {idColumn, table, codeColumn});
+        if (!query->prepare(text)) {
+            query.reset();
+            return false;
+        }
+    }
+    query->bindValue(0, code);
+    if (!query->exec())
+        return false;
+    if (query->next()) {
+        id = query->value(0).toLongLong();
+        if (extra)
+            *extra = query->value(1);
+    }
+    query->finish();
+    return true;
+}
+
+std::optional<qint64> OrderImporter::methodDueDays(qint64 methodId)
+{
+    if (!m_methodDays.contains(methodId)) {
+        const QVariant days = SelectValue(
+            Sql("select %1 from %2 where %3 = ?",
+                {Col::PAYMENTMETHOD_DUE_DAYS, Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID}),
+            {methodId});
+        m_methodDays.insert(methodId, days.isNull() || !days.isValid()
+                                          ? std::nullopt
+                                          : std::optional<qint64>(days.toLongLong()));
+    }
+    return m_methodDays.value(methodId);
+}
+
+bool OrderImporter::findCode(const char* table, const char* idColumn, const char* codeColumn,
+                             const QString& code, std::optional<qint64>& id)
+{
+    const QString key = QLatin1String(table) + u'\n' + code;
+    if (const auto it = m_codes.constFind(key); it != m_codes.constEnd()) {
+        id = *it;
+        return true;
+    }
+    if (!FindByCode(table, idColumn, codeColumn, code, id))
+        return false;
+    // A missing code is asked for (and the caches forgotten) or stops the run.
+    if (id)
+        m_codes.insert(key, id);
+    return true;
+}
+
+Result OrderImporter::fillCurrency(Order& order, qint64 id)
+{
+    const QString key = QStringLiteral("currency %1").arg(id);
+    if (!m_snapshots.contains(key)) {
+        Order filled;
+        if (Result r = OrderFill::currency(filled, id); !r)
+            return r;
+        m_snapshots.insert(key, filled);
+    }
+    const Order& c = m_snapshots[key];
+    order.currencyId = c.currencyId;
+    order.currencyAbbreviation = c.currencyAbbreviation;
+    order.currencyRate = c.currencyRate;
+    order.unitPriceDecimals = c.unitPriceDecimals;
+    order.lineDecimals = c.lineDecimals;
+    order.linePrintingDecimals = c.linePrintingDecimals;
+    order.invoiceDecimals = c.invoiceDecimals;
+    order.invoicePrintingDecimals = c.invoicePrintingDecimals;
+    order.bankName = c.bankName;
+    order.bankAcctNo = c.bankAcctNo;
+    order.bankIban = c.bankIban;
+    order.bankSwift = c.bankSwift;
+    return Result::success();
+}
+
+Result OrderImporter::fillLanguage(Order& order, qint64 id)
+{
+    const QString key = QStringLiteral("lang %1").arg(id);
+    if (!m_snapshots.contains(key)) {
+        Order filled;
+        if (Result r = OrderFill::language(filled, id); !r)
+            return r;
+        m_snapshots.insert(key, filled);
+    }
+    order.langId = m_snapshots[key].langId;
+    order.langCode = m_snapshots[key].langCode;
+    return Result::success();
+}
+
+Result OrderImporter::fillNoVatReason(Order& order, std::optional<qint64> id)
+{
+    const QString key = QStringLiteral("reason %1 %2").arg(id.value_or(-1)).arg(order.langId);
+    if (!m_snapshots.contains(key)) {
+        Order filled;
+        filled.langId = order.langId;
+        if (Result r = OrderFill::noVatReason(filled, id); !r)
+            return r;
+        m_snapshots.insert(key, filled);
+    }
+    const Order& n = m_snapshots[key];
+    order.noVatReasonId = n.noVatReasonId;
+    order.noVatReasonCode = n.noVatReasonCode;
+    order.noVatReasonText = n.noVatReasonText;
+    order.noVatReasonTranslationText = n.noVatReasonTranslationText;
+    return Result::success();
+}
+
+Result OrderImporter::fillPaymentMethod(Order& order, qint64 id)
+{
+    const QString key = QStringLiteral("method %1 %2").arg(id).arg(order.langId);
+    if (!m_snapshots.contains(key)) {
+        Order filled;
+        filled.langId = order.langId;
+        if (Result r = OrderFill::paymentMethod(filled, id); !r)
+            return r;
+        m_snapshots.insert(key, filled);
+    }
+    const Order& m = m_snapshots[key];
+    order.paymentMethodId = m.paymentMethodId;
+    order.paymentMethodCode = m.paymentMethodCode;
+    order.paymentMethodName = m.paymentMethodName;
+    order.paymentMethodNameTranslation = m.paymentMethodNameTranslation;
+    order.paymentMethodPaid = m.paymentMethodPaid;
+    order.roundTo5 = m.roundTo5;
     return Result::success();
 }

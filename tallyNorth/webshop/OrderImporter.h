@@ -6,11 +6,15 @@
 
 #include "base/Result.h"
 #include "masterdata/MasterTables.h"
+#include "orders/Order.h"
 
 #include <QCoreApplication>
 #include <QHash>
 #include <QList>
+#include <QSqlQuery>
 #include <QString>
+
+#include <memory>
 
 #include <optional>
 
@@ -18,8 +22,6 @@ class Interaction;
 class Progress;
 class QIODevice;
 class WebshopInteraction;
-struct Order;
-struct OrderItem;
 struct XmlRecord;
 
 class OrderImporter
@@ -59,10 +61,35 @@ private:
                               qint64 parentId, qint64 langId, MasterTable editor,
                               const QString& question, const char* aborted, const char* loadError);
 
+    // Lookups by code in the small tables, and OrderFill's snapshots, read once per run: the
+    // orders of one document share them. A failed order ends the run and with it the caches.
+    bool findCode(const char* table, const char* idColumn, const char* codeColumn,
+                  const QString& code, std::optional<qint64>& id);
+    Result fillCurrency(Order& order, qint64 id);
+    Result fillLanguage(Order& order, qint64 id);
+    Result fillNoVatReason(Order& order, std::optional<qint64> id);
+    Result fillPaymentMethod(Order& order, qint64 id);
+    void forgetCaches();
+    // The row id (and the value of extraColumn) by code, through a statement prepared once per
+    // run: partners and products are looked up for every order and item.
+    bool lookup(const char* table, const char* idColumn, const char* codeColumn,
+                const QString& code, std::optional<qint64>& id, const char* extraColumn = nullptr,
+                QVariant* extra = nullptr);
+    // The payment method's default days until the payment is due.
+    std::optional<qint64> methodDueDays(qint64 methodId);
+
     Interaction& m_interaction;
     WebshopInteraction& m_ask;
     bool m_updateBasicData = false;
     std::optional<qint64> m_homeCountry;
+    std::optional<Order> m_newOrder;
+    QHash<QString, std::optional<qint64>> m_codes;
+    QHash<QString, Order> m_snapshots;
+    QHash<QString, bool> m_translations;
+    QHash<qint64, QStringList> m_countries;
+    QHash<QString, std::shared_ptr<QSqlQuery>> m_prepared;
+    QHash<qint64, std::optional<qint64>> m_methodDays;
+    std::optional<qint64> m_partnerDays;
     QList<qint64> m_created;
     QList<qint64> m_partners;
     QList<qint64> m_products;

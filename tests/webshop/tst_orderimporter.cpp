@@ -116,6 +116,11 @@ private Q_SLOTS:
                       "PARTNER_CODE = 'C-W1'), ORDERHEAD_TOTAL_GROSS from ORDERHEAD where "
                       "ORDERHEAD_CODE = 'W1'"),
             QString("EUR|1|DE|1|1|27.5"));
+        // Due days: the partner's own agreement, else the payment method's.
+        QCOMPARE(QueryText("select ORDERHEAD_CODE, julianday(ORDERHEAD_DATE_PAYMENT_DUE) - "
+                           "julianday(ORDERHEAD_DATE_CREATED) from ORDERHEAD where ORDERHEAD_CODE "
+                           "in ('W1', 'W2') order by ORDERHEAD_CODE"),
+                 QString("W1|8; W2|30"));
         QCOMPARE(QueryText("select ORDERITEM_VAT_ID = (select VAT_ID from VAT where VAT_CODE = "
                            "'NEW') from ORDERITEM where ORDERITEM_CODE = 'L1'"),
                  QString("1"));
