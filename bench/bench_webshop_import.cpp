@@ -11,11 +11,13 @@
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "webshop/OrderImporter.h"
+#include "webshop/WebshopExchange.h"
 #include "webshop/WebshopInteraction.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -74,6 +76,40 @@ bool ReadTemplate(const QSqlDatabase& db, const QString& table, const QString& w
                      .arg(table, names.join(u','),
                           QStringList(names.size(), QStringLiteral("?")).join(u','));
     return true;
+}
+
+// The same orders downloaded from the local webshop into a new company: seconds, or -1.
+double Download(const QString& company, qint64 orders)
+{
+#ifdef TN_WEBSHOP
+    QProcess shop;
+    shop.start(QStringLiteral(TN_WEBSHOP), {QStringLiteral("--port"), QStringLiteral("0"),
+                                            QStringLiteral("--generate"), QString::number(orders)});
+    if (!shop.waitForReadyRead(10000))
+        return -1;
+    const QString base = QString::fromUtf8(shop.readLine()).section(u' ', 2).trimmed();
+    if (!OpenBenchCompany(company))
+        return -1;
+    (void)Setup::write({{QStringLiteral("SETUP_DOWNLOAD_UPDATE_BASIC_DATA"), QStringLiteral("0")},
+                        {QStringLiteral("SETUP_DOWNLOAD_INVOICE_URL"), QString(base + "order.php")},
+                        {QStringLiteral("SETUP_DOWNLOAD_SAVE_PASSWORD"), QStringLiteral("1")},
+                        {QStringLiteral("SETUP_DOWNLOAD_MAX_ORDERS"), orders}});
+    QuietInteraction quiet;
+    WebshopInteraction nobody;
+    WebshopExchange exchange(quiet, nobody);
+    QElapsedTimer clock;
+    clock.start();
+    const bool ok = exchange.download(WebshopDocument::Orders) && exchange.storedCount() == orders;
+    const double seconds = clock.nsecsElapsed() / 1e9;
+    Database::close();
+    shop.kill();
+    shop.waitForFinished();
+    return ok ? seconds : -1;
+#else
+    Q_UNUSED(company);
+    Q_UNUSED(orders);
+    return -1;
+#endif
 }
 
 // The same rows written straight to SQLite: per order one transaction with the head, its items
@@ -143,6 +179,7 @@ int main(int argc, char* argv[])
     const QString raw = folder + QStringLiteral("/raw.db");
     QFile::remove(company);
     QFile::remove(raw);
+    QFile::remove(folder + QStringLiteral("/download.db"));
 
     if (!WriteOrders(xml, orders)) {
         std::fprintf(stderr, "can not write %s\n", qPrintable(xml));
@@ -208,5 +245,12 @@ int main(int argc, char* argv[])
                 importSeconds, importRate, peakAfterImport);
     std::printf("raw SQLite: %lld orders in %.2f s, %.0f orders/s\n", orders, rawSeconds, rawRate);
     std::printf("ratio import/raw: %.2f (target at least 0.70)\n", importRate / rawRate);
+    const double downloadSeconds = Download(folder + QStringLiteral("/download.db"), orders);
+    if (downloadSeconds > 0) {
+        const double downloadRate = orders / downloadSeconds;
+        std::printf("download from the local webshop: %.2f s, %.0f orders/s; peak memory %.1f MB\n",
+                    downloadSeconds, downloadRate, PeakMb());
+        std::printf("ratio download/raw: %.2f\n", downloadRate / rawRate);
+    }
     return 0;
 }

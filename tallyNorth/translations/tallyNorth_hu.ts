@@ -2326,6 +2326,10 @@ Folytatja?</translation>
             <translation>Hiba a(z) %s kódú rendeléstétel létrehozásakor.</translation>
         </message>
         <message>
+            <source>%s is not a number: "%s"&amp;&amp;ORDERHEAD_CODE=%s</source>
+            <translation>A(z) %s értéke nem szám: "%s"&amp;&amp;ORDERHEAD_CODE=%s</translation>
+        </message>
+        <message>
             <source>Error creating order in database with CODE %s.</source>
             <translation>Hiba a(z) %s kódú rendelés létrehozásakor.</translation>
         </message>

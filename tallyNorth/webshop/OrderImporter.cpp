@@ -535,9 +535,18 @@ Result OrderImporter::resolvePartner(Order& order)
 Result OrderImporter::readItem(const XmlRecord& e, const Order& order, OrderItem& item)
 {
     const auto text = [&](const char* tag, QString& field) { field = e.text(QLatin1String(tag)); };
+    // A number the shop sent that reads as none stops the order: a quantity taken as 0 would be
+    // a wrong invoice.
+    QString notNumber;
     const auto number = [&](const char* tag, double& field) {
-        if (const std::optional<double> v = WebshopNumber(e.text(QLatin1String(tag))))
+        const QString value = e.text(QLatin1String(tag));
+        if (const std::optional<double> v = WebshopNumber(value))
             field = *v;
+        else if (!value.trimmed().isEmpty() && notNumber.isEmpty())
+            notNumber =
+                FillArgs(Text(QT_TRANSLATE_NOOP("OrderImporter",
+                                                "%s is not a number: \"%s\"&&ORDERHEAD_CODE=%s")),
+                         {QLatin1String(tag), value, order.code});
     };
     text("ORDERITEM_CODE", item.code);
     item.dateShipped = WebshopDate(e.text(QStringLiteral("ORDERITEM_DATE_SHIPPED")));
@@ -560,6 +569,8 @@ Result OrderImporter::readItem(const XmlRecord& e, const Order& order, OrderItem
             WebshopInteger(e.text(QStringLiteral("ORDERITEM_DISCOUNT_TYPE"))))
         item.discountType = int(*type);
     number("ORDERITEM_DISCOUNT_PERCENT", item.discountPercent);
+    if (!notNumber.isEmpty())
+        return Result::failure(notNumber);
     // Version 1.0 shops sent no real list price.
     if (documentVersion() == QLatin1String("1.0"))
         item.listPrice = item.price;

@@ -81,6 +81,9 @@ std::optional<double> WebshopNumber(const QString& text)
     QString t = text.trimmed();
     if (t.startsWith(u'+'))
         t.remove(0, 1);
+    // Thousands grouped with blanks ("1 000", also the no-break space) and a decimal comma.
+    t.remove(u' ');
+    t.remove(QChar(0x00A0));
     t.replace(u',', u'.');
     bool ok = false;
     const double value = t.toDouble(&ok);

@@ -33,8 +33,8 @@ bool ReadXmlRecord(QXmlStreamReader& reader, XmlRecord& record, const QString& i
 bool WebshopFlag(const QString& text);
 // A decimal integer after leading blanks and an optional sign; none when there are no digits.
 std::optional<qint64> WebshopInteger(const QString& text);
-// A decimal number (blanks around it, an optional sign; a decimal comma is read as a point);
-// none when the text is not a number.
+// A decimal number (blanks around it and between digit groups, an optional sign; a decimal comma
+// is read as a point); none when the text is not a number.
 std::optional<double> WebshopNumber(const QString& text);
 // A date in the display form (2024.03.05.) or in ISO form (2024-03-05); invalid otherwise.
 QDate WebshopDate(const QString& text);

@@ -153,6 +153,8 @@ private Q_SLOTS:
                           "<ORDERHEAD_PAYMENTMETHOD_CODE>KP"
                           "</ORDERHEAD_PAYMENTMETHOD_CODE></ORDER>"),
                QString("Order without items. ORDERHEAD_CODE is W2"));
+        AddRow("quantity not a number", OrderXml("W2", {}, {Item("L9", {"ORDERITEM_QTY=két"})}),
+               QString("ORDERITEM_QTY is not a number: \"két\"&&ORDERHEAD_CODE=W2"));
         AddRow("order code stored", OrderXml("W1", {"ORDERHEAD_TIMESTAMP=T-W2"}, {Item("L9")}),
                QString("Can't insert order W1.&Error creating order in database with CODE W1."));
         AddRow("item code stored", OrderXml("W2", {}, {Item("L9"), Item("W1-1")}),
@@ -293,6 +295,7 @@ private Q_SLOTS:
         AddRow("trailing text", QString("0x1"), false, QString(), QString());
         AddRow("empty", QString(), false, QString(), QString());
         AddRow("decimal comma", QString(" 12,5 "), true, QString("12.5"), QString());
+        AddRow("grouped digits", QString("-1 000,5"), true, QString("-1000.5"), QString());
         AddRow("display date", QString("2024.03.05."), true, QString(), QString("2024-03-05"));
         AddRow("iso date", QString("2024-03-05"), true, QString(), QString("2024-03-05"));
         AddRow("no date", QString("2024-13-05"), true, QString(), QString());
