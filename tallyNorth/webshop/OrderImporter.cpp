@@ -82,6 +82,9 @@ bool OrderImporter::importDocument(QIODevice& device, Progress* progress)
     VersionSlot() = QStringLiteral("1.0");
     m_updateBasicData = Setup::current().flag(Col::SETUP_DOWNLOAD_UPDATE_BASIC_DATA);
 
+    // Text without any markup is told as such; a parse error at the start of a document with
+    // markup (an encoding that can not be read) keeps the parser's own words.
+    const bool markup = device.peek(64 * 1024).contains('<');
     QXmlStreamReader reader(&device);
     bool anyElement = false;
     int depth = 0;
@@ -128,7 +131,7 @@ bool OrderImporter::importDocument(QIODevice& device, Progress* progress)
         m_interaction.error(outcome.message());
         return false;
     }
-    if (!anyElement) {
+    if (!anyElement && !(markup && reader.hasError())) {
         m_interaction.error(Text(QT_TRANSLATE_NOOP("OrderImporter", "No XML tags in document.")));
         return false;
     }

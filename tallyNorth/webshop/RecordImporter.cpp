@@ -68,12 +68,18 @@ bool RecordImporter::importDocument(QIODevice& device, Progress* progress)
     const bool partners = m_kind == Kind::Partners;
     const QLatin1String rootTag(partners ? "PARTNERS" : "PRODUCTS");
     const QLatin1String recordTag(partners ? "PARTNER" : "PRODUCT");
+    // Text without markup has no tags; markup the parser can not read keeps its own words.
+    const bool markup = device.peek(64 * 1024).contains('<');
     QXmlStreamReader reader(&device);
     Result outcome = Result::success();
     bool root = false;
     while (!reader.atEnd() && !root)
         root = reader.readNext() == QXmlStreamReader::StartElement;
-    if (!root) {
+    if (!root && markup && reader.hasError()) {
+        outcome = Result::failure(
+            Text(QT_TRANSLATE_NOOP("RecordImporter", "Error processing data from server:&")) +
+            QtfEscape(reader.errorString()));
+    } else if (!root) {
         outcome =
             Result::failure(Text(QT_TRANSLATE_NOOP("RecordImporter", "No XML tags in document.")));
     } else if (reader.name() != rootTag) {

@@ -189,6 +189,11 @@ private Q_SLOTS:
         AddRow("bad markup in the second order",
                OrdersDoc({OrderXml("W1"), "<ORDER><ORDERHEAD_CODE>W2</ORDER>"}),
                QString("Opening and ending tag mismatch."), QString("W1"));
+        AddRow("unknown encoding",
+               OrdersDoc({OrderXml("W1")}, "<?xml version=\"1.0\" encoding=\"EBCDIC-X\"?>"),
+               QString("Encoding EBCDIC-X is unsupported"), QString());
+        AddRow("bytes not UTF-8", OrdersDoc({OrderXml("W1"), "<ORDER>\xff\xfe</ORDER>"}),
+               QString("Encountered incorrectly encoded content."), QString());
     }
     void unreadableDocuments()
     {

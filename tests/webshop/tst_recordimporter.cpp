@@ -104,6 +104,10 @@ private Q_SLOTS:
                QString());
         AddRow("no tags", partners, QByteArray("  "), QString("No XML tags in document."),
                QString());
+        AddRow("unreadable encoding", products,
+               QByteArray("<?xml version=\"1.0\" encoding=\"EBCDIC-X\"?><PRODUCTS/>"),
+               QString("Error processing data from server:\nEncoding EBCDIC-X is unsupported"),
+               QString());
         AddRow("stranger among partners", partners,
                Doc("PARTNERS", {Partner("A"), "<PRODUCT/>", Partner("C")}),
                QString("NO PARTNER tag."), QString("A"));
