@@ -3696,6 +3696,10 @@ Folytatja?</translation>
             <source>The server did not answer in time.</source>
             <translation>A szerver nem válaszolt időben.</translation>
         </message>
+        <message>
+            <source>The connection was closed before the whole answer arrived.</source>
+            <translation>A kapcsolat megszakadt, mielőtt a teljes válasz megérkezett.</translation>
+        </message>
     </context>
     <context>
         <name>WebshopCommands</name>

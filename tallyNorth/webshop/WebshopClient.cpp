@@ -49,9 +49,11 @@ HttpAnswer GetOnce(QNetworkAccessManager& manager, const HttpRequest& request, Q
     idle.start();
     bool timedOut = false;
     bool writeFailed = false;
+    qint64 received = 0;
     QObject::connect(reply, &QNetworkReply::readyRead, &loop, [&] {
         idle.restart();
         const QByteArray chunk = reply->readAll();
+        received += chunk.size();
         if (out.write(chunk) != chunk.size()) {
             writeFailed = true;
             reply->abort();
@@ -82,8 +84,13 @@ HttpAnswer GetOnce(QNetworkAccessManager& manager, const HttpRequest& request, Q
     tick.stop();
     if (!answer.canceled && !timedOut && !writeFailed) {
         const QByteArray rest = reply->readAll();
+        received += rest.size();
         writeFailed = out.write(rest) != rest.size();
     }
+    // A connection dropped half way may still end without an error: the promised length tells.
+    const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
+    const bool cut = length.isValid() && !reply->hasRawHeader("Content-Encoding") &&
+                     received != length.toLongLong();
     answer.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (answer.canceled) {
         answer.error = QCoreApplication::translate("WebshopClient", "Operation canceled.");
@@ -99,6 +106,9 @@ HttpAnswer GetOnce(QNetworkAccessManager& manager, const HttpRequest& request, Q
     } else if (reply->error() != QNetworkReply::NoError) {
         answer.error = reply->errorString();
         retry = answer.status == 0 && Retryable(reply->error());
+    } else if (cut) {
+        answer.error = QCoreApplication::translate(
+            "WebshopClient", "The connection was closed before the whole answer arrived.");
     }
     reply->deleteLater();
     if (!answer.ok()) {
