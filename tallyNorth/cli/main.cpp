@@ -9,6 +9,7 @@
 #include "PaymentCommands.h"
 #include "ReportCommands.h"
 #include "ShellCommands.h"
+#include "WebshopCommands.h"
 
 #include "app/BaseFolder.h"
 #include "app/Language.h"
@@ -66,6 +67,12 @@ const CliCommand kCommands[] = {
      "[--from D --to D --date shipped|created|due] [--partner TEXT|--partner-id ID] "
      "[--currency local|original] [--format txt|csv|pdf] [--out FILE]",
      RunReportCommand},
+    {"import-orders", "import-orders FILE", RunImportOrders},
+    {"import-partners", "import-partners FILE", RunImportPartners},
+    {"import-products", "import-products FILE", RunImportProducts},
+    {"download-orders", "download-orders [--timeout SECONDS]", RunDownloadOrders},
+    {"download-partners", "download-partners [--timeout SECONDS]", RunDownloadPartners},
+    {"download-products", "download-products [--timeout SECONDS]", RunDownloadProducts},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

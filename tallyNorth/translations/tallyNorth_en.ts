@@ -2001,6 +2001,13 @@ Payment due:
         </message>
     </context>
     <context>
+        <name>RecordImporter</name>
+        <message>
+            <source>[G1 Eddig nem szereplo fizetesi mod.&amp;&amp;Partner neve: "%s",&amp;Fizetesi mod kodja: "%s"&amp;Fizetesi mod megnevezese: "%s"&amp;&amp; Valassza ki a megfelelo fizetesi modot a kovetkezo ablakbol!]</source>
+            <translation>[G1 Payment method not seen before.&amp;&amp;Partner name: "%s",&amp;Payment method code: "%s"&amp;Payment method name: "%s"&amp;&amp; Choose the matching payment method in the next window.]</translation>
+        </message>
+    </context>
+    <context>
         <name>Report</name>
         <message>
             <source>Unable to start printing.</source>
@@ -2312,6 +2319,40 @@ Payment due:
         <message>
             <source>Percent field must have a value.</source>
             <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>WebshopCommands</name>
+        <message>
+            <source>Importalando szamlak (*.xml)</source>
+            <translation>Invoices to import (*.xml)</translation>
+        </message>
+        <message>
+            <source>Importalando partnerek (*.xml)</source>
+            <translation>Partners to import (*.xml)</translation>
+        </message>
+        <message>
+            <source>Importalando termekek/szolgaltatasok (*.xml)</source>
+            <translation>Products/services to import (*.xml)</translation>
+        </message>
+    </context>
+    <context>
+        <name>WebshopExchange</name>
+        <message>
+            <source>A fajlban nincsenek importalhato szamlak.</source>
+            <translation>The file holds no invoices to import.</translation>
+        </message>
+        <message>
+            <source>A szamlak importalasa nem sikerult.</source>
+            <translation>Importing the invoices failed.</translation>
+        </message>
+        <message>
+            <source>Szamlak nem lettek importalva.</source>
+            <translation>No invoices were imported.</translation>
+        </message>
+        <message>
+            <source>%d db szamla importalasa sikerult.</source>
+            <translation>%d invoices imported.</translation>
         </message>
     </context>
 </TS>

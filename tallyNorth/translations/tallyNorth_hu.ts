@@ -13,6 +13,37 @@
         </message>
     </context>
     <context>
+        <name>AuthenticationLayout</name>
+        <message>
+            <source>Download invoices</source>
+            <translation>Számlák letöltése</translation>
+        </message>
+        <message>
+            <source>Download invoices from this URL</source>
+            <translation>Számlák letöltése erről a címről</translation>
+        </message>
+        <message>
+            <source>Login name</source>
+            <translation>Felhasználónév</translation>
+        </message>
+        <message>
+            <source>Password</source>
+            <translation>Jelszó</translation>
+        </message>
+        <message>
+            <source>Save password</source>
+            <translation>Jelszó mentése</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Mégse</translation>
+        </message>
+    </context>
+    <context>
         <name>Backup</name>
         <message>
             <source>The previous database file is kept here:&amp;%s</source>
@@ -2540,6 +2571,165 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>OrderImporter</name>
+        <message>
+            <source>No XML tags in document.</source>
+            <translation>A dokumentumban nincsenek XML elemek.</translation>
+        </message>
+        <message>
+            <source>Error in reading database.</source>
+            <translation>Hiba az adatbázis olvasásakor.</translation>
+        </message>
+        <message>
+            <source>Operation canceled.</source>
+            <translation>A művelet megszakítva.</translation>
+        </message>
+        <message>
+            <source>Order without items. ORDERHEAD_CODE is %s</source>
+            <translation>Tételek nélküli rendelés. ORDERHEAD_CODE: %s</translation>
+        </message>
+        <message>
+            <source>Can't insert order %s.</source>
+            <translation>A(z) %s rendelés nem menthető az adatbázisba.</translation>
+        </message>
+        <message>
+            <source>ORDERHEAD_CODE is missing</source>
+            <translation>Hiányzik az ORDERHEAD_CODE</translation>
+        </message>
+        <message>
+            <source>Error loading currency data (%s).</source>
+            <translation>Hiba a pénznem adatainak betöltésekor (%s).</translation>
+        </message>
+        <message>
+            <source>There is no %s currency in database.&amp;You have to set it up in the next window.</source>
+            <translation>Az adatbázisban nincs %s pénznem.&amp;A következő ablakban fel kell vennie.</translation>
+        </message>
+        <message>
+            <source>Setting up currency aborted.</source>
+            <translation>A pénznem felvétele megszakítva.</translation>
+        </message>
+        <message>
+            <source>There is no lang with code %s in database.&amp;&amp;Add this language and the translations and try downloading orders again.</source>
+            <translation>Az adatbázisban nincs %s kódú nyelv.&amp;&amp;Vegye fel ezt a nyelvet és a fordításokat, majd töltse le újra a rendeléseket.</translation>
+        </message>
+        <message>
+            <source>Error loading country data (%s).</source>
+            <translation>Hiba az ország adatainak betöltésekor (%s).</translation>
+        </message>
+        <message>
+            <source>There is no %s country in database.&amp;You have to set it up in the next window.</source>
+            <translation>Az adatbázisban nincs %s ország.&amp;A következő ablakban fel kell vennie.</translation>
+        </message>
+        <message>
+            <source>Setting up country aborted.</source>
+            <translation>Az ország felvétele megszakítva.</translation>
+        </message>
+        <message>
+            <source>Unable to load novatreason.</source>
+            <translation>Az áfamentesség oka nem tölthető be.</translation>
+        </message>
+        <message>
+            <source>There is no novatreason with code %s in database.&amp;&amp;Add or select this novatreason in the next window.</source>
+            <translation>Az adatbázisban nincs %s kódú áfamentességi ok.&amp;&amp;A következő ablakban vegye fel vagy válassza ki.</translation>
+        </message>
+        <message>
+            <source>Error saving novatreason selection.</source>
+            <translation>Hiba a kiválasztott áfamentességi ok mentésekor.</translation>
+        </message>
+        <message>
+            <source>There is no %s translation for %s novatreason in database.&amp;You have to set it up in the next window.</source>
+            <translation>Az adatbázisban nincs %s fordítás a(z) %s áfamentességi okhoz.&amp;A következő ablakban fel kell vennie.</translation>
+        </message>
+        <message>
+            <source>Setting up novatreason translation aborted.</source>
+            <translation>Az áfamentességi ok fordításának felvétele megszakítva.</translation>
+        </message>
+        <message>
+            <source>Unable to load novatreason translation.</source>
+            <translation>Az áfamentességi ok fordítása nem tölthető be.</translation>
+        </message>
+        <message>
+            <source>ORDERHEAD_PAYMENTMETHOD_CODE is missing.&amp;&amp;ORDERHEAD_CODE=%s</source>
+            <translation>Hiányzik az ORDERHEAD_PAYMENTMETHOD_CODE.&amp;&amp;ORDERHEAD_CODE=%s</translation>
+        </message>
+        <message>
+            <source>Unable to load payment method.</source>
+            <translation>A fizetési mód nem tölthető be.</translation>
+        </message>
+        <message>
+            <source>There is no payment method with code %s in database.&amp;&amp;Add or select this payment method and the translations in the next window.</source>
+            <translation>Az adatbázisban nincs %s kódú fizetési mód.&amp;&amp;A következő ablakban vegye fel vagy válassza ki, a fordításaival együtt.</translation>
+        </message>
+        <message>
+            <source>Error saving payment method selection.</source>
+            <translation>Hiba a kiválasztott fizetési mód mentésekor.</translation>
+        </message>
+        <message>
+            <source>There is no %s translation for %s payment method in database.&amp;You have to set it up in the next window.</source>
+            <translation>Az adatbázisban nincs %s fordítás a(z) %s fizetési módhoz.&amp;A következő ablakban fel kell vennie.</translation>
+        </message>
+        <message>
+            <source>Setting up payment method translation aborted.</source>
+            <translation>A fizetési mód fordításának felvétele megszakítva.</translation>
+        </message>
+        <message>
+            <source>Unable to load payment method translation.</source>
+            <translation>A fizetési mód fordítása nem tölthető be.</translation>
+        </message>
+        <message>
+            <source>Error loading partner data.</source>
+            <translation>Hiba a partner adatainak betöltésekor.</translation>
+        </message>
+        <message>
+            <source>Error saving partner data.</source>
+            <translation>Hiba a partner adatainak mentésekor.</translation>
+        </message>
+        <message>
+            <source>Error loading VAT data.</source>
+            <translation>Hiba az áfakulcs adatainak betöltésekor.</translation>
+        </message>
+        <message>
+            <source>Error saving VAT data.</source>
+            <translation>Hiba az áfakulcs adatainak mentésekor.</translation>
+        </message>
+        <message>
+            <source>Error loading product data.</source>
+            <translation>Hiba a termék adatainak betöltésekor.</translation>
+        </message>
+        <message>
+            <source>Error saving product data.</source>
+            <translation>Hiba a termék adatainak mentésekor.</translation>
+        </message>
+        <message>
+            <source>Error saving product price data.</source>
+            <translation>Hiba a termék árának mentésekor.</translation>
+        </message>
+        <message>
+            <source>Error loading product price data.</source>
+            <translation>Hiba a termék árának betöltésekor.</translation>
+        </message>
+        <message>
+            <source>Error saving product translation data.</source>
+            <translation>Hiba a termék fordításának mentésekor.</translation>
+        </message>
+        <message>
+            <source>Error loading product translation data.</source>
+            <translation>Hiba a termék fordításának betöltésekor.</translation>
+        </message>
+        <message>
+            <source>Error creating orderitem in database with CODE %s.</source>
+            <translation>Hiba a(z) %s kódú rendeléstétel létrehozásakor.</translation>
+        </message>
+        <message>
+            <source>%s is not a number: "%s"&amp;&amp;ORDERHEAD_CODE=%s</source>
+            <translation>A(z) %s értéke nem szám: "%s"&amp;&amp;ORDERHEAD_CODE=%s</translation>
+        </message>
+        <message>
+            <source>Error creating order in database with CODE %s.</source>
+            <translation>Hiba a(z) %s kódú rendelés létrehozásakor.</translation>
+        </message>
+    </context>
+    <context>
         <name>OrderItemEditDlg</name>
         <message>
             <source>New order item</source>
@@ -3611,6 +3801,65 @@ Folytatja?</translation>
         </message>
     </context>
     <context>
+        <name>RecordImporter</name>
+        <message>
+            <source>No XML tags in document.</source>
+            <translation>A dokumentumban nincsenek XML elemek.</translation>
+        </message>
+        <message>
+            <source>No PARTNERS tag. The first tag is: %s</source>
+            <translation>Nincs PARTNERS elem. Az első elem: %s</translation>
+        </message>
+        <message>
+            <source>No PRODUCTS tag.</source>
+            <translation>Nincs PRODUCTS elem.</translation>
+        </message>
+        <message>
+            <source>NO PARTNER tag.</source>
+            <translation>NINCS PARTNER elem.</translation>
+        </message>
+        <message>
+            <source>NO PRODUCT tag.</source>
+            <translation>NINCS PRODUCT elem.</translation>
+        </message>
+        <message>
+            <source>Saving partners to database aborted.</source>
+            <translation>A partnerek mentése megszakítva.</translation>
+        </message>
+        <message>
+            <source>Saving products to database aborted.</source>
+            <translation>A termékek mentése megszakítva.</translation>
+        </message>
+        <message>
+            <source>Error processing data from server:&amp;</source>
+            <translation>Hiba a szervertől kapott adatok feldolgozásakor:&amp;</translation>
+        </message>
+        <message>
+            <source>[G1 Eddig nem szereplo fizetesi mod.&amp;&amp;Partner neve: "%s",&amp;Fizetesi mod kodja: "%s"&amp;Fizetesi mod megnevezese: "%s"&amp;&amp; Valassza ki a megfelelo fizetesi modot a kovetkezo ablakbol!]</source>
+            <translation>[G1 Eddig nem szereplő fizetési mód.&amp;&amp;Partner neve: "%s",&amp;Fizetési mód kódja: "%s"&amp;Fizetési mód megnevezése: "%s"&amp;&amp; Válassza ki a megfelelő fizetési módot a következő ablakból!]</translation>
+        </message>
+        <message>
+            <source>[G1 New VAT_CODE found.&amp;&amp;PRODUCT_NAME: "%s",&amp;VAT_CODE: "%s"&amp;&amp; Please, select appropriate VAT key in nex dialog.]</source>
+            <translation>[G1 Új VAT_CODE érkezett.&amp;&amp;PRODUCT_NAME: "%s",&amp;VAT_CODE: "%s"&amp;&amp; Válassza ki a megfelelő áfakulcsot a következő ablakban.]</translation>
+        </message>
+        <message>
+            <source>Unable to update in DB. CODE: %s, NAME: %s</source>
+            <translation>Nem sikerült módosítani az adatbázisban. KÓD: %s, NÉV: %s</translation>
+        </message>
+        <message>
+            <source>Unable to insert into DB. CODE: %s, NAME: %s</source>
+            <translation>Nem sikerült felvenni az adatbázisba. KÓD: %s, NÉV: %s</translation>
+        </message>
+        <message>
+            <source>Error: Maybe there is an other partner in the database with the same name and a different code:&amp;</source>
+            <translation>Hiba: lehet, hogy van már más partner az adatbázisban ugyanezzel a névvel és más kóddal:&amp;</translation>
+        </message>
+        <message>
+            <source>Error: Maybe there is an other product in the database with the same name and a different code:&amp;</source>
+            <translation>Hiba: lehet, hogy van már más termék az adatbázisban ugyanezzel a névvel és más kóddal:&amp;</translation>
+        </message>
+    </context>
+    <context>
         <name>Report</name>
         <message>
             <source>Unable to start printing.</source>
@@ -4626,6 +4875,139 @@ Folytatja?</translation>
         <message>
             <source>Percent field must have a value.</source>
             <translation>A százalék mezőt ki kell tölteni.</translation>
+        </message>
+    </context>
+    <context>
+        <name>WebshopClient</name>
+        <message>
+            <source>Operation canceled.</source>
+            <translation>A művelet megszakítva.</translation>
+        </message>
+        <message>
+            <source>The server did not answer in time.</source>
+            <translation>A szerver nem válaszolt időben.</translation>
+        </message>
+        <message>
+            <source>The connection was closed before the whole answer arrived.</source>
+            <translation>A kapcsolat megszakadt, mielőtt a teljes válasz megérkezett.</translation>
+        </message>
+    </context>
+    <context>
+        <name>WebshopCommands</name>
+        <message>
+            <source>Importalando szamlak (*.xml)</source>
+            <translation>Importálandó számlák (*.xml)</translation>
+        </message>
+        <message>
+            <source>Importalando partnerek (*.xml)</source>
+            <translation>Importálandó partnerek (*.xml)</translation>
+        </message>
+        <message>
+            <source>Importalando termekek/szolgaltatasok (*.xml)</source>
+            <translation>Importálandó termékek/szolgáltatások (*.xml)</translation>
+        </message>
+        <message>
+            <source>stored: %1</source>
+            <translation>mentve: %1</translation>
+        </message>
+        <message>
+            <source>give the file to import</source>
+            <translation>adja meg az importálandó fájlt</translation>
+        </message>
+        <message>
+            <source>no arguments expected</source>
+            <translation>a parancsnak nincsenek argumentumai</translation>
+        </message>
+        <message>
+            <source>The webshop login is not saved. Set the login name and the password with "Save password" in the settings to download from the command line.</source>
+            <translation>A webáruház belépési adatai nincsenek elmentve. A parancssori letöltéshez adja meg a beállításokban a felhasználónevet és a jelszót, a „Jelszó mentése” bejelölésével.</translation>
+        </message>
+    </context>
+    <context>
+        <name>WebshopExchange</name>
+        <message>
+            <source>Partners not downloaded</source>
+            <translation>A partnerek letöltése nem sikerült</translation>
+        </message>
+        <message>
+            <source>Products not downloaded</source>
+            <translation>A termékek letöltése nem sikerült</translation>
+        </message>
+        <message>
+            <source>Orders not downloaded</source>
+            <translation>A rendelések letöltése nem sikerült</translation>
+        </message>
+        <message>
+            <source>Creating partners in database...</source>
+            <translation>Partnerek mentése az adatbázisba...</translation>
+        </message>
+        <message>
+            <source>Creating products in database...</source>
+            <translation>Termékek mentése az adatbázisba...</translation>
+        </message>
+        <message>
+            <source>Creating orders in database...</source>
+            <translation>Rendelések létrehozása az adatbázisban...</translation>
+        </message>
+        <message>
+            <source>%d partners saved.</source>
+            <translation>%d partner mentve.</translation>
+        </message>
+        <message>
+            <source>%d products saved.</source>
+            <translation>%d termék mentve.</translation>
+        </message>
+        <message>
+            <source>Authenticate yourself to download orders from server.</source>
+            <translation>A rendelések letöltéséhez azonosítsa magát.</translation>
+        </message>
+        <message>
+            <source>Authenticate yourself to download partners from server.</source>
+            <translation>A partnerek letöltéséhez azonosítsa magát.</translation>
+        </message>
+        <message>
+            <source>Authenticate yourself to download products from server.</source>
+            <translation>A termékek letöltéséhez azonosítsa magát.</translation>
+        </message>
+        <message>
+            <source>Downloading from server...</source>
+            <translation>Letöltés a szerverről...</translation>
+        </message>
+        <message>
+            <source>Wrong login name or password. Try again.</source>
+            <translation>Hibás felhasználónév vagy jelszó. Próbálja újra.</translation>
+        </message>
+        <message>
+            <source>Communication error with web server.&amp;Code: %d&amp;Error message: %s</source>
+            <translation>Hiba a webszerverrel való kommunikációban.&amp;Kód: %d&amp;Hibaüzenet: %s</translation>
+        </message>
+        <message>
+            <source>A fajlban nincsenek importalhato szamlak.</source>
+            <translation>A fájlban nincsenek importálható számlák.</translation>
+        </message>
+        <message>
+            <source>A szamlak importalasa nem sikerult.</source>
+            <translation>A számlák importálása nem sikerült.</translation>
+        </message>
+        <message>
+            <source>Szamlak nem lettek importalva.</source>
+            <translation>Számlák nem lettek importálva.</translation>
+        </message>
+        <message>
+            <source>%d db szamla importalasa sikerult.</source>
+            <translation>%d db számla importálása sikerült.</translation>
+        </message>
+        <message>
+            <source>No new orders to download.</source>
+            <translation>Nincs új letölthető rendelés.</translation>
+        </message>
+        <message>
+            <source>%d orders downloaded. There can be downloadable orders on the server yet.</source>
+            <translation>%d rendelés letöltve. A szerveren még lehetnek letölthető rendelések.</translation>
+        </message>
+        <message>
+            <source>%d orders downloaded.</source>
+            <translation>%d rendelés letöltve.</translation>
         </message>
     </context>
 </TS>

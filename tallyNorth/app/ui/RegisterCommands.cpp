@@ -16,6 +16,7 @@
 #include "masterdata/ui/MasterdataCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderListCommands.h"
+#include "webshop/ui/WebshopCommands.h"
 
 void InstallShellServices()
 {
@@ -39,6 +40,7 @@ void RegisterCommands(MainWindow& window)
     RegisterOrderList(window);
     RegisterChequeList(window);
     RegisterReportCommands(window);
+    RegisterWebshopCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()
