@@ -1,14 +1,16 @@
 #include "Database.h"
 
-#include <QCoreApplication>
 #include "MessageArgs.h"
+#include <QCoreApplication>
+
+#include "SqlStatement.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSqlError>
 
 namespace {
-const char* const kConnection = "tallynorth";
+const char* const kConnection = Database::kSessionName;
 }
 
 QString& Database::currentPath()
@@ -21,18 +23,20 @@ Result Database::open(const QString& path)
 {
     close();
     if (path.isEmpty())
-        return Result::failure(QCoreApplication::translate("Database", "Missing filename opening database."));
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QString::fromLatin1(kConnection));
+        return Result::failure(
+            QCoreApplication::translate("Database", "Missing filename opening database."));
+    QSqlDatabase db =
+        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QString::fromLatin1(kConnection));
     db.setDatabaseName(path);
     const bool dirExists = QFileInfo(path).absoluteDir().exists();
     if (!dirExists || !db.open()) {
         const QString error = db.lastError().text();
         db = QSqlDatabase();
         QSqlDatabase::removeDatabase(QString::fromLatin1(kConnection));
-        return Result::failure(
-            FillArgs(QCoreApplication::translate("Database", "Can't create or open database file:\n%s"),
-                     {path}),
-            error);
+        return Result::failure(FillArgs(QCoreApplication::translate(
+                                            "Database", "Can't create or open database file:\n%s"),
+                                        {path}),
+                               error);
     }
     currentPath() = QFileInfo(path).absoluteFilePath();
     return Result::success();
@@ -42,6 +46,7 @@ void Database::close()
 {
     if (!QSqlDatabase::contains(QString::fromLatin1(kConnection)))
         return;
+    ForgetPreparedStatements();
     {
         QSqlDatabase db = QSqlDatabase::database(QString::fromLatin1(kConnection), false);
         db.close();
@@ -52,8 +57,8 @@ void Database::close()
 
 bool Database::isOpen()
 {
-    return QSqlDatabase::contains(QString::fromLatin1(kConnection))
-        && QSqlDatabase::database(QString::fromLatin1(kConnection), false).isOpen();
+    return QSqlDatabase::contains(QString::fromLatin1(kConnection)) &&
+           QSqlDatabase::database(QString::fromLatin1(kConnection), false).isOpen();
 }
 
 QString Database::path()

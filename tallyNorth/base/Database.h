@@ -15,6 +15,8 @@ public:
     static bool isOpen();
     static QString path();
     static QSqlDatabase session();
+    // The session's connection name.
+    static constexpr char kSessionName[] = "tallynorth";
 
 private:
     static QString& currentPath();

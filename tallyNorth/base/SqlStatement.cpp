@@ -2,20 +2,61 @@
 
 #include "Database.h"
 
+#include <QHash>
 #include <QSqlError>
 
+namespace {
+
+// Writes that return no rows are kept prepared on the session: storing an order repeats the same
+// few inserts and updates, and preparing them again cost more than running them. A finished
+// write holds no lock, so keeping it is safe; texts with a varying number of placeholders are
+// why the cache has a bound.
+constexpr qsizetype kMaxPrepared = 64;
+
+QHash<QString, QSqlQuery>& Prepared()
+{
+    static QHash<QString, QSqlQuery> statements;
+    return statements;
+}
+
+bool WritesOnly(const QString& text)
+{
+    const QStringView head = QStringView(text).trimmed().left(7);
+    return head.startsWith(u"insert", Qt::CaseInsensitive) ||
+           head.startsWith(u"update", Qt::CaseInsensitive) ||
+           head.startsWith(u"delete", Qt::CaseInsensitive);
+}
+
+} // namespace
+
 SqlStatement::SqlStatement(QString text, QVariantList binds, const QSqlDatabase& db)
-    : m_text(std::move(text)), m_binds(std::move(binds)), m_query(db)
+    : m_text(std::move(text)), m_binds(std::move(binds)),
+      m_keep(db.connectionName() == QLatin1String(Database::kSessionName) && WritesOnly(m_text)),
+      m_prepared(m_keep && Prepared().contains(m_text)),
+      m_query(m_prepared ? Prepared().value(m_text) : QSqlQuery(db))
 {
 }
 
 bool SqlStatement::exec()
 {
-    if (!m_query.prepare(m_text))
-        return false;
+    if (!m_prepared) {
+        if (!m_query.prepare(m_text))
+            return false;
+        m_prepared = true;
+        if (m_keep) {
+            if (Prepared().size() >= kMaxPrepared)
+                Prepared().clear();
+            Prepared().insert(m_text, m_query);
+        }
+    }
     for (const QVariant& v : std::as_const(m_binds))
         m_query.addBindValue(v);
     return m_query.exec();
+}
+
+void ForgetPreparedStatements()
+{
+    Prepared().clear();
 }
 
 QString SqlStatement::errorText() const

@@ -35,8 +35,13 @@ public:
 private:
     QString m_text;
     QVariantList m_binds;
+    bool m_keep;     // a write on the session, kept prepared
+    bool m_prepared; // m_query is prepared for m_text
     QSqlQuery m_query;
 };
+
+// Drops the statements kept prepared on the session; called before the session closes.
+void ForgetPreparedStatements();
 
 // Runs one statement that returns no rows.
 Result ExecSql(const QString& text, const QVariantList& binds = {}, const QString& message = {},
