@@ -4,6 +4,7 @@
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
 #include "InvoiceCommands.h"
+#include "NavCommands.h"
 #include "OrderCommands.h"
 #include "PaymentCommands.h"
 #include "ShellCommands.h"
@@ -57,6 +58,10 @@ const CliCommand kCommands[] = {
     {"pay", "pay INVOICE_NO_STR AMOUNT --date YYYY-MM-DD [--record-no X] [--comment C]",
      RunPayCommand},
     {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
+    {"nav",
+     "nav export INVOICE_NO_STR [--out FILE] | nav export --from-no A --to-no B --out DIR | nav "
+     "send | nav status [INVOICE_NO_STR]",
+     RunNavCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

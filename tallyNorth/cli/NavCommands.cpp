@@ -1,0 +1,126 @@
+#include "NavCommands.h"
+
+#include "AppCommands.h"
+
+#include "Columns.h"
+#include "base/SqlStatement.h"
+#include "base/SqlValue.h"
+#include "nav/InvoiceData.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+namespace {
+
+const char kUsage[] =
+    "usage: tallynorth-cli [--db FILE] nav export INVOICE_NO_STR [--out FILE]\n"
+    "       tallynorth-cli [--db FILE] nav export --from-no A --to-no B --out DIR\n"
+    "       tallynorth-cli [--db FILE] nav send\n"
+    "       tallynorth-cli [--db FILE] nav status [INVOICE_NO_STR]";
+
+int Usage(CliContext& context)
+{
+    *context.err << kUsage << Qt::endl;
+    return ExitUsage;
+}
+
+Result WriteDocument(const QString& path, const QByteArray& xml)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size() || !file.commit())
+        return Result::failure(QCoreApplication::translate("NavCommands", "Can't write %1.")
+                                   .arg(QDir::toNativeSeparators(path)));
+    return Result::success();
+}
+
+// The number of an invoice given by its text.
+Result InvoiceNumber(const QString& text, qint64& number)
+{
+    SqlStatement st(Sql("select %1 from %2 where %3 = ? and %1 is not null",
+                        {Col::ORDERHEAD_INVOICE_NO, Tbl::ORDERHEAD, Col::ORDERHEAD_INVOICE_NO_STR}),
+                    {text});
+    if (!st.exec())
+        return st.failure(st.errorText());
+    if (!st.next())
+        return Result::failure(
+            QCoreApplication::translate("NavCommands", "There is no invoice with No. %1.")
+                .arg(text));
+    number = ToInteger(st.value(0));
+    return Result::success();
+}
+
+int Export(CliContext& context, const QStringList& args)
+{
+    QStringList positional;
+    QHash<QString, QString> options;
+    if (!ParseVerbArgs(args, {"out", "from-no", "to-no"}, &positional, &options))
+        return Usage(context);
+    const bool range = options.contains("from-no") || options.contains("to-no");
+    if (range ? (!positional.isEmpty() || !options.contains("from-no") ||
+                 !options.contains("to-no") || !options.contains("out"))
+              : positional.size() != 1)
+        return Usage(context);
+    if (!OpenChosenCompany(context))
+        return ExitFailure;
+
+    if (!range) {
+        InvoiceData::Document document;
+        if (Result r = InvoiceData::buildByNumber(positional.first(), document); !r)
+            return PrintFailure(context, r);
+        if (!options.contains("out")) {
+            context.out->flush();
+            QFile out;
+            if (!out.open(stdout, QIODevice::WriteOnly))
+                return ExitFailure;
+            out.write(document.xml);
+            return ExitOk;
+        }
+        const Result r = WriteDocument(options.value("out"), document.xml);
+        return r ? int(ExitOk) : PrintFailure(context, r);
+    }
+
+    qint64 from = 0;
+    qint64 to = 0;
+    if (Result r = InvoiceNumber(options.value("from-no"), from); !r)
+        return PrintFailure(context, r);
+    if (Result r = InvoiceNumber(options.value("to-no"), to); !r)
+        return PrintFailure(context, r);
+    const QDir dir(options.value("out"));
+    if (!dir.exists() && !QDir().mkpath(dir.path()))
+        return PrintFailure(
+            context, Result::failure(
+                         QCoreApplication::translate("NavCommands", "Can't create the folder %1.")
+                             .arg(dir.path())));
+    SqlStatement st(Sql("select %1 from %2 where %3 between ? and ? order by %3",
+                        {Col::ORDERHEAD_ID, Tbl::ORDERHEAD, Col::ORDERHEAD_INVOICE_NO}),
+                    {std::min(from, to), std::max(from, to)});
+    if (!st.exec())
+        return PrintFailure(context, st.failure(st.errorText()), true);
+    QList<qint64> orders;
+    while (st.next())
+        orders << ToInteger(st.value(0));
+    // A number text may hold characters a file name can not.
+    static const QRegularExpression unsafe(QStringLiteral("[^A-Za-z0-9._-]"));
+    for (qint64 orderId : std::as_const(orders)) {
+        InvoiceData::Document document;
+        if (Result r = InvoiceData::build(orderId, document); !r)
+            return PrintFailure(context, r);
+        const QString name = QString(document.invoiceNo).replace(unsafe, "_") + ".xml";
+        if (Result r = WriteDocument(dir.filePath(name), document.xml); !r)
+            return PrintFailure(context, r);
+        *context.out << dir.filePath(name) << Qt::endl;
+    }
+    return ExitOk;
+}
+
+} // namespace
+
+int RunNavCommand(CliContext& context, const QStringList& args)
+{
+    const QString sub = args.value(0);
+    if (sub == QLatin1String("export"))
+        return Export(context, args.mid(1));
+    return Usage(context);
+}
