@@ -6,6 +6,8 @@
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 #include "nav/InvoiceData.h"
+#include "nav/NavQueue.h"
+#include "nav/NavReporter.h"
 
 #include <QDir>
 #include <QFile>
@@ -115,6 +117,69 @@ int Export(CliContext& context, const QStringList& args)
     return ExitOk;
 }
 
+void PrintOutcome(CliContext& context, const NavReportOutcome& outcome)
+{
+    for (const QString& problem : outcome.problems)
+        PrintMessage(context, problem);
+    *context.out << QCoreApplication::translate("NavCommands",
+                                                "sent %1, accepted %2, with warnings %3, "
+                                                "rejected %4, waiting %5")
+                        .arg(outcome.sent)
+                        .arg(outcome.accepted)
+                        .arg(outcome.warnings)
+                        .arg(outcome.rejected)
+                        .arg(outcome.stillWaiting)
+                 << Qt::endl;
+}
+
+int Send(CliContext& context, const QStringList& args)
+{
+    if (!args.isEmpty())
+        return Usage(context);
+    if (!OpenChosenCompany(context))
+        return ExitFailure;
+    NavReportOutcome outcome;
+    if (Result r = NavReporter::run({}, outcome); !r)
+        return PrintFailure(context, r);
+    PrintOutcome(context, outcome);
+    return outcome.stillWaiting == 0 && outcome.rejected == 0 ? int(ExitOk) : int(ExitFailure);
+}
+
+// The states; what was sent is asked about first when the technical user is set up.
+int Status(CliContext& context, const QStringList& args)
+{
+    if (args.size() > 1)
+        return Usage(context);
+    if (!OpenChosenCompany(context))
+        return ExitFailure;
+    NavSettings settings;
+    if (NavSettingsStore::load(settings) && settings.complete()) {
+        NavClient client(settings);
+        NavReportOutcome outcome;
+        if (Result r = NavReporter::poll(client, outcome); !r)
+            return PrintFailure(context, r);
+        for (const QString& problem : outcome.problems)
+            PrintMessage(context, problem);
+    }
+    QList<NavQueueEntry> entries;
+    if (Result r = NavQueue::list(args.value(0), entries); !r)
+        return PrintFailure(context, r);
+    if (!args.isEmpty() && entries.isEmpty())
+        return PrintFailure(
+            context, Result::failure(QCoreApplication::translate(
+                                         "NavCommands", "The invoice %1 is not in the reporting "
+                                                        "queue.")
+                                         .arg(args.first())));
+    for (const NavQueueEntry& e : std::as_const(entries)) {
+        *context.out << e.invoiceNoText << '\t' << NavQueue::stateText(e.state) << '\t'
+                     << e.transactionId;
+        if (!e.messages.isEmpty())
+            *context.out << '\t' << QString(e.messages).replace(u'&', QStringLiteral("; "));
+        *context.out << Qt::endl;
+    }
+    return ExitOk;
+}
+
 } // namespace
 
 int RunNavCommand(CliContext& context, const QStringList& args)
@@ -122,5 +187,9 @@ int RunNavCommand(CliContext& context, const QStringList& args)
     const QString sub = args.value(0);
     if (sub == QLatin1String("export"))
         return Export(context, args.mid(1));
+    if (sub == QLatin1String("send"))
+        return Send(context, args.mid(1));
+    if (sub == QLatin1String("status"))
+        return Status(context, args.mid(1));
     return Usage(context);
 }

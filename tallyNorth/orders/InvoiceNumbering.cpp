@@ -2,6 +2,7 @@
 
 #include "FormatInvoiceNo.h"
 #include "OrderCalc.h"
+#include "ReportingQueue.h"
 
 #include "Columns.h"
 #include "base/DateText.h"
@@ -144,6 +145,10 @@ Result InvoiceNumbering::issue(qint64 orderId, const QDate& today, const Render&
         if (mark.numRowsAffected() != 1)
             return Result::failure(tr("Cancelled invoice can not be cancelled."));
     }
+
+    // The report to the tax authority waits in the same transaction: no number without it.
+    if (Result r = QueueForReporting(number, orderId); !r)
+        return r;
 
     if (!transaction.commit())
         return Result::failure(tr("Database error:&") + Database::session().lastError().text());
