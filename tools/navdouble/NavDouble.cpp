@@ -94,8 +94,22 @@ bool NavDouble::parseFault(const QString& name, Fault& fault)
     return true;
 }
 
-NavDouble::Fault NavDouble::takeFault()
+NavDouble::~NavDouble()
 {
+    // The sockets die with the server; their handlers must not outlive the double.
+    for (QTcpSocket* socket : m_pending.keys()) {
+        socket->disconnect(this);
+        delete socket;
+    }
+    m_pending.clear();
+}
+
+NavDouble::Fault NavDouble::takeFault(const QString& operation)
+{
+    // The invoices' faults count only the requests that carry invoices.
+    const bool invoiceFault = m_fault != Fault::Timeout && m_fault != Fault::ServerError;
+    if (invoiceFault && operation != QLatin1String("manageInvoice"))
+        return Fault::None;
     const Fault fault = m_fault;
     if (m_faultCount > 0 && --m_faultCount == 0)
         m_fault = Fault::None;
@@ -162,7 +176,7 @@ std::pair<int, QByteArray> NavDouble::handle(const QString& path, const QByteArr
 {
     const QString operation = path.section(u'/', -1);
     m_counts[operation] += 1;
-    const Fault fault = takeFault();
+    const Fault fault = takeFault(operation);
     if (fault == Fault::Timeout)
         return {0, {}};
     NavRequestInfo request;
@@ -241,6 +255,9 @@ std::pair<int, QByteArray> NavDouble::handle(const QString& path, const QByteArr
                 p.messages = BusinessMessage("WARN", QStringLiteral("INCORRECT_COUNTY_CODE"),
                                              QStringLiteral("A megyekód nem megfelelő."));
             }
+            // Only an accepted invoice counts as reported.
+            if (p.status == QLatin1String("DONE") && !p.messages.contains("ERROR<"))
+                m_reported.insert(p.number);
             results << p;
         }
         const QString transactionId = QStringLiteral("TNT%1%2")
@@ -286,6 +303,6 @@ NavDouble::Processing NavDouble::judge(int index, const QString& operation,
         return p;
     }
     Q_UNUSED(operation);
-    m_reported.insert(number);
+    p.number = number;
     return p;
 }

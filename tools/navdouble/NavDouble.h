@@ -45,13 +45,14 @@ public:
     explicit NavDouble(NavDoubleUser user = {},
                        const QString& schemaDir = QStringLiteral(TN_NAV_SCHEMA_DIR),
                        QObject* parent = nullptr);
+    ~NavDouble() override;
 
     // Listens on 127.0.0.1; port 0 picks a free one. The service address is then url().
     bool listen(quint16 port = 0);
     quint16 port() const { return m_server.serverPort(); }
     QString url() const;
 
-    // The fault for the next count requests (negative: until changed).
+    // The fault for the next count requests it applies to (negative: until changed).
     void setFault(Fault fault, int count = -1);
     static bool parseFault(const QString& name, Fault& fault);
 
@@ -70,6 +71,7 @@ private:
         int index = 0;
         QString status;
         QByteArray messages; // raw XML of the result's messages
+        QString number;
     };
 
     void readClient(QTcpSocket* socket);
@@ -78,7 +80,7 @@ private:
     std::pair<int, QByteArray> handle(const QString& path, const QByteArray& body);
     std::pair<int, QByteArray> error(const QString& requestId, int status, const QString& code,
                                      const QString& message);
-    Fault takeFault();
+    Fault takeFault(const QString& operation);
     Processing judge(int index, const QString& operation, const QByteArray& base64);
 
     NavDoubleUser m_user;
