@@ -136,17 +136,5 @@ qint64 NavQueue::backOffSeconds(int attempts)
 
 QString NavQueue::stateText(NavState state)
 {
-    switch (state) {
-    case NavState::Waiting:
-        return tr("Waiting");
-    case NavState::Sent:
-        return tr("Sent");
-    case NavState::Accepted:
-        return tr("Accepted");
-    case NavState::AcceptedWithWarnings:
-        return tr("Accepted with warnings");
-    case NavState::Rejected:
-        return tr("Rejected");
-    }
-    return {};
+    return ReportingQueue::stateText(state);
 }

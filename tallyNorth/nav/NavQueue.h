@@ -4,13 +4,12 @@
 #pragma once
 
 #include "base/Result.h"
+#include "orders/ReportingQueue.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QList>
 #include <QString>
-
-enum class NavState { Waiting = 0, Sent = 1, Accepted = 2, AcceptedWithWarnings = 3, Rejected = 4 };
 
 struct NavQueueEntry
 {

@@ -147,7 +147,7 @@ Result InvoiceNumbering::issue(qint64 orderId, const QDate& today, const Render&
     }
 
     // The report to the tax authority waits in the same transaction: no number without it.
-    if (Result r = QueueForReporting(number, orderId); !r)
+    if (Result r = ReportingQueue::queue(number, orderId); !r)
         return r;
 
     if (!transaction.commit())

@@ -8,6 +8,7 @@
 
 #include "nav/NavQueue.h"
 #include "nav/NavReporter.h"
+#include "orders/OrderListQuery.h"
 
 namespace {
 
@@ -211,9 +212,20 @@ private Q_SLOTS:
         NavReportOutcome outcome;
         QVERIFY(NavReporter::run(Options(), outcome));
         QCOMPARE(States(), QString("1|4"));
+        // The list shows it under "not yet accepted", with the authority's message.
+        OrderListFilter filter;
+        filter.kind = int(OrderListFilter::Kind::NotAccepted);
+        QList<OrderListRow> rows;
+        bool more = false;
+        QVERIFY(OrderListQuery::load(filter, rows, more));
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows.first().reportState, std::optional<int>(int(NavState::Rejected)));
+        QVERIFY(rows.first().reportMessages.contains("INCORRECT_VAT_CODE"));
         QVERIFY(NavQueue::requeue(1));
         QVERIFY(NavReporter::run(Options(), outcome));
         QCOMPARE(States(), QString("1|2"));
+        QVERIFY(OrderListQuery::load(filter, rows, more));
+        QVERIFY(rows.isEmpty());
     }
 
 private:

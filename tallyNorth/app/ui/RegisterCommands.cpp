@@ -11,6 +11,7 @@
 #include "documents/ui/OrderLabelTranslationBrowse.h"
 #include "documents/ui/OrderListPrinting.h"
 #include "masterdata/ui/MasterdataCommands.h"
+#include "nav/ui/NavCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderListCommands.h"
 
@@ -32,6 +33,7 @@ void RegisterCommands(MainWindow& window)
     RegisterLabelTranslationCommand(window);
     RegisterOrderEditCommands(window);
     RegisterOrderList(window);
+    RegisterNavCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()
