@@ -14,16 +14,12 @@
 
 namespace {
 
-QString Tr(const char* text)
-{
-    return QCoreApplication::translate("NavCommands", text);
-}
-
 void EditSettings(CommandHost& host)
 {
     GuiInteraction interaction(host.hostWidget());
     QDialog dialog(host.hostWidget());
-    dialog.setWindowTitle(Tr("NAV online invoice settings"));
+    dialog.setWindowTitle(
+        QCoreApplication::translate("NavCommands", "NAV online invoice settings"));
     auto* page = new NavSetupPage(&dialog);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     auto* layout = new QVBoxLayout(&dialog);
@@ -46,7 +42,8 @@ void Report(CommandHost& host)
     NavReportOutcome outcome;
     Result r = Result::success();
     {
-        const auto progress = interaction.progress(Tr("Reporting invoices to NAV. Please wait."));
+        const auto progress = interaction.progress(
+            QCoreApplication::translate("NavCommands", "Reporting invoices to NAV. Please wait."));
         QApplication::setOverrideCursor(Qt::WaitCursor);
         r = NavReporter::run({}, outcome);
         QApplication::restoreOverrideCursor();
@@ -54,13 +51,15 @@ void Report(CommandHost& host)
     host.reloadTab(MainTab::Orders);
     if (!r)
         return interaction.message(Interaction::MessageKind::Error, r.message());
-    QString text = Tr("Sent: %1&Accepted: %2&Accepted with warnings: %3&Rejected: %4&Waiting "
-                      "for a later try: %5")
-                       .arg(outcome.sent)
-                       .arg(outcome.accepted)
-                       .arg(outcome.warnings)
-                       .arg(outcome.rejected)
-                       .arg(outcome.stillWaiting);
+    QString text =
+        QCoreApplication::translate(
+            "NavCommands", "Sent: %1&Accepted: %2&Accepted with warnings: %3&Rejected: %4&Waiting "
+                           "for a later try: %5")
+            .arg(outcome.sent)
+            .arg(outcome.accepted)
+            .arg(outcome.warnings)
+            .arg(outcome.rejected)
+            .arg(outcome.stillWaiting);
     // A rejected invoice is shown with the authority's message.
     if (!outcome.problems.isEmpty())
         text += u'&' + outcome.problems.join(u'&');
