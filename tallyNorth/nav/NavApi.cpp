@@ -171,6 +171,22 @@ QByteArray NavApi::queryTransactionStatusRequest(const NavSettings& settings,
     return out;
 }
 
+QByteArray NavApi::queryInvoiceCheckRequest(const NavSettings& settings, const QString& requestId,
+                                            const QDateTime& timestamp,
+                                            const QString& invoiceNumber)
+{
+    QByteArray out;
+    QXmlStreamWriter xml(&out);
+    Begin(xml, "QueryInvoiceCheckRequest", settings, requestId, timestamp);
+    xml.writeStartElement(kApi, QStringLiteral("invoiceNumberQuery"));
+    xml.writeTextElement(kApi, QStringLiteral("invoiceNumber"), invoiceNumber);
+    xml.writeTextElement(kApi, QStringLiteral("invoiceDirection"), QStringLiteral("OUTBOUND"));
+    xml.writeEndElement();
+    xml.writeEndElement();
+    xml.writeEndDocument();
+    return out;
+}
+
 Result NavApi::parseResponse(const QByteArray& xml, NavResponse& response)
 {
     QDomDocument doc;
@@ -189,6 +205,7 @@ Result NavApi::parseResponse(const QByteArray& xml, NavResponse& response)
         response.technicalMessages << Message(m);
     response.transactionId = Text(root, "transactionId");
     response.encodedExchangeToken = Text(root, "encodedExchangeToken").toLatin1();
+    response.invoiceCheckResult = Text(root, "invoiceCheckResult") == QLatin1String("true");
     for (const QDomElement& r : Children(Child(root, "processingResults"), "processingResult")) {
         NavProcessingResult p;
         p.index = Text(r, "index").toInt();
@@ -228,6 +245,7 @@ Result NavApi::parseRequest(const QByteArray& xml, NavRequestInfo& request)
     request.requestSignature = Text(user, "requestSignature");
     request.exchangeToken = Text(root, "exchangeToken");
     request.transactionId = Text(root, "transactionId");
+    request.invoiceNumber = Text(Child(root, "invoiceNumberQuery"), "invoiceNumber");
     for (const QDomElement& op : Children(Child(root, "invoiceOperations"), "invoiceOperation"))
         request.operations << NavSignedOperation{Text(op, "invoiceOperation"),
                                                  Text(op, "invoiceData").toLatin1()};

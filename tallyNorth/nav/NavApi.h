@@ -33,6 +33,7 @@ struct NavResponse
     QByteArray encodedExchangeToken;
     QList<NavProcessingResult> results;
     QStringList technicalMessages;
+    bool invoiceCheckResult = false; // queryInvoiceCheck: the invoice is in the system
 
     bool ok() const { return funcCode == QLatin1String("OK"); }
     // errorCode and message (and technical messages) as one text for the user.
@@ -51,6 +52,7 @@ struct NavRequestInfo
     QString requestSignature;
     QString exchangeToken;
     QString transactionId;
+    QString invoiceNumber; // queryInvoiceCheck
     QList<NavSignedOperation> operations;
 };
 
@@ -70,6 +72,10 @@ QByteArray manageInvoiceRequest(const NavSettings& settings, const QString& requ
                                 const QList<NavSignedOperation>& operations);
 QByteArray queryTransactionStatusRequest(const NavSettings& settings, const QString& requestId,
                                          const QDateTime& timestamp, const QString& transactionId);
+
+// Whether an invoice of this seller's is in the system: what a send cut short left unknown.
+QByteArray queryInvoiceCheckRequest(const NavSettings& settings, const QString& requestId,
+                                    const QDateTime& timestamp, const QString& invoiceNumber);
 
 // Reads an answer; fails only on what is not an answer of the interface at all.
 Result parseResponse(const QByteArray& xml, NavResponse& response);

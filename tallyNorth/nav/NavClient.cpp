@@ -116,3 +116,17 @@ Result NavClient::queryTransactionStatus(const QString& transactionId,
     results = response.results;
     return Result::success();
 }
+
+Result NavClient::queryInvoiceCheck(const QString& invoiceNumber, bool& exists)
+{
+    NavResponse response;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (Result r = call("queryInvoiceCheck",
+                        NavApi::queryInvoiceCheckRequest(m_settings, NavApi::newRequestId(), now,
+                                                         invoiceNumber),
+                        response);
+        !r)
+        return r;
+    exists = response.invoiceCheckResult;
+    return Result::success();
+}

@@ -30,6 +30,7 @@ public:
                          QString& transactionId);
     Result queryTransactionStatus(const QString& transactionId,
                                   QList<NavProcessingResult>& results);
+    Result queryInvoiceCheck(const QString& invoiceNumber, bool& exists);
 
     // Whether the last failure was of the network or the server (worth a later try), not a
     // refusal.

@@ -64,6 +64,23 @@ Result NavQueue::list(const QString& invoiceNoText, QList<NavQueueEntry>& entrie
                 entries);
 }
 
+Result NavQueue::markInFlight(const QList<qint64>& invoiceNos)
+{
+    SqlTransaction transaction;
+    for (qint64 no : invoiceNos) {
+        if (Result r = ExecSql(QStringLiteral("update TN_NAV_QUEUE set TN_NAV_QUEUE_STATE = 1, "
+                                              "TN_NAV_QUEUE_TRANSACTION_ID = null, "
+                                              "TN_NAV_QUEUE_INDEX = null, TN_NAV_QUEUE_CHANGED = "
+                                              "? where TN_NAV_QUEUE_INVOICE_NO = ?"),
+                               {Now(), no});
+            !r)
+            return r;
+    }
+    if (!transaction.commit())
+        return Result::failure(tr("Database error:&") + transaction.errorText());
+    return Result::success();
+}
+
 Result NavQueue::markSent(const QList<qint64>& invoiceNos, const QString& transactionId)
 {
     SqlTransaction transaction;
@@ -113,6 +130,14 @@ Result NavQueue::markResult(qint64 invoiceNo, NavState state, const QString& mes
                        "TN_NAV_QUEUE_MESSAGES = ?, TN_NAV_QUEUE_CHANGED = ? where "
                        "TN_NAV_QUEUE_INVOICE_NO = ?"),
         {int(state), messages.isEmpty() ? QVariant() : QVariant(messages), Now(), invoiceNo});
+}
+
+Result NavQueue::markWaiting(qint64 invoiceNo)
+{
+    return ExecSql(QStringLiteral("update TN_NAV_QUEUE set TN_NAV_QUEUE_STATE = 0, "
+                                  "TN_NAV_QUEUE_NEXT_TRY = null, TN_NAV_QUEUE_CHANGED = ? where "
+                                  "TN_NAV_QUEUE_INVOICE_NO = ? and TN_NAV_QUEUE_STATE = 1"),
+                   {Now(), invoiceNo});
 }
 
 Result NavQueue::requeue(qint64 invoiceNo)

@@ -31,11 +31,15 @@ class NavQueue
 public:
     // Waiting invoices whose next try has come, oldest number first, at most limit of them.
     static Result due(const QDateTime& now, int limit, QList<NavQueueEntry>& entries);
-    // Sent invoices whose answer has not been asked yet.
+    // Sent invoices whose answer has not been asked yet (those of a run cut short have no
+    // transaction id).
     static Result sent(QList<NavQueueEntry>& entries);
     // One invoice by its number text, or every row when the text is empty.
     static Result list(const QString& invoiceNoText, QList<NavQueueEntry>& entries);
 
+    // The invoices are about to go out: until the answer is stored they read as sent without a
+    // transaction, so that a run cut short asks the authority before sending them again.
+    static Result markInFlight(const QList<qint64>& invoiceNos);
     // The invoices went out under the transaction, in the order given (index 1, 2, ...).
     static Result markSent(const QList<qint64>& invoiceNos, const QString& transactionId);
     // A network fault or a refused request: the invoices stay waiting until the back-off ends.
@@ -43,6 +47,8 @@ public:
                             const QString& message);
     // The authority's verdict on one invoice.
     static Result markResult(qint64 invoiceNo, NavState state, const QString& messages);
+    // A send cut short that did not reach the authority: the invoice waits, due at once.
+    static Result markWaiting(qint64 invoiceNo);
     // A rejected invoice goes back to waiting, after the cause has been put right.
     static Result requeue(qint64 invoiceNo);
 

@@ -35,6 +35,8 @@ Result NavReporter::send(NavClient& client, const QDateTime& now, NavReportOutco
         if (numbers.isEmpty())
             continue;
 
+        if (Result m = NavQueue::markInFlight(numbers); !m)
+            return m;
         QByteArray token;
         QString transactionId;
         Result r = client.tokenExchange(token);
@@ -62,6 +64,23 @@ Result NavReporter::poll(NavClient& client, NavReportOutcome& outcome)
     QHash<QString, QList<NavQueueEntry>> byTransaction;
     QStringList order;
     for (const NavQueueEntry& e : std::as_const(sent)) {
+        if (e.transactionId.isEmpty()) {
+            // A send cut short: the authority may have the invoice or not. Sending it again
+            // blindly would be refused as a number already reported.
+            bool exists = false;
+            if (Result r = client.queryInvoiceCheck(e.invoiceNoText, exists); !r) {
+                outcome.problems << r.message();
+                continue;
+            }
+            if (exists) {
+                if (Result m = NavQueue::markResult(e.invoiceNo, NavState::Accepted, {}); !m)
+                    return m;
+                ++outcome.accepted;
+            } else if (Result m = NavQueue::markWaiting(e.invoiceNo); !m) {
+                return m;
+            }
+            continue;
+        }
         if (!byTransaction.contains(e.transactionId))
             order << e.transactionId;
         byTransaction[e.transactionId] << e;
@@ -111,6 +130,9 @@ Result NavReporter::run(const NavClientOptions& options, NavReportOutcome& outco
         return Result::failure(tr("The technical user of the online invoice system is not set "
                                   "up.&Fill in the NAV settings first."));
     NavClient client(settings, options);
+    // What an earlier run left sent is settled first, so that it is not sent twice.
+    if (Result r = poll(client, outcome); !r)
+        return r;
     if (Result r = send(client, QDateTime::currentDateTimeUtc(), outcome); !r)
         return r;
     return poll(client, outcome);

@@ -42,6 +42,11 @@ private Q_SLOTS:
                NavApi::manageInvoiceRequest(Settings(), "RID1", kNow, "token", ops));
         AddRow("query transaction status request",
                NavApi::queryTransactionStatusRequest(Settings(), "RID1", kNow, "TX1"));
+        AddRow("invoice check request",
+               NavApi::queryInvoiceCheckRequest(Settings(), "RID1", kNow, "A-000001"));
+        AddRow("invoice check answer",
+               NavApi::response("QueryInvoiceCheckResponse", "RID1", kNow, "OK", {}, {},
+                                "<invoiceCheckResult>true</invoiceCheckResult>"));
         AddRow("error answer", NavApi::response("GeneralErrorResponse", "RID1", kNow, "ERROR",
                                                 "INVALID_SECURITY_USER", "Hibás"));
         AddRow("transaction answer",

@@ -197,6 +197,32 @@ private Q_SLOTS:
         QCOMPARE(m_double->requestCount("tokenExchange"), 1);
     }
 
+    // A run killed between the request and storing its answer leaves the invoice sent without
+    // a transaction: the next run asks the authority instead of sending it twice.
+    void sendCutShort_data()
+    {
+        AddColumns<bool, QString>({"reached", "manageRequests"});
+        AddRow("the authority has it", true, QString("1"));
+        AddRow("it never arrived", false, QString("1"));
+    }
+
+    void sendCutShort()
+    {
+        auto [reached, manageRequests] = Fetch<bool, QString>({"reached", "manageRequests"});
+        QVERIFY(IssueNavTestOrder(NavTestKind::Forint));
+        NavReportOutcome outcome;
+        if (reached)
+            QVERIFY(NavReporter::run(Options(), outcome));
+        QVERIFY(NavQueue::markInFlight({1}));
+        NavReportOutcome next;
+        QVERIFY(NavReporter::run(Options(), next));
+        QVERIFY2(next.problems.isEmpty(), qPrintable(next.problems.join('\n')));
+        QCOMPARE(States(), QString("1|2"));
+        QCOMPARE(QString::number(m_double->requestCount("manageInvoice")), manageRequests);
+        QCOMPARE(m_double->requestCount("queryInvoiceCheck"), 1);
+        QCOMPARE(m_double->reportedNumbers().size(), 1);
+    }
+
     void notSetUp()
     {
         QVERIFY(NavSettingsStore::save({}));

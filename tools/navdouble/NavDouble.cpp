@@ -192,7 +192,8 @@ std::pair<int, QByteArray> NavDouble::handle(const QString& path, const QByteArr
     static const QHash<QString, QString> roots{
         {"tokenExchange", "TokenExchangeRequest"},
         {"manageInvoice", "ManageInvoiceRequest"},
-        {"queryTransactionStatus", "QueryTransactionStatusRequest"}};
+        {"queryTransactionStatus", "QueryTransactionStatusRequest"},
+        {"queryInvoiceCheck", "QueryInvoiceCheckRequest"}};
     if (roots.value(operation) != request.root)
         return error(request.requestId, 400, QStringLiteral("INVALID_REQUEST"),
                      QStringLiteral("Unknown operation"));
@@ -268,6 +269,13 @@ std::pair<int, QByteArray> NavDouble::handle(const QString& path, const QByteArr
                                       now, QStringLiteral("OK"), {}, {},
                                       "<transactionId>" + transactionId.toLatin1() +
                                           "</transactionId>")};
+    }
+    if (operation == QLatin1String("queryInvoiceCheck")) {
+        const bool found = m_reported.contains(request.invoiceNumber);
+        return {200, NavApi::response(QStringLiteral("QueryInvoiceCheckResponse"),
+                                      request.requestId, now, QStringLiteral("OK"), {}, {},
+                                      found ? "<invoiceCheckResult>true</invoiceCheckResult>"
+                                            : "<invoiceCheckResult>false</invoiceCheckResult>")};
     }
     // queryTransactionStatus
     if (!m_transactions.contains(request.transactionId))
