@@ -20,7 +20,8 @@ const char kUsage[] =
     "usage: tallynorth-cli [--db FILE] nav export INVOICE_NO_STR [--out FILE]\n"
     "       tallynorth-cli [--db FILE] nav export --from-no A --to-no B --out DIR\n"
     "       tallynorth-cli [--db FILE] nav send\n"
-    "       tallynorth-cli [--db FILE] nav status [INVOICE_NO_STR]";
+    "       tallynorth-cli [--db FILE] nav status [INVOICE_NO_STR]\n"
+    "       tallynorth-cli [--db FILE] nav resend INVOICE_NO_STR";
 
 int Usage(CliContext& context)
 {
@@ -180,6 +181,26 @@ int Status(CliContext& context, const QStringList& args)
     return ExitOk;
 }
 
+// A rejected invoice waits again, once what the authority refused has been put right.
+int Resend(CliContext& context, const QStringList& args)
+{
+    if (args.size() != 1)
+        return Usage(context);
+    if (!OpenChosenCompany(context))
+        return ExitFailure;
+    QList<NavQueueEntry> entries;
+    if (Result r = NavQueue::list(args.first(), entries); !r)
+        return PrintFailure(context, r);
+    if (entries.isEmpty() || entries.first().state != NavState::Rejected)
+        return PrintFailure(
+            context, Result::failure(QCoreApplication::translate(
+                                         "NavCommands", "The invoice %1 has not been rejected.")
+                                         .arg(args.first())));
+    if (Result r = NavQueue::requeue(entries.first().invoiceNo); !r)
+        return PrintFailure(context, r);
+    return ExitOk;
+}
+
 } // namespace
 
 int RunNavCommand(CliContext& context, const QStringList& args)
@@ -191,5 +212,7 @@ int RunNavCommand(CliContext& context, const QStringList& args)
         return Send(context, args.mid(1));
     if (sub == QLatin1String("status"))
         return Status(context, args.mid(1));
+    if (sub == QLatin1String("resend"))
+        return Resend(context, args.mid(1));
     return Usage(context);
 }

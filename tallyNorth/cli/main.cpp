@@ -60,7 +60,7 @@ const CliCommand kCommands[] = {
     {"payments", "payments INVOICE_NO_STR", RunPaymentsCommand},
     {"nav",
      "nav export INVOICE_NO_STR [--out FILE] | nav export --from-no A --to-no B --out DIR | nav "
-     "send | nav status [INVOICE_NO_STR]",
+     "send | nav status [INVOICE_NO_STR] | nav resend INVOICE_NO_STR",
      RunNavCommand},
 };
 

@@ -1551,6 +1551,10 @@
             <translation>A(z) %1 számla nincs a beküldési sorban.</translation>
         </message>
         <message>
+            <source>The invoice %1 has not been rejected.</source>
+            <translation>A(z) %1 számlát nem utasították el.</translation>
+        </message>
+        <message>
             <source>NAV online invoice settings</source>
             <translation>NAV Online Számla beállítások</translation>
         </message>

@@ -79,6 +79,8 @@ private Q_SLOTS:
         AddRow("range without folder", QStringList{"export", "--from-no", "1", "--to-no", "2"}, 2);
         AddRow("number and range", QStringList{"export", "000001", "--from-no", "1"}, 2);
         AddRow("unknown invoice", QStringList{"export", "000099"}, 1);
+        AddRow("resend what was not rejected", QStringList{"resend", "000001"}, 1);
+        AddRow("resend without number", QStringList{"resend"}, 2);
     }
 
     void badUsage()
