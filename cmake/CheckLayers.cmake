@@ -1,7 +1,7 @@
 # Fails when a source folder includes from a folder above it in the layer order, or when code
 # outside a ui/ folder includes widgets from one. Run by CTest (test "layers"):
 #   cmake -DSOURCE_DIR=<repo>/tallyNorth -P CheckLayers.cmake
-set(layers base masterdata orders documents webshop app cli)
+set(layers base masterdata orders documents nav webshop app cli)
 
 file(GLOB_RECURSE sources RELATIVE "${SOURCE_DIR}" "${SOURCE_DIR}/*.h" "${SOURCE_DIR}/*.cpp")
 set(errors "")

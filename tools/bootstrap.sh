@@ -9,7 +9,8 @@ mode=${1:-run}
 packages=(qt6-base-dev libqt6sql6-sqlite qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
           qt6-httpserver-dev qt6-websockets-dev
           qt6-translations-l10n libgl-dev cmake g++ ninja-build ccache poppler-utils
-          xvfb xauth sqlite3 fonts-liberation2 fonts-dejavu-core)
+          xvfb xauth sqlite3 fonts-liberation2 fonts-dejavu-core
+          libxml2-dev libxml2-utils libssl-dev)
 
 missing=()
 for p in "${packages[@]}"; do

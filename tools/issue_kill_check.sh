@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Issues consecutive invoices through the command line and kills some of the runs with SIGKILL
-# at random moments; then checks that the invoice numbers have no gap and no duplicate.
+# at random moments; then checks that the invoice numbers have no gap and no duplicate and that
+# each issued invoice is queued for its report to the tax authority.
 #   tools/issue_kill_check.sh [CLI] [ISSUES] [SECONDS]
 # CLI defaults to build/tallynorth-cli, ISSUES to 200, SECONDS (the time limit) to 900.
 # Exit status 0 when the numbers are whole, 1 when not, 2 when the run could not be set up.
@@ -66,11 +67,16 @@ read -r count distinct low high <<<"$(sqlite3 -separator ' ' "$db" \
 mismatched=$(sqlite3 "$db" "select count(*) from INVOICE left join ORDERHEAD on
     ORDERHEAD_ID = INVOICE_ORDERHEAD_ID where ORDERHEAD_INVOICE_NO is not INVOICE_ID")
 invoices=$(sqlite3 "$db" "select count(*) from INVOICE")
+# Every numbered invoice waits for its report to the tax authority, and nothing else does.
+unqueued=$(sqlite3 "$db" "select count(*) from ORDERHEAD where ORDERHEAD_INVOICE_NO is not null
+    and ORDERHEAD_INVOICE_NO not in (select TN_NAV_QUEUE_INVOICE_NO from TN_NAV_QUEUE)")
+queued=$(sqlite3 "$db" "select count(*) from TN_NAV_QUEUE")
 integrity=$(sqlite3 "$db" "pragma integrity_check")
 echo "issued $count invoices (numbers $low..$high, $distinct distinct), $invoices INVOICE rows," \
      "$kills runs killed, $((SECONDS - start)) s; integrity: $integrity"
 if [ "$count" -eq "$distinct" ] && [ "$low" = 1 ] && [ "$high" = "$count" ] \
-    && [ "$invoices" -eq "$count" ] && [ "$mismatched" -eq 0 ] && [ "$integrity" = ok ]; then
+    && [ "$invoices" -eq "$count" ] && [ "$mismatched" -eq 0 ] && [ "$integrity" = ok ] \
+    && [ "$unqueued" -eq 0 ] && [ "$queued" -eq "$count" ]; then
     echo "no gap, no duplicate"
     exit 0
 fi

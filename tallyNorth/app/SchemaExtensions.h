@@ -10,7 +10,7 @@
 
 class Interaction;
 
-inline constexpr int kSchemaExtensionVersion = 1;
+inline constexpr int kSchemaExtensionVersion = 2;
 
 // The extension version recorded in TN_VERSION; 0 when the file has none.
 int ReadSchemaExtensionVersion(const QSqlDatabase& db = Database::session());

@@ -5,6 +5,7 @@
 #include "CliInteraction.h"
 #include "DocumentCommands.h"
 #include "InvoiceCommands.h"
+#include "NavCommands.h"
 #include "OrderCommands.h"
 #include "PaymentCommands.h"
 #include "ReportCommands.h"
@@ -73,6 +74,10 @@ const CliCommand kCommands[] = {
     {"download-orders", "download-orders [--timeout SECONDS]", RunDownloadOrders},
     {"download-partners", "download-partners [--timeout SECONDS]", RunDownloadPartners},
     {"download-products", "download-products [--timeout SECONDS]", RunDownloadProducts},
+    {"nav",
+     "nav export INVOICE_NO_STR [--out FILE] | nav export --from-no A --to-no B --out DIR | nav "
+     "send | nav status [INVOICE_NO_STR] | nav resend INVOICE_NO_STR",
+     RunNavCommand},
 };
 
 void PrintMessage(CliContext& context, const QString& text)

@@ -3,6 +3,7 @@
 #include "ChequeStore.h"
 #include "FormatInvoiceNo.h"
 #include "OrderCalc.h"
+#include "ReportingQueue.h"
 
 #include "Columns.h"
 #include "base/DateText.h"
@@ -157,6 +158,9 @@ Result InvoiceNumbering::issue(qint64 orderId, const QDate& today, const Render&
         if (Result r = ChequeStore::createForInvoice(orderId, today, chequeId); !r)
             return r;
     }
+    // The report to the tax authority waits in the same transaction: no number without it.
+    if (Result r = ReportingQueue::queue(number, orderId); !r)
+        return r;
 
     if (!transaction.commit())
         return Result::failure(tr("Database error:&") + Database::session().lastError().text());

@@ -36,6 +36,11 @@ std::optional<QString> KindCondition(int kind, QVariantList& binds, const QDate&
         return Sql(
             "%1 is not null and coalesce(%2, '0') <> '1' and %3 < ?",
             {Col::ORDERHEAD_INVOICE_NO, Col::ORDERHEAD_PAID, Col::ORDERHEAD_DATE_PAYMENT_DUE});
+    case Kind::NotAccepted:
+        // Invoices issued before the program reported have no queue row and are left out.
+        return Sql("%1 in (select TN_NAV_QUEUE_INVOICE_NO from TN_NAV_QUEUE where "
+                   "TN_NAV_QUEUE_STATE not in (2, 3))",
+                   {Col::ORDERHEAD_INVOICE_NO});
     }
     return std::nullopt;
 }
@@ -119,6 +124,11 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
         Col::ORDERHEAD_CANCELLING_INVOICE_NO,
         Col::ORDERHEAD_CONSOLIDATED_INVOICE,
         Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS,
+        // The reporting state, found by the queue's key.
+        "(select TN_NAV_QUEUE_STATE from TN_NAV_QUEUE where TN_NAV_QUEUE_INVOICE_NO = "
+        "ORDERHEAD_INVOICE_NO)",
+        "(select TN_NAV_QUEUE_MESSAGES from TN_NAV_QUEUE where TN_NAV_QUEUE_INVOICE_NO = "
+        "ORDERHEAD_INVOICE_NO)",
     };
     QStringList columns;
     for (const char* column : kColumns)
@@ -162,6 +172,9 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
             ConvertOrderType(st.value(13), st.value(14), st.value(15), st.value(16), st.value(17));
         row.printingDecimals = int(ToInteger(st.value(18)));
         row.verified = IsFlagSet(st.value(14));
+        if (!IsNullValue(st.value(19)))
+            row.reportState = int(ToInteger(st.value(19)));
+        row.reportMessages = st.value(20).toString();
         rows << row;
     }
     return Result::success();

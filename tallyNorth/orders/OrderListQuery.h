@@ -25,6 +25,7 @@ struct OrderListFilter
         Cancelled = 5,
         Unpaid = 6,
         Overdue = 7,
+        NotAccepted = 8, // issued, but not (yet) accepted by the online invoice system
     };
 
     std::optional<int> kind; // a Kind value; none lists every order
@@ -52,7 +53,9 @@ struct OrderListRow
     QString paymentMethod;
     OrderTypeText kind;
     bool verified = false;
-    int printingDecimals = 0; // the order's invoice total printing decimals
+    int printingDecimals = 0;       // the order's invoice total printing decimals
+    std::optional<int> reportState; // a NavState value; none: not in the reporting queue
+    QString reportMessages;         // the authority's messages, "&" between them
 };
 
 class OrderListQuery

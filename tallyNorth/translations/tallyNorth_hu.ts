@@ -1349,6 +1349,45 @@ Fiz. határidő:
         </message>
     </context>
     <context>
+        <name>InvoiceData</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázis hiba:&amp;</translation>
+        </message>
+        <message>
+            <source>There is no invoice with No. %s.</source>
+            <translation>Nincs %s sorszámú számla.</translation>
+        </message>
+        <message>
+            <source>The order has no invoice number yet.</source>
+            <translation>A rendelésnek még nincs számlaszáma.</translation>
+        </message>
+        <message>
+            <source>The company's tax number is not a Hungarian tax number (12345678-1-12).</source>
+            <translation>A cég adószáma nem magyar adószám (12345678-1-12).</translation>
+        </message>
+        <message>
+            <source>The company's name, postal code, city and address must be filled in.</source>
+            <translation>Ki kell tölteni a cég nevét, irányítószámát, városát és címét.</translation>
+        </message>
+        <message>
+            <source>The currency %s of the invoice has no ISO code or exchange rate.</source>
+            <translation>A számla %s pénznemének nincs ISO kódja vagy árfolyama.</translation>
+        </message>
+        <message>
+            <source>The invoice has no items.</source>
+            <translation>A számlának nincsenek tételei.</translation>
+        </message>
+        <message>
+            <source>The invoice has no printing or delivery date.</source>
+            <translation>A számlának nincs kiállítási vagy teljesítési dátuma.</translation>
+        </message>
+        <message>
+            <source>The cancelling invoice does not name the invoice it cancels.</source>
+            <translation>A sztornó számla nem nevezi meg az általa érvénytelenített számlát.</translation>
+        </message>
+    </context>
+    <context>
         <name>InvoiceIssue</name>
         <message>
             <source>Database error:&amp;</source>
@@ -1874,6 +1913,184 @@ Fiz. határidő:
         <message>
             <source>&amp;Nyilatkozat</source>
             <translation>&amp;Nyilatkozat</translation>
+        </message>
+        <message>
+            <source>&amp;NAV</source>
+            <translation>&amp;NAV</translation>
+        </message>
+        <message>
+            <source>&amp;Report invoices to NAV</source>
+            <translation>Számlák &amp;beküldése a NAV-nak</translation>
+        </message>
+        <message>
+            <source>Send the issued invoices waiting for their report to the online invoice system</source>
+            <translation>A beküldésre váró kiállított számlák elküldése az Online Számla rendszerbe</translation>
+        </message>
+        <message>
+            <source>NAV &amp;settings...</source>
+            <translation>NAV beállítá&amp;sok...</translation>
+        </message>
+        <message>
+            <source>The technical user of the online invoice system</source>
+            <translation>Az Online Számla rendszer technikai felhasználója</translation>
+        </message>
+    </context>
+    <context>
+        <name>NavClient</name>
+        <message>
+            <source>The service answered with HTTP status %1.</source>
+            <translation>A szolgáltatás %1 HTTP állapotkóddal válaszolt.</translation>
+        </message>
+        <message>
+            <source>The service's answer could not be read (HTTP status %1).</source>
+            <translation>A szolgáltatás válasza nem olvasható (HTTP állapotkód: %1).</translation>
+        </message>
+        <message>
+            <source>The online invoice service can not be reached:&amp;%1</source>
+            <translation>Az Online Számla szolgáltatás nem érhető el:&amp;%1</translation>
+        </message>
+        <message>
+            <source>The exchange token could not be decrypted. Check the exchange key.</source>
+            <translation>Az adatcsere token nem fejthető vissza. Ellenőrizze a cserekulcsot.</translation>
+        </message>
+    </context>
+    <context>
+        <name>NavCommands</name>
+        <message>
+            <source>Can't write %1.</source>
+            <translation>Nem írható: %1.</translation>
+        </message>
+        <message>
+            <source>There is no invoice with No. %1.</source>
+            <translation>Nincs %1 sorszámú számla.</translation>
+        </message>
+        <message>
+            <source>Can't create the folder %1.</source>
+            <translation>A(z) %1 mappa nem hozható létre.</translation>
+        </message>
+        <message>
+            <source>sent %1, accepted %2, with warnings %3, rejected %4, waiting %5</source>
+            <translation>elküldve %1, befogadva %2, figyelmeztetéssel %3, elutasítva %4, várakozik %5</translation>
+        </message>
+        <message>
+            <source>The invoice %1 is not in the reporting queue.</source>
+            <translation>A(z) %1 számla nincs a beküldési sorban.</translation>
+        </message>
+        <message>
+            <source>The invoice %1 has not been rejected.</source>
+            <translation>A(z) %1 számlát nem utasították el.</translation>
+        </message>
+        <message>
+            <source>NAV online invoice settings</source>
+            <translation>NAV Online Számla beállítások</translation>
+        </message>
+        <message>
+            <source>Reporting invoices to NAV. Please wait.</source>
+            <translation>Számlák beküldése a NAV-nak. Kérem, várjon.</translation>
+        </message>
+        <message>
+            <source>Sent: %1&amp;Accepted: %2&amp;Accepted with warnings: %3&amp;Rejected: %4&amp;Waiting for a later try: %5</source>
+            <translation>Elküldve: %1&amp;Befogadva: %2&amp;Figyelmeztetéssel befogadva: %3&amp;Elutasítva: %4&amp;Későbbi próbálkozásra vár: %5</translation>
+        </message>
+    </context>
+    <context>
+        <name>NavQueue</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázis hiba:&amp;</translation>
+        </message>
+    </context>
+    <context>
+        <name>NavReporter</name>
+        <message>
+            <source>The technical user of the online invoice system is not set up.&amp;Fill in the NAV settings first.</source>
+            <translation>Az Online Számla rendszer technikai felhasználója nincs beállítva.&amp;Előbb töltse ki a NAV beállításokat.</translation>
+        </message>
+    </context>
+    <context>
+        <name>NavSettingsStore</name>
+        <message>
+            <source>Unable to load data from database.&amp;Maybe it is deleted by an other user.</source>
+            <translation>Nem sikerült betölteni az adatokat az adatbázisból.&amp;Lehet, hogy egy másik felhasználó törölte.</translation>
+        </message>
+        <message>
+            <source>Unable to save data.</source>
+            <translation>Nem sikerült menteni az adatokat.</translation>
+        </message>
+    </context>
+    <context>
+        <name>NavSetupPage</name>
+        <message>
+            <source>Test system</source>
+            <translation>Tesztrendszer</translation>
+        </message>
+        <message>
+            <source>Production system</source>
+            <translation>Éles rendszer</translation>
+        </message>
+        <message>
+            <source>The authority's address for the chosen system</source>
+            <translation>A választott rendszer hatósági címe</translation>
+        </message>
+        <message>
+            <source>The technical user is made on the online invoice system's web page by the taxpayer's primary user; its login, password, signing key and exchange key are given here.</source>
+            <translation>A technikai felhasználót az adózó elsődleges felhasználója hozza létre az Online Számla rendszer weboldalán; itt kell megadni a felhasználónevét, jelszavát, aláírókulcsát és cserekulcsát.</translation>
+        </message>
+        <message>
+            <source>Technical user's login</source>
+            <translation>Technikai felhasználó neve</translation>
+        </message>
+        <message>
+            <source>Password</source>
+            <translation>Jelszó</translation>
+        </message>
+        <message>
+            <source>Signing key</source>
+            <translation>Aláírókulcs</translation>
+        </message>
+        <message>
+            <source>Exchange key</source>
+            <translation>Cserekulcs</translation>
+        </message>
+        <message>
+            <source>Taxpayer id (8 digits)</source>
+            <translation>Adótörzsszám (8 számjegy)</translation>
+        </message>
+        <message>
+            <source>System</source>
+            <translation>Rendszer</translation>
+        </message>
+        <message>
+            <source>Service address</source>
+            <translation>Szolgáltatás címe</translation>
+        </message>
+        <message>
+            <source>(unchanged)</source>
+            <translation>(változatlan)</translation>
+        </message>
+        <message>
+            <source>The login of the technical user is 6 to 15 letters or digits.</source>
+            <translation>A technikai felhasználó neve 6–15 betű vagy számjegy.</translation>
+        </message>
+        <message>
+            <source>Password field must have a value.</source>
+            <translation>A Jelszó mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>Signing key field must have a value.</source>
+            <translation>Az Aláírókulcs mezőt ki kell tölteni.</translation>
+        </message>
+        <message>
+            <source>The exchange key is 16 characters long.</source>
+            <translation>A cserekulcs 16 karakter hosszú.</translation>
+        </message>
+        <message>
+            <source>The taxpayer id is the first 8 digits of the tax number.</source>
+            <translation>Az adótörzsszám az adószám első 8 számjegye.</translation>
+        </message>
+        <message>
+            <source>The service address must begin with https:// (or name this computer).</source>
+            <translation>A szolgáltatás címének https://-sel kell kezdődnie (vagy ezt a számítógépet kell megneveznie).</translation>
         </message>
     </context>
     <context>
@@ -2569,6 +2786,10 @@ Folytatja?</translation>
             <source>Lejart hatarideju szamlak</source>
             <translation>Lejárt határidejű számlák</translation>
         </message>
+        <message>
+            <source>Not yet accepted by NAV</source>
+            <translation>NAV által még be nem fogadott számlák</translation>
+        </message>
     </context>
     <context>
         <name>OrderImporter</name>
@@ -3078,6 +3299,10 @@ Folytatja?</translation>
         <message>
             <source>Kind</source>
             <translation>Típus</translation>
+        </message>
+        <message>
+            <source>NAV</source>
+            <translation>NAV</translation>
         </message>
     </context>
     <context>
@@ -4175,6 +4400,33 @@ Folytatja?</translation>
         <message>
             <source>Total (%1)</source>
             <translation>Összesen (%1)</translation>
+        </message>
+    </context>
+    <context>
+        <name>ReportingQueue</name>
+        <message>
+            <source>Database error:&amp;</source>
+            <translation>Adatbázis hiba:&amp;</translation>
+        </message>
+        <message>
+            <source>Waiting</source>
+            <translation>Várakozik</translation>
+        </message>
+        <message>
+            <source>Sent</source>
+            <translation>Elküldve</translation>
+        </message>
+        <message>
+            <source>Accepted</source>
+            <translation>Befogadva</translation>
+        </message>
+        <message>
+            <source>Accepted with warnings</source>
+            <translation>Figyelmeztetéssel befogadva</translation>
+        </message>
+        <message>
+            <source>Rejected</source>
+            <translation>Elutasítva</translation>
         </message>
     </context>
     <context>

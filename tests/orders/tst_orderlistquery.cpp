@@ -136,7 +136,7 @@ private Q_SLOTS:
     void unsupportedKind()
     {
         OrderListFilter filter;
-        filter.kind = 8;
+        filter.kind = 9;
         QList<OrderListRow> rows;
         bool more = false;
         QCOMPARE(OrderListQuery::load(filter, rows, more).message(),

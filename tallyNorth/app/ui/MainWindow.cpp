@@ -148,6 +148,13 @@ void MainWindow::buildMenus()
     addCommand(webshop, MainCommand::ImportPartners, tr("&Partnerek importalasa fajlbol"),
                tr("Partnereket tartalmazo fajl megnyitasa es importalasa"));
 
+    QMenu* nav = menuBar()->addMenu(tr("&NAV"));
+    addCommand(nav, MainCommand::NavReport, tr("&Report invoices to NAV"),
+               tr("Send the issued invoices waiting for their report to the online invoice "
+                  "system"));
+    addCommand(nav, MainCommand::NavSetup, tr("NAV &settings..."),
+               tr("The technical user of the online invoice system"));
+
     QMenu* reports = menuBar()->addMenu(tr("&Reports"));
     addCommand(reports, MainCommand::OutgoingInvoices, tr("Outgoing &Invoices"),
                tr("Print or export list of invoices"));

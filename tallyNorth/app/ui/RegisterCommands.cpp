@@ -14,6 +14,7 @@
 #include "documents/ui/OrderListPrinting.h"
 #include "documents/ui/ReportCommands.h"
 #include "masterdata/ui/MasterdataCommands.h"
+#include "nav/ui/NavCommands.h"
 #include "orders/ui/OrderEditCommands.h"
 #include "orders/ui/OrderListCommands.h"
 #include "webshop/ui/WebshopCommands.h"
@@ -41,6 +42,7 @@ void RegisterCommands(MainWindow& window)
     RegisterChequeList(window);
     RegisterReportCommands(window);
     RegisterWebshopCommands(window);
+    RegisterNavCommands(window);
 }
 
 std::unique_ptr<MainWindow> OpenMainWindow()

@@ -33,6 +33,8 @@ enum class MainCommand {
     HelpTopics,
     Declaration,
     About,
+    NavSetup,
+    NavReport,
 };
 
 // The main window's tabs, in their order.

@@ -10,7 +10,7 @@
 #include <QTimer>
 
 namespace {
-constexpr int kKindCount = 8;
+constexpr int kKindCount = 9;
 constexpr int kTypingPauseMs = 300;
 } // namespace
 
@@ -109,6 +109,8 @@ QString OrderFilter::kindLabel(int kind)
         return tr("Kifizetetlen szamlak");
     case OrderListFilter::Kind::Overdue:
         return tr("Lejart hatarideju szamlak");
+    case OrderListFilter::Kind::NotAccepted:
+        return tr("Not yet accepted by NAV");
     }
     return {};
 }

@@ -1,8 +1,10 @@
 #include "OrderListModel.h"
 
 #include "base/DateText.h"
+#include "orders/ReportingQueue.h"
 
 #include <QBrush>
+#include <QColor>
 #include <QLocale>
 
 namespace {
@@ -84,6 +86,13 @@ QVariant OrderListModel::data(const QModelIndex& index, int role) const
     case Qt::ForegroundRole:
         if (column == Column::Kind && row.kind.ink.isValid())
             return QBrush(row.kind.ink);
+        if (column == Column::Reporting && row.reportState == int(NavState::Rejected))
+            return QBrush(QColor(200, 0, 0));
+        return {};
+    case Qt::ToolTipRole:
+        // A rejected invoice shows the authority's messages.
+        if (column == Column::Reporting && !row.reportMessages.isEmpty())
+            return QString(row.reportMessages).replace(u'&', u'\n');
         return {};
     case SortRole:
         switch (column) {
@@ -130,6 +139,8 @@ QVariant OrderListModel::data(const QModelIndex& index, int role) const
         return row.paymentMethod;
     case Column::Kind:
         return row.kind.text;
+    case Column::Reporting:
+        return row.reportState ? ReportingQueue::stateText(NavState(*row.reportState)) : QString();
     case Column::Count:
         break;
     }
@@ -171,6 +182,8 @@ QVariant OrderListModel::headerData(int section, Qt::Orientation orientation, in
         return tr("Payment Method");
     case Column::Kind:
         return tr("Kind");
+    case Column::Reporting:
+        return tr("NAV");
     case Column::Count:
         break;
     }

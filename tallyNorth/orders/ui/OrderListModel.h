@@ -23,6 +23,7 @@ public:
         UnpaidTotal,
         PaymentMethod,
         Kind,
+        Reporting, // the state of the report to the online invoice system
         Count
     };
     static constexpr int IdRole = Qt::UserRole + 1;

@@ -1,0 +1,205 @@
+// The invoice documents reported to the tax authority, validated with libxml2 against the
+// authority's own schemas for every kind of invoice the program issues, and the values that a
+// valid document can still get wrong (customer kind, category, exemption, reference, amounts).
+#include "NavTestOrders.h"
+#include "TestCompany.h"
+#include "TestData.h"
+
+#include "nav/InvoiceData.h"
+#include "nav/XmlSchemaCheck.h"
+
+#include <QDomDocument>
+
+namespace {
+
+// The text of the first element of that local name.
+QString First(const QDomDocument& doc, const QString& name)
+{
+    return doc.elementsByTagName(name).item(0).toElement().text();
+}
+
+QStringList All(const QDomDocument& doc, const QString& name)
+{
+    QStringList values;
+    const QDomNodeList nodes = doc.elementsByTagName(name);
+    for (int i = 0; i < nodes.size(); ++i)
+        values << nodes.item(i).toElement().text();
+    return values;
+}
+
+} // namespace
+
+class TestNavInvoiceData : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_schema.isLoaded()); }
+    void init()
+    {
+        QVERIFY(m_company.emplace().isValid());
+        QVERIFY(Setup::current().load());
+        QVERIFY(PrepareNavSeller());
+    }
+    void cleanup() { m_company.reset(); }
+
+    void documentsValidate_data()
+    {
+        AddColumns<int, bool, QString, QString, QString, QString>(
+            {"kind", "cancel", "status", "category", "currency", "vatRates"});
+        AddRow("forint", int(NavTestKind::Forint), false, QString("DOMESTIC"), QString("NORMAL"),
+               QString("HUF"), QString("0.27"));
+        AddRow("euro", int(NavTestKind::Euro), false, QString("DOMESTIC"), QString("NORMAL"),
+               QString("EUR"), QString("0.27"));
+        AddRow("consolidated", int(NavTestKind::Consolidated), false, QString("DOMESTIC"),
+               QString("AGGREGATE"), QString("HUF"), QString("0.27"));
+        AddRow("exempt line", int(NavTestKind::ExemptLine), false, QString("DOMESTIC"),
+               QString("NORMAL"), QString("HUF"), QString("0.27,TAM"));
+        AddRow("private person", int(NavTestKind::PrivatePerson), false, QString("PRIVATE_PERSON"),
+               QString("NORMAL"), QString("HUF"), QString("0.27"));
+        AddRow("foreign", int(NavTestKind::Foreign), false, QString("OTHER"), QString("NORMAL"),
+               QString("HUF"), QString("0.27"));
+        AddRow("cancelling", int(NavTestKind::Forint), true, QString("DOMESTIC"), QString("NORMAL"),
+               QString("HUF"), QString("0.27"));
+        AddRow("cancelling consolidated", int(NavTestKind::Consolidated), true, QString("DOMESTIC"),
+               QString("AGGREGATE"), QString("HUF"), QString("0.27"));
+    }
+
+    void documentsValidate()
+    {
+        auto [kind, cancel, status, category, currency, vatRates] =
+            Fetch<int, bool, QString, QString, QString, QString>(
+                {"kind", "cancel", "status", "category", "currency", "vatRates"});
+        QString originalNo;
+        qint64 orderId = IssueNavTestOrder(NavTestKind(kind), &originalNo);
+        QVERIFY(orderId);
+        if (cancel)
+            QVERIFY((orderId = IssueNavCancel(orderId)) != 0);
+
+        InvoiceData::Document document;
+        const Result r = InvoiceData::build(orderId, document);
+        QVERIFY2(r, qPrintable(r.message()));
+        QStringList errors;
+        QVERIFY2(m_schema.validate(document.xml, &errors),
+                 qPrintable(errors.join('\n') + '\n' + QString::fromUtf8(document.xml)));
+
+        QDomDocument doc;
+        QVERIFY(doc.setContent(document.xml, true));
+        QCOMPARE(document.operation, cancel ? NavOperation::Storno : NavOperation::Create);
+        QCOMPARE(First(doc, "customerVatStatus"), status);
+        QCOMPARE(First(doc, "invoiceCategory"), category);
+        QCOMPARE(First(doc, "currencyCode"), currency);
+        QCOMPARE(First(doc, "paymentMethod"), QString("TRANSFER"));
+        QCOMPARE(First(doc, "taxpayerId"), QString("12345676"));
+        QCOMPARE(First(doc, "countyCode"), QString("41"));
+        QStringList rates = All(doc, "vatPercentage").mid(0, 1);
+        if (!All(doc, "case").isEmpty())
+            rates << All(doc, "case").first();
+        QCOMPARE(rates.join(','), vatRates);
+        if (status == "PRIVATE_PERSON")
+            QVERIFY(doc.elementsByTagName("customerName").isEmpty());
+        if (status == "OTHER")
+            QCOMPARE(First(doc, "communityVatNumber"), QString("ATU12345678"));
+        if (category == "AGGREGATE")
+            QCOMPARE(All(doc, "lineDeliveryDate"), QStringList({"2024-02-29", "2024-03-01"}));
+
+        // The amounts are the ones stored at issue, in the invoice currency and in forint.
+        const QString totals =
+            QueryText("select ORDERHEAD_TOTAL_GROSS, ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS, "
+                      "ORDERHEAD_CURRENCY_RATE from ORDERHEAD where ORDERHEAD_ID = ?",
+                      {orderId});
+        const QStringList parts = totals.split('|');
+        QCOMPARE(First(doc, "invoiceGrossAmount").toDouble(), parts[0].toDouble());
+        QCOMPARE(First(doc, "invoiceGrossAmountHUF").toDouble(), parts[1].toDouble());
+        if (currency == "EUR")
+            QCOMPARE(First(doc, "exchangeRate").toDouble(), parts[2].toDouble());
+        if (cancel) {
+            QVERIFY(parts[0].toDouble() < 0);
+            QCOMPARE(First(doc, "originalInvoiceNumber"), originalNo);
+            QCOMPARE(First(doc, "modificationIndex"), QString("1"));
+            // The lines continue the numbering of the cancelled invoice's lines.
+            const int lines = All(doc, "lineNumber").size();
+            QCOMPARE(All(doc, "lineNumberReference").first().toInt(), lines + 1);
+        }
+    }
+
+    // The check itself: a document the schema refuses is refused, with the line named.
+    void brokenDocumentRefused()
+    {
+        const qint64 orderId = IssueNavTestOrder(NavTestKind::Forint);
+        InvoiceData::Document document;
+        QVERIFY(InvoiceData::build(orderId, document));
+        QByteArray broken = document.xml;
+        broken.replace("<invoiceCategory>NORMAL<", "<invoiceCategory>SOMETIMES<");
+        QStringList errors;
+        QVERIFY(!m_schema.validate(broken, &errors));
+        QVERIFY(errors.join(' ').contains("SOMETIMES"));
+        QVERIFY(!m_schema.validate("<InvoiceData", &errors));
+    }
+
+    void sellerTaxNumberRequired()
+    {
+        const qint64 orderId = IssueNavTestOrder(NavTestKind::Forint);
+        QVERIFY(orderId);
+        QVERIFY(ExecSql("update SETUP set SETUP_TAX_NO = 'none'"));
+        QVERIFY(Setup::current().load());
+        InvoiceData::Document document;
+        QVERIFY(!InvoiceData::build(orderId, document));
+    }
+
+    void unissuedOrderHasNoDocument()
+    {
+        InvoiceData::Document document;
+        QVERIFY(!InvoiceData::build(1, document)); // the basic data's sample order
+        QVERIFY(!InvoiceData::buildByNumber("nope", document));
+    }
+
+    void taxNumbers_data()
+    {
+        AddColumns<QString, bool, QString>({"text", "ok", "parts"});
+        AddRow("dashed", QString("12345678-2-41"), true, QString("12345678|2|41"));
+        AddRow("plain", QString("12345678241"), true, QString("12345678|2|41"));
+        AddRow("taxpayer id only", QString("12345678"), true, QString("12345678||"));
+        AddRow("vat code 9", QString("12345678-9-41"), false, QString());
+        AddRow("short", QString("1234567-2-41"), false, QString());
+        AddRow("letters", QString("ATU1234567"), false, QString());
+    }
+
+    void taxNumbers()
+    {
+        auto [text, ok, parts] = Fetch<QString, bool, QString>({"text", "ok", "parts"});
+        HungarianTaxNumber number;
+        QCOMPARE(HungarianTaxNumber::parse(text, number), ok);
+        if (ok)
+            QCOMPARE(number.taxpayerId + '|' + number.vatCode + '|' + number.countyCode, parts);
+    }
+
+    void mappings_data()
+    {
+        AddColumns<QString, QString, QString>({"function", "input", "value"});
+        AddRow("cash code", QString("payment"), QString("KP|Készpénz"), QString("CASH"));
+        AddRow("transfer name", QString("payment"), QString("X|Banki átutalás"),
+               QString("TRANSFER"));
+        AddRow("card", QString("payment"), QString("BK|Bankkártya"), QString("CARD"));
+        AddRow("unknown method", QString("payment"), QString("U|Utánvét"), QString("OTHER"));
+        AddRow("piece", QString("unit"), QString("db"), QString("PIECE"));
+        AddRow("hour accented", QString("unit"), QString("óra"), QString("HOUR"));
+        AddRow("own unit", QString("unit"), QString("doboz"), QString("OWN"));
+    }
+
+    void mappings()
+    {
+        auto [function, input, value] =
+            Fetch<QString, QString, QString>({"function", "input", "value"});
+        const QStringList parts = input.split('|');
+        QCOMPARE(function == "payment" ? InvoiceData::paymentMethod(parts[0], parts[1])
+                                       : InvoiceData::unitOfMeasure(input),
+                 value);
+    }
+
+private:
+    std::optional<TestCompany> m_company;
+    XmlSchemaCheck m_schema{XmlSchemaCheck::invoiceDataSchema()};
+};
+
+QTEST_GUILESS_MAIN(TestNavInvoiceData)
+#include "tst_navinvoicedata.moc"
