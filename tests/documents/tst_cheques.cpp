@@ -4,6 +4,7 @@
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
 #include "TestData.h"
+#include "TestOrders.h"
 
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
@@ -40,35 +41,9 @@ qint64 NewCheque(const QString& name, double amount, bool printed = false)
     return c.id;
 }
 
-// A saved order of the basic-data partner, qty x 1000 Ft at 27%, paid by method.
 qint64 NewOrder(qint64 method)
 {
-    Order order;
-    if (!OrderFill::newOrder(order, kToday) || !OrderFill::partner(order, 1) ||
-        !OrderFill::paymentMethod(order, method))
-        qFatal("no order");
-    OrderItem item;
-    if (!OrderFill::product(item, order, 1))
-        qFatal("no product");
-    item.qty = 3;
-    item.dateShipped = kToday;
-    OrderFill::recalcItem(item, order);
-    order.items << item;
-    if (!OrderStore::save(order))
-        qFatal("not saved");
-    return order.id;
-}
-
-Result Issue(qint64 orderId)
-{
-    IssuedInvoice issued;
-    return InvoiceNumbering::issue(
-        orderId, kToday,
-        [](qint64, FrozenInvoice& invoice) {
-            invoice.body = QStringLiteral("body");
-            return Result::success();
-        },
-        issued);
+    return SavedTestOrder(3, kToday, method);
 }
 
 // The pixel box of the ink on the first page, rendered at 50 dpi.
@@ -289,7 +264,7 @@ private Q_SLOTS:
                         {flag ? "1" : "0", method}));
         const qint64 order = NewOrder(method);
         QVERIFY(ExecSql("update ORDERHEAD set ORDERHEAD_DATE_PAYMENT_DUE = '2024-03-13'"));
-        QVERIFY(Issue(order));
+        QVERIFY(IssueTestOrder(order, kToday));
         QCOMPARE(QueryText("select CHEQUE_INVOICE_NO_STR || '|' || CHEQUE_PARTNER_NAME || '|' || "
                            "CHEQUE_PARTNER_ZIP || '|' || CHEQUE_PARTNER_CITY || '|' || "
                            "cast(CHEQUE_AMOUNT as integer) || '|' || CHEQUE_NOTICE from CHEQUE"),
@@ -304,7 +279,7 @@ private Q_SLOTS:
         // with it the whole issue.
         QVERIFY(ExecSql("insert into CHEQUE (CHEQUE_ORDERHEAD_ID, CHEQUE_AMOUNT) values (?, 1)",
                         {order}));
-        QVERIFY(!Issue(order));
+        QVERIFY(!IssueTestOrder(order, kToday));
         QCOMPARE(QueryText("select coalesce(ORDERHEAD_INVOICE_NO, '-') from ORDERHEAD where "
                            "ORDERHEAD_ID = ?",
                            {order}),
@@ -319,7 +294,7 @@ private Q_SLOTS:
             order, kToday, [](qint64, FrozenInvoice&) { return Result::failure("no render"); },
             issued));
         QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("0"));
-        QVERIFY(Issue(order));
+        QVERIFY(IssueTestOrder(order, kToday));
         QCOMPARE(QueryText("select count(*) from CHEQUE"), QString("1"));
     }
 
@@ -327,7 +302,7 @@ private Q_SLOTS:
     {
         const qint64 issued = NewOrder(2);
         const qint64 open = NewOrder(2);
-        QVERIFY(Issue(issued));
+        QVERIFY(IssueTestOrder(issued, kToday));
         QList<qint64> ids;
         // An order without a number has no cheque to print, and none is made for the others.
         Result r = ChequeStore::forInvoices({issued, open}, kToday, ids);

@@ -219,9 +219,6 @@ private Q_SLOTS:
         // Each copy of an invoice is a section numbering its own pages.
         row("sections", {"", "[1> copy A page $$P]", "a1^^a2", "", "[1> copy B page $$P]", "b1"},
             a4, "595 x 842 pts (A4)", {"copy A page 1|a1", "copy A page 2|a2", "copy B page 1|b1"});
-        // 4724 x 2125 dots at 600 per inch: 200 x 90 mm, in whole points.
-        row("cheque", {"", "", "{{1:1~ [*4 12_345 Ft]:: [> egyezer]}}"}, QSize(4724, 2125),
-            "567 x 255 pts", {"12 345 Ft"});
     }
 
     void pages()

@@ -301,17 +301,6 @@ private Q_SLOTS:
         QCOMPARE(copied.value(2), u"two lines\t\t-0,25"_s);
     }
 
-    void csvOfReport()
-    {
-        ReportTable table;
-        QVERIFY(
-            ReportQuery::run(ReportKind::Customers, Filter(ReportCurrency::Original), table).ok());
-        const QList<QStringList> cells = ParseCsv(ReportOutput::csv(table));
-        QCOMPARE(cells.size(), table.rows.size() + 1);
-        QCOMPARE(cells.value(1),
-                 (QStringList{u"Alfa Kft."_s, u"EUR"_s, u"100,00"_s, u"0,00"_s, u"100,00"_s}));
-    }
-
     void textForm()
     {
         ReportTable table;

@@ -3,6 +3,7 @@
 // and refusals. The document is a stand-in here; its rendering has its own test.
 #include "CompanyTestCase.h"
 #include "TestData.h"
+#include "TestOrders.h"
 
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
@@ -17,39 +18,14 @@ namespace {
 
 const QDate kToday(2024, 3, 5);
 
-Result Frozen(qint64 orderId, FrozenInvoice& invoice)
-{
-    invoice.body = QString("body of %1").arg(orderId);
-    return Result::success();
-}
-
-// A saved order of the basic-data partner: qty x 1000 Ft at 27%, paid by the given method.
 qint64 NewOrder(double qty = 3, qint64 method = 2, bool consolidated = false)
 {
-    Order order;
-    if (!OrderFill::newOrder(order, kToday) || !OrderFill::partner(order, 1) ||
-        !OrderFill::paymentMethod(order, method))
-        qFatal("no order");
-    OrderItem item;
-    if (!OrderFill::product(item, order, 1))
-        qFatal("no product");
-    item.qty = qty;
-    item.dateShipped = kToday;
-    OrderFill::recalcItem(item, order);
-    order.items << item;
-    order.consolidated = consolidated;
-    if (!OrderStore::save(order))
-        qFatal("not saved");
-    return order.id;
+    return SavedTestOrder(qty, kToday, method, consolidated);
 }
 
 Result Issue(qint64 orderId, QString* numberText = nullptr, const QDate& today = kToday)
 {
-    IssuedInvoice issued;
-    const Result r = InvoiceNumbering::issue(orderId, today, Frozen, issued);
-    if (numberText)
-        *numberText = issued.numberText;
-    return r;
+    return IssueTestOrder(orderId, today, numberText);
 }
 
 QString Numbers()
@@ -143,7 +119,7 @@ private Q_SLOTS:
         const Result r = InvoiceNumbering::issue(
             order, kToday,
             [&](qint64 id, FrozenInvoice& f) {
-                return renderFails ? Result::failure("no template") : Frozen(id, f);
+                return renderFails ? Result::failure("no template") : StandInDocument(id, f);
             },
             issued);
         QVERIFY(!r);

@@ -4,6 +4,7 @@
 #include "ModalDriver.h"
 #include "ScriptedInteraction.h"
 #include "TestData.h"
+#include "TestOrders.h"
 
 #include "base/Setup.h"
 #include "documents/InvoiceIssue.h"
@@ -21,21 +22,6 @@
 #include <optional>
 
 namespace {
-
-// The basic-data partner's order with one line of the test product.
-Order PartnerOrder()
-{
-    Order order;
-    if (!OrderFill::newOrder(order) || !OrderFill::partner(order, 1))
-        qFatal("no order");
-    OrderItem item;
-    if (!OrderFill::product(item, order, 1))
-        qFatal("no product");
-    item.qty = 2;
-    OrderFill::recalcItem(item, order);
-    order.items << item;
-    return order;
-}
 
 void SetText(QWidget* form, const char* name, const QString& text)
 {
@@ -62,7 +48,7 @@ private Q_SLOTS:
         QFETCH(bool, store);
         ScriptedInteraction interaction;
         interaction.yesNoAnswers << store;
-        Order order = PartnerOrder();
+        Order order = TestOrder();
         order.partnerId.reset();
         order.partnerName = "Árvíztűrő Kft.";
         OrderEdit edit(order, interaction);
@@ -92,7 +78,7 @@ private Q_SLOTS:
         auto [choice, partners] = Fetch<int, QString>({"choice", "partners"});
         ScriptedInteraction interaction;
         interaction.choiceAnswers << Interaction::Choice(choice);
-        OrderEdit edit(PartnerOrder(), interaction);
+        OrderEdit edit(TestOrder(), interaction);
         SetText(&edit, "m_partner_city", "Szeged");
         edit.accept();
         QCOMPARE(edit.result(), int(QDialog::Accepted));
@@ -107,7 +93,7 @@ private Q_SLOTS:
     void itemCommands()
     {
         ScriptedInteraction interaction;
-        OrderEdit edit(PartnerOrder(), interaction);
+        OrderEdit edit(TestOrder(), interaction);
         // A typed-in return line from the item dialog shows in the grid and the totals.
         edit.setItemEditor([](const Order& order, OrderItem& item, QWidget*) {
             item.name = "Visszáru";
@@ -155,7 +141,7 @@ private Q_SLOTS:
     {
         auto [edits, message] = Fetch<QStringList, QString>({"edits", "message"});
         ScriptedInteraction interaction;
-        const Order order = PartnerOrder();
+        const Order order = TestOrder();
         OrderItemEditDlg dlg(order, order.items.first(), interaction);
         for (const QString& e : std::as_const(edits))
             SetText(&dlg, qPrintable(e.section('=', 0, 0)), e.section('=', 1));
@@ -184,7 +170,7 @@ private Q_SLOTS:
         ScriptedInteraction interaction;
         interaction.yesNoAnswers << yes;
         interaction.choiceAnswers << Interaction::Choice(choice);
-        const Order order = PartnerOrder();
+        const Order order = TestOrder();
         OrderItemEditDlg dlg(order, typed ? OrderItem() : order.items.first(), interaction);
         if (typed)
             SetText(&dlg, "m_name", "Csavar");
@@ -205,7 +191,7 @@ private Q_SLOTS:
     {
         ScriptedInteraction interaction;
         OrderEdit::setInvoicePrinter({});
-        OrderEdit edit(PartnerOrder(), interaction);
+        OrderEdit edit(TestOrder(), interaction);
         edit.print();
         QCOMPARE(interaction.lastMessage(), QString("The invoice can not be printed yet."));
         QCOMPARE(QueryText("select count(*) from ORDERHEAD where ORDERHEAD_ID > 1"), QString("0"));

@@ -3,6 +3,7 @@
 #include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
 #include "TestData.h"
+#include "TestOrders.h"
 
 #include "base/SqlStatement.h"
 #include "orders/OrderFill.h"
@@ -23,21 +24,6 @@ qint64 InsertPartner(const QString& name, const QVariant& dueDays = {},
                   {name, name, methodId, dueDays});
 }
 
-// An order of the basic-data partner with one 1000 Ft product line of quantity qty.
-Order SimpleOrder(double qty = 2)
-{
-    Order order;
-    if (!OrderFill::newOrder(order) || !OrderFill::partner(order, 1))
-        qFatal("no order");
-    OrderItem item;
-    if (!OrderFill::product(item, order, 1))
-        qFatal("no product");
-    item.qty = qty;
-    OrderFill::recalcItem(item, order);
-    order.items << item;
-    return order;
-}
-
 QString OrderCount()
 {
     return QueryText("select count(*) from ORDERHEAD") + "/" +
@@ -53,7 +39,7 @@ private Q_SLOTS:
 
     void saveAndLoadKeepEverything()
     {
-        Order order = SimpleOrder(3);
+        Order order = TestOrder(3);
         OrderItem typed;
         typed.name = "Szerelés";
         typed.qty = 1.5;
@@ -94,13 +80,13 @@ private Q_SLOTS:
                            "from ORDERHEAD where ORDERHEAD_ID = ?",
                            {order.id}),
                  QString("ARVIZTURO KFT.|null"));
-        Order second = SimpleOrder();
+        Order second = TestOrder();
         QVERIFY(OrderStore::save(second));
     }
 
     void updateKeepsItemsInStep()
     {
-        Order order = SimpleOrder();
+        Order order = TestOrder();
         order.items << order.items.first() << order.items.first();
         QVERIFY(OrderStore::save(order));
         const qint64 kept = order.items[0].id;
@@ -133,7 +119,7 @@ private Q_SLOTS:
     void changedUnderTheUser()
     {
         QFETCH(QString, elsewhere);
-        Order order = SimpleOrder();
+        Order order = TestOrder();
         QVERIFY(OrderStore::save(order));
         QVERIFY(ExecSql(elsewhere, {order.id}));
         const QString before =
@@ -165,7 +151,7 @@ private Q_SLOTS:
     void nothingHalfSaved()
     {
         const QString before = OrderCount();
-        Order order = SimpleOrder();
+        Order order = TestOrder();
         order.items << order.items.first();
         order.items[0].code = order.items[1].code = "W-1";
         const Result r = OrderStore::save(order);
@@ -191,7 +177,7 @@ private Q_SLOTS:
     {
         QList<qint64> ids;
         for (int i = 0; i < 3; ++i) {
-            Order order = SimpleOrder();
+            Order order = TestOrder();
             QVERIFY(OrderStore::save(order));
             ids << order.id;
         }
@@ -217,7 +203,7 @@ private Q_SLOTS:
 
     void cloneIsANewUnissuedOrder()
     {
-        Order order = SimpleOrder();
+        Order order = TestOrder();
         order.items[0].code = "W-9";
         QVERIFY(OrderStore::save(order));
         QVERIFY(ExecSql(
@@ -457,7 +443,7 @@ private Q_SLOTS:
     {
         auto [change, answers, message, questions] = Fetch<QString, QList<bool>, QString, int>(
             {"change", "answers", "message", "questions"});
-        Order order = SimpleOrder();
+        Order order = TestOrder();
         const QDate today(2024, 6, 30);
         order.dateShipped = order.dateCreated = today;
         const QStringList changes = change.split(u' ', Qt::SkipEmptyParts);
