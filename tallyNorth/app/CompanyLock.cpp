@@ -2,6 +2,8 @@
 
 #include "base/MessageArgs.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 
@@ -26,6 +28,17 @@ int WaitMs()
     bool ok = false;
     const int ms = qEnvironmentVariableIntValue("TALLYNORTH_LOCK_WAIT_MS", &ok);
     return ok && ms >= 0 ? ms : 20000;
+}
+
+// A process killed between creating its lock file and writing its owner into it leaves an empty
+// file, which QLockFile can never judge stale. Writing takes microseconds, so an empty file a few
+// seconds old belongs to nobody.
+void RemoveEmptyLeftover(const QString& path)
+{
+    const QFileInfo info(path);
+    if (info.exists() && info.size() == 0 &&
+        info.lastModified().secsTo(QDateTime::currentDateTime()) >= 3)
+        QFile::remove(path);
 }
 
 } // namespace
@@ -54,6 +67,7 @@ Result CompanyLock::acquire()
         // Never stale by age: an upgrade of a large company may take long. A lock whose
         // process is gone is stale at once.
         held.file->setStaleLockTime(0);
+        RemoveEmptyLeftover(lockPath(m_key));
         if (!held.file->tryLock(WaitMs())) {
             HeldLocks().erase(m_key);
             return Result::failure(

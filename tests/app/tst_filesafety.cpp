@@ -8,6 +8,7 @@
 #include "app/Backup.h"
 #include "app/CompanyChoice.h"
 #include "app/CompanyFile.h"
+#include "app/CompanyLock.h"
 #include "app/DatabasePrepare.h"
 #include "app/ScopedConnection.h"
 #include "base/Database.h"
@@ -166,6 +167,24 @@ private Q_SLOTS:
                  qPrintable(m_ui.lastMessage()));
         QVERIFY(m_ui.sqlErrors.isEmpty());
         QVERIFY(QSqlQuery(other.db()).exec("rollback"));
+        QVERIFY(OpenCompany(path(), m_ui));
+        qunsetenv("TALLYNORTH_LOCK_WAIT_MS");
+    }
+
+    // A process killed before it wrote its owner into the lock file left it empty, and every
+    // later start was refused.
+    void emptyLeftoverLockIsTakenOver()
+    {
+        Database::close();
+        qputenv("TALLYNORTH_LOCK_WAIT_MS", "0");
+        QFile lock(CompanyLock::lockPath(path()));
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        lock.close();
+        QVERIFY(!CompanyLock(path()).acquire()); // just made: its owner may be writing it now
+        QVERIFY(lock.open(QIODevice::ReadWrite));
+        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addSecs(-10),
+                                 QFileDevice::FileModificationTime));
+        lock.close();
         QVERIFY(OpenCompany(path(), m_ui));
         qunsetenv("TALLYNORTH_LOCK_WAIT_MS");
     }
