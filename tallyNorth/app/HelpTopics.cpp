@@ -38,6 +38,7 @@ const QList<HelpTopic>& HelpTopicTree()
         {QStringLiteral("Csekkek"), QStringLiteral("Csekkek")},
         {QStringLiteral("Webaruhaz"), QStringLiteral("Webáruház")},
         {QStringLiteral("Listak"), QStringLiteral("Listák")},
+        {QStringLiteral("NavOnlineSzamla"), QStringLiteral("Online számlaadat-szolgáltatás (NAV)")},
         {QStringLiteral("TobbCegKezelese"),
          QStringLiteral("Több cég ill. adatbázis kezelése egy programon belül")},
         {QStringLiteral("BiztonsagiMentes"), QStringLiteral("Biztonsági mentés")},

@@ -5262,4 +5262,11 @@ Folytatja?</translation>
             <translation>%d rendelés letöltve.</translation>
         </message>
     </context>
+    <context>
+        <name>SetupNavPage</name>
+        <message>
+            <source>NAV</source>
+            <translation>NAV</translation>
+        </message>
+    </context>
 </TS>

@@ -30,7 +30,9 @@ void ChangeEveryField(QWidget* window)
         {"m_invoice_no_prefix", "VT-"},
     };
     for (QLineEdit* edit : window->findChildren<QLineEdit*>()) {
-        if (!edit->objectName().startsWith(u"m_") || edit->parent()->inherits("QAbstractSpinBox"))
+        // The NAV page checks and stores its fields itself (tst_navsetuppage).
+        if (!edit->objectName().startsWith(u"m_") || edit->parent()->inherits("QAbstractSpinBox") ||
+            edit->parent()->inherits("NavSetupPage"))
             continue;
         edit->setText(texts.value(edit->objectName(), edit->objectName().mid(2) + u'!'));
     }

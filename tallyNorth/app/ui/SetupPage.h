@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/SetupSave.h"
+#include "base/Result.h"
 
 #include <QList>
 #include <QWidget>
@@ -32,6 +33,10 @@ public:
     virtual void load(const Setup& setup);
     // Adds the bound columns and whatever else the page saves.
     virtual void store(SetupChanges& changes) const;
+    // Pages that keep values beside the settings record: checked before anything is written,
+    // written once the record is saved.
+    virtual Result checkOwn() const { return Result::success(); }
+    virtual Result saveOwn() { return Result::success(); }
 
 protected:
     void bind(const char* column, QWidget* field);

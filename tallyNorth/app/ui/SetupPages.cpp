@@ -15,6 +15,7 @@
 #include "masterdata/ui/CurrencyRoundingEditor.h"
 #include "masterdata/ui/FieldBinding.h"
 #include "masterdata/ui/MasterBrowses.h"
+#include "nav/ui/NavSetupPage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -540,4 +541,30 @@ void SetupChequePage::testPrint()
     if (Result r = ChequePrinting::printTest(chosen.qtf, shift, preview);
         !r && !r.message().isEmpty())
         GuiInteraction(this).error(r.message());
+}
+
+SetupNavPage::SetupNavPage(QWidget* parent) : SetupPage(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    m_page = new NavSetupPage(this);
+    layout->addWidget(m_page);
+    layout->addStretch();
+}
+
+void SetupNavPage::load(const Setup& setup)
+{
+    SetupPage::load(setup);
+    if (Result r = m_page->load(); !r)
+        GuiInteraction(this).error(r.message());
+}
+
+Result SetupNavPage::checkOwn() const
+{
+    NavSettings values;
+    return m_page->settings(values);
+}
+
+Result SetupNavPage::saveOwn()
+{
+    return m_page->save();
 }

@@ -115,3 +115,21 @@ private:
     QComboBox* m_template = nullptr;
     QString m_installedDir;
 };
+
+class NavSetupPage;
+
+// The technical user of the online invoice system, kept in the program's own table.
+class SetupNavPage : public SetupPage
+{
+    Q_OBJECT
+public:
+    explicit SetupNavPage(QWidget* parent = nullptr);
+    QString title() const override { return tr("NAV"); }
+    QString helpTopic() const override { return QStringLiteral("NavOnlineSzamla"); }
+    void load(const Setup& setup) override;
+    Result checkOwn() const override;
+    Result saveOwn() override;
+
+private:
+    NavSetupPage* m_page = nullptr;
+};

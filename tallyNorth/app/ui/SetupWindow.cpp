@@ -32,7 +32,7 @@ SetupWindow::SetupWindow(QWidget* parent) : QDialog(parent)
     layout->addWidget(m_tabs);
     m_pages << new SetupCompanyPage << new SetupInvoicePage << new SetupInvoiceTemplatePage
             << new SetupRoundingPage << new SetupAppPage << new SetupDownloadPage
-            << new SetupChequePage;
+            << new SetupChequePage << new SetupNavPage;
     for (const PageFactory& factory : std::as_const(AddedPages()))
         if (SetupPage* page = factory(this))
             m_pages << page;
@@ -72,6 +72,12 @@ void SetupWindow::accept()
     for (SetupPage* page : std::as_const(m_pages))
         page->store(changes);
     GuiInteraction interaction(this);
+    for (SetupPage* page : std::as_const(m_pages))
+        if (const Result r = page->checkOwn(); !r) {
+            m_tabs->setCurrentWidget(page);
+            interaction.error(r.message());
+            return;
+        }
     QString badColumn;
     if (!SaveSetup(changes, interaction, &badColumn)) {
         if (!badColumn.isEmpty())
@@ -79,6 +85,12 @@ void SetupWindow::accept()
                 RevealField(field);
         return;
     }
+    for (SetupPage* page : std::as_const(m_pages))
+        if (const Result r = page->saveOwn(); !r) {
+            m_tabs->setCurrentWidget(page);
+            interaction.error(r.message());
+            return;
+        }
     QDialog::accept();
 }
 
