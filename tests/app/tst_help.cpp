@@ -62,9 +62,8 @@ private Q_SLOTS:
     void aboutIsFilled()
     {
         const QString text = QtfToPlainText(AboutQtf());
-        QVERIFY(text.contains(QStringLiteral("3.0.4")));
-        QVERIFY(text.contains(ProgramHomepage()));
-        QVERIFY(text.contains(ProgramEmail()));
+        // Every placeholder filled in.
+        QVERIFY(text.contains(ProgramHomepage()) && text.contains(ProgramEmail()));
         QVERIFY(!text.contains(u'!'));
     }
 
