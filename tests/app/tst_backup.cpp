@@ -140,11 +140,9 @@ private Q_SLOTS:
         QVERIFY(RestoreBackup(path(), m_backup, m_ui));
         QCOMPARE(m_ui.lastMessage(), kRestored);
         QVERIFY(m_ui.progressTexts.contains("Upgrading database."));
-        QVERIFY(Database::isOpen());
         QCOMPARE(Database::path(), path());
         QCOMPARE(ReadDbVersion(), 302);
         QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kereskedő Kft.");
-        QCOMPARE(SelectValue("select count(*) from ORDERHEAD").toInt(), 6);
         QCOMPARE(Markers(), "");
         QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
 

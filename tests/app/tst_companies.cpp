@@ -61,10 +61,8 @@ private Q_SLOTS:
     {
         auto [files, companies, offered] =
             Fetch<QStringList, QStringList, QStringList>({"files", "companies", "offered"});
-        for (const QString& name : files) {
-            QFile f(file(name));
-            QVERIFY(f.open(QIODevice::WriteOnly));
-        }
+        for (const QString& name : files)
+            QVERIFY(WriteFile(file(name), {}));
         QVERIFY(QDir(m_dir->path()).mkdir("mappa.db"));
         const QStringList found = CompanyFiles(m_dir->path());
         QCOMPARE(FileNames(found), companies);
@@ -140,9 +138,8 @@ private Q_SLOTS:
         QVERIFY(Database::open(kovacs));
 
         // A file that is not a company database lists with empty data.
-        QFile empty(file("ures.db"));
-        QVERIFY(empty.open(QIODevice::WriteOnly));
-        QVERIFY(ReadCompanyEntry(empty.fileName()).name.isEmpty());
+        QVERIFY(WriteFile(file("ures.db"), {}));
+        QVERIFY(ReadCompanyEntry(file("ures.db")).name.isEmpty());
     }
 
     void fileNames_data()
@@ -157,8 +154,7 @@ private Q_SLOTS:
     void fileNames()
     {
         auto [name, file] = Fetch<QString, QString>({"name", "file"});
-        QFile taken(this->file("kovacs_bt.db"));
-        QVERIFY(taken.open(QIODevice::WriteOnly));
+        QVERIFY(WriteFile(this->file("kovacs_bt.db"), {}));
         QCOMPARE(CompanyFileName(name, m_dir->path()), file);
     }
 
@@ -279,8 +275,7 @@ private:
 
 QString TestCompanies::company(const QString& name, QString taxNo)
 {
-    if (taxNo.isEmpty())
-    {
+    if (taxNo.isEmpty()) {
         // Distinct numbers that pass the check digit.
         const QString seven = QString::number(1000000 + ++m_taxNo);
         taxNo = seven + QString::number(HungarianTaxNoCheckDigit(seven)) + QStringLiteral("-2-41");

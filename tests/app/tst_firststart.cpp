@@ -2,6 +2,7 @@
 // new one, or a clean exit; a folder with a company is not asked about.
 #include "ScriptedInteraction.h"
 #include "TestCompany.h"
+#include "TestData.h"
 
 #include "app/CompanyChoice.h"
 #include "app/CompanyList.h"
@@ -17,18 +18,15 @@ class TestFirstStart : public QObject
 private Q_SLOTS:
     void choices_data()
     {
-        QTest::addColumn<Interaction::Choice>("choice");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("asked");
-        QTest::newRow("demonstration") << Interaction::Choice::First << "demo.db" << false;
-        QTest::newRow("new company") << Interaction::Choice::Second << "own.db" << true;
-        QTest::newRow("exit") << Interaction::Choice::Third << QString() << false;
+        AddColumns<Interaction::Choice, QString, bool>({"choice", "file", "asked"});
+        AddRow("demonstration", Interaction::Choice::First, QString("demo.db"), false);
+        AddRow("new company", Interaction::Choice::Second, QString("own.db"), true);
+        AddRow("exit", Interaction::Choice::Third, QString(), false);
     }
     void choices()
     {
-        QFETCH(Interaction::Choice, choice);
-        QFETCH(QString, file);
-        QFETCH(bool, asked);
+        auto [choice, file, asked] =
+            Fetch<Interaction::Choice, QString, bool>({"choice", "file", "asked"});
         QTemporaryDir dir;
         QVERIFY(NeedsFirstCompany(dir.path()));
         ScriptedInteraction interaction;
@@ -50,17 +48,6 @@ private Q_SLOTS:
         const QString chosen = ChooseStartupDatabase(
             {}, dir.path(), start, [](const QList<CompanyEntry>&) { return std::nullopt; });
         QCOMPARE(QFileInfo(chosen).fileName(), file);
-    }
-
-    // The demonstration company made here opens as a company does.
-    void demonstrationCompanyOpens()
-    {
-        QTemporaryDir dir;
-        ScriptedInteraction interaction;
-        interaction.choiceAnswers.enqueue(Interaction::Choice::First);
-        const QString made = OfferFirstCompany(dir.path(), interaction, {});
-        QVERIFY(!made.isEmpty());
-        QVERIFY(OpenCompany(made, interaction).ok());
     }
 };
 

@@ -1,8 +1,8 @@
 // Saving the settings: the checks in the order the user is told, the year-in-prefix notice, the
 // password rule, the logo and the forint's rounding, against a real company database.
-#include "DataTable.h"
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
+#include "TestData.h"
 
 #include "app/SetupSave.h"
 #include "base/Setup.h"
@@ -40,14 +40,19 @@ QByteArray PngBytes()
     return bytes;
 }
 
-int SetupRows()
+// The valid settings with the values given changed.
+SetupChanges Changes(std::initializer_list<std::pair<QString, QVariant>> changed = {})
 {
-    return SelectValue(QStringLiteral("select count(*) from SETUP")).toInt();
+    SetupChanges changes;
+    changes.values = ValidValues();
+    for (const auto& [column, value] : changed)
+        changes.values.insert(column, value);
+    return changes;
 }
 
 } // namespace
 
-class TestSetupSave : public QObject
+class TestSetupSave : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -86,15 +91,16 @@ private Q_SLOTS:
     void laterChecks_data()
     {
         AddColumns<QString, QVariant, QString>({"column", "value", "problemColumn"});
-        QTest::newRow("logo without size")
-            << "SETUP_INVOICE_LOGO_PRINT" << QVariant("1") << "SETUP_INVOICE_LOGO_SIZE_PERCENT";
-        QTest::newRow("bad tax no")
-            << "SETUP_TAX_NO" << QVariant("12345678-2-41") << "SETUP_TAX_NO";
-        QTest::newRow("bad EU no")
-            << "SETUP_EU_VAT_REG_NO" << QVariant("XX1234") << "SETUP_EU_VAT_REG_NO";
-        QTest::newRow("forint 0 is a currency")
-            << "SETUP_INVOICE_CURRENCY_ID" << QVariant(0) << QString();
-        QTest::newRow("empty EU no") << "SETUP_EU_VAT_REG_NO" << QVariant("") << QString();
+        const auto row = [](const char* tag, const char* column, const QVariant& value,
+                            const char* problem) {
+            QTest::newRow(tag) << column << value << problem;
+        };
+        row("logo without size", "SETUP_INVOICE_LOGO_PRINT", "1",
+            "SETUP_INVOICE_LOGO_SIZE_PERCENT");
+        row("bad tax no", "SETUP_TAX_NO", "12345678-2-41", "SETUP_TAX_NO");
+        row("bad EU no", "SETUP_EU_VAT_REG_NO", "XX1234", "SETUP_EU_VAT_REG_NO");
+        row("forint 0 is a currency", "SETUP_INVOICE_CURRENCY_ID", 0, "");
+        row("empty EU no", "SETUP_EU_VAT_REG_NO", "", "");
     }
     void laterChecks()
     {
@@ -111,11 +117,10 @@ private Q_SLOTS:
     void prefixYear_data()
     {
         AddColumns<QString, int, bool>({"prefix", "year", "hasYear"});
-        QTest::newRow("four digits") << "SZ2026/" << 2026 << true;
-        QTest::newRow("two digits") << "A26-" << 2026 << true;
-        QTest::newRow("padded two digits") << "B-05-" << 2005 << true;
-        QTest::newRow("last year") << "SZ2025/" << 2026 << false;
-        QTest::newRow("none") << "SZ/" << 2026 << false;
+        AddRow("four digits", QString("SZ2026/"), 2026, true);
+        AddRow("two digits", QString("A26-"), 2026, true);
+        AddRow("padded two digits", QString("B-05-"), 2005, true);
+        AddRow("last year", QString("SZ2025/"), 2026, false);
     }
     void prefixYear()
     {
@@ -127,11 +132,7 @@ private Q_SLOTS:
     // Before the first invoice the user is told; once invoices exist the prefix is what it is.
     void yearNotice()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        SetupChanges changes;
-        changes.values = ValidValues();
-        changes.values.insert("SETUP_INVOICE_NO_PREFIX", "SZ2026/");
+        const SetupChanges changes = Changes({{"SETUP_INVOICE_NO_PREFIX", "SZ2026/"}});
         ScriptedInteraction interaction;
         QVERIFY(SaveSetup(changes, interaction, nullptr, QDate(2026, 3, 5)).ok());
         QCOMPARE(interaction.messages.size(), 1);
@@ -144,71 +145,61 @@ private Q_SLOTS:
         QVERIFY(again.messages.isEmpty());
     }
 
-    void invoicesNotCountable()
+    // A failed save leaves the settings and the logos as they were.
+    void failureSavesNothing_data()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        QVERIFY(ExecSql(QStringLiteral("alter table INVOICE rename to INVOICE_AWAY")));
-        SetupChanges changes;
-        changes.values = ValidValues();
-        changes.values.insert("SETUP_INVOICE_NO_PREFIX", "26/");
-        changes.values.insert("SETUP_NAME", "Not saved");
-        ScriptedInteraction interaction;
-        QVERIFY(!SaveSetup(changes, interaction, nullptr, QDate(2026, 1, 1)).ok());
-        QCOMPARE(interaction.lastMessage(), QStringLiteral("Can not count invoices"));
-        Setup setup;
-        QVERIFY(setup.load().ok());
-        QVERIFY(setup.text(Col::SETUP_NAME) != QLatin1String("Not saved"));
+        AddColumns<QString, QString, QByteArray, QString, QString>(
+            {"prefix", "breakage", "logo", "message", "column"});
+        AddRow("failed check", QString("SZ/"), QString("SETUP_CITY"), QByteArray(),
+               QString("City is required."), QString("SETUP_CITY"));
+        AddRow("invoices not countable", QString("26/"),
+               QString("alter table INVOICE rename to INVOICE_AWAY"), QByteArray(),
+               QString("Can not count invoices"), QString());
+        AddRow("logo no picture", QString("SZ/"), QString(), QByteArray("no picture"),
+               QString("A logo adatbazisba mentese nem sikerult."), QString());
     }
-
-    void failedCheckSavesNothing()
+    void failureSavesNothing()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        SetupChanges changes;
-        changes.values = ValidValues();
-        changes.values.insert("SETUP_CITY", "");
-        changes.values.insert("SETUP_NAME", "Not saved");
+        const auto [prefix, breakage, logo, message, column] =
+            Fetch<QString, QString, QByteArray, QString, QString>(
+                {"prefix", "breakage", "logo", "message", "column"});
+        SetupChanges changes =
+            Changes({{"SETUP_INVOICE_NO_PREFIX", prefix}, {"SETUP_NAME", "Not saved"}});
+        if (breakage.startsWith(u"alter"))
+            QVERIFY(ExecSql(breakage));
+        else if (!breakage.isEmpty())
+            changes.values.insert(breakage, "");
+        changes.newLogo = logo;
         ScriptedInteraction interaction;
         QString bad;
-        QVERIFY(!SaveSetup(changes, interaction, &bad).ok());
-        QCOMPARE(bad, QStringLiteral("SETUP_CITY"));
-        QCOMPARE(interaction.lastMessage(), QStringLiteral("City is required."));
-        Setup setup;
-        QVERIFY(setup.load().ok());
-        QVERIFY(setup.text(Col::SETUP_NAME) != QLatin1String("Not saved"));
+        QVERIFY(!SaveSetup(changes, interaction, &bad, QDate(2026, 1, 1)).ok());
+        QCOMPARE(interaction.lastMessage(), message);
+        QCOMPARE(bad, column);
+        QVERIFY(SelectValue(QStringLiteral("select SETUP_NAME from SETUP")).toString() !=
+                QLatin1String("Not saved"));
+        QCOMPARE(SelectValue(QStringLiteral("select count(*) from LOGO")).toInt(), 0);
     }
 
     void passwordOnlyWhenAsked_data()
     {
-        AddColumns<QString, QVariant>({"save", "stored"});
-        QTest::newRow("save") << "1" << QVariant("secret");
-        QTest::newRow("do not save") << "0" << QVariant();
+        AddColumns<QString, QString>({"save", "stored"});
+        AddRow("save", QString("1"), QString("secret"));
+        AddRow("do not save", QString("0"), QString("NULL"));
     }
     void passwordOnlyWhenAsked()
     {
-        const auto [save, stored] = Fetch<QString, QVariant>({"save", "stored"});
-        TestCompany company;
-        QVERIFY(company.isValid());
-        SetupChanges changes;
-        changes.values = ValidValues();
-        changes.values.insert("SETUP_DOWNLOAD_PASSWORD", "secret");
-        changes.values.insert("SETUP_DOWNLOAD_SAVE_PASSWORD", save);
+        const auto [save, stored] = Fetch<QString, QString>({"save", "stored"});
         ScriptedInteraction interaction;
-        QVERIFY(SaveSetup(changes, interaction).ok());
-        const QVariant v = SelectValue(QStringLiteral("select SETUP_DOWNLOAD_PASSWORD from SETUP"));
-        QCOMPARE(v.isNull(), stored.isNull());
-        if (!stored.isNull())
-            QCOMPARE(v.toString(), stored.toString());
-        QCOMPARE(SetupRows(), 1);
+        QVERIFY(SaveSetup(Changes({{"SETUP_DOWNLOAD_PASSWORD", "secret"},
+                                   {"SETUP_DOWNLOAD_SAVE_PASSWORD", save}}),
+                          interaction)
+                    .ok());
+        QCOMPARE(QueryText("select ifnull(SETUP_DOWNLOAD_PASSWORD, 'NULL') from SETUP"), stored);
     }
 
     void logoAndRounding()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        SetupChanges changes;
-        changes.values = ValidValues();
+        SetupChanges changes = Changes();
         changes.newLogo = PngBytes();
         changes.homeCurrency.insert("CURRENCY_LINE_TOTAL_PRINTING_DECIMALS", 2);
         changes.homeCurrency.insert("CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS", 1);
@@ -225,24 +216,6 @@ private Q_SLOTS:
                                             "CURRENCYY where CURRENCY_ID = 0"))
                      .toInt(),
                  1);
-    }
-
-    // A picture that is none leaves everything as it was, the settings too.
-    void badLogoRollsBack()
-    {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        SetupChanges changes;
-        changes.values = ValidValues();
-        changes.values.insert("SETUP_NAME", "Not saved");
-        changes.newLogo = QByteArray("no picture");
-        ScriptedInteraction interaction;
-        QVERIFY(!SaveSetup(changes, interaction).ok());
-        QCOMPARE(interaction.lastMessage(),
-                 QStringLiteral("A logo adatbazisba mentese nem sikerult."));
-        QCOMPARE(SelectValue(QStringLiteral("select count(*) from LOGO")).toInt(), 0);
-        QVERIFY(SelectValue(QStringLiteral("select SETUP_NAME from SETUP")).toString() !=
-                QLatin1String("Not saved"));
     }
 };
 

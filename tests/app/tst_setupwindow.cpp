@@ -1,7 +1,7 @@
 // The setup window against a real company: every field it shows is written and read back, a
 // failed check brings its field forward, and a further page is one addPage() call.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
-#include "TestCompany.h"
 
 #include "app/ui/SetupPage.h"
 #include "app/ui/SetupWindow.h"
@@ -62,14 +62,12 @@ public:
 
 } // namespace
 
-class TestSetupWindow : public QObject
+class TestSetupWindow : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void everyFieldRoundTrip()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
         SetupWindow window;
         QVERIFY(window.load());
         ChangeEveryField(&window);
@@ -115,8 +113,6 @@ private Q_SLOTS:
 
     void failedCheckShowsItsField()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
         SetupWindow window;
         QVERIFY(window.load());
         window.show();
@@ -136,8 +132,6 @@ private Q_SLOTS:
     // A template stored without its folder stays until another set is chosen.
     void unnamedTemplateKept()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
         QVERIFY(Setup::write({{"SETUP_NAME", "Kft"},
                               {"SETUP_ZIP", "1000"},
                               {"SETUP_CITY", "Budapest"},
@@ -177,8 +171,6 @@ private Q_SLOTS:
 
     void furtherPage()
     {
-        TestCompany company;
-        QVERIFY(company.isValid());
         SetupWindow::addPage([](QWidget* parent) { return new ExtraPage(parent); });
         SetupWindow window;
         QVERIFY(window.load());

@@ -1,8 +1,9 @@
 // ORDERS documents against a real company database: how each code is resolved, what every stop
 // condition leaves behind (the orders before it, nothing of the failed one, the timestamp at the
 // last stored order), and the text conversions.
+#include "AppTestData.h"
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 #include "WebshopDocs.h"
 
@@ -33,21 +34,19 @@ void SetUpdateBasicData(bool on)
 
 } // namespace
 
-class TestOrderImporter : public QObject
+class TestOrderImporter : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         SetUpdateBasicData(false);
         // A language without any translations.
         QVERIFY(ExecSql("insert into LANG values (3, 'FR', 'Francia')"));
         m_ui = {};
         m_ask.emplace();
     }
-    void cleanup() { m_company.reset(); }
 
     void storesOrderWithLocalTotals()
     {
@@ -55,7 +54,10 @@ private Q_SLOTS:
             "W1", {"ORDERHEAD_SUBJECT=Webshop", "ORDERHEAD_VERIFIED= +3"},
             {Item("L1"), Item("L2", {"ORDERITEM_PRICE=333.3", "ORDERITEM_QTY=3",
                                      "ORDERITEM_VAT_CODE=5", "ORDERITEM_VAT_PERCENT=5"})})});
-        QVERIFY(run(doc));
+        // Of a repeated element the first counts.
+        QVERIFY(run(
+            QByteArray(doc).replace("</ORDER>", "<ORDERHEAD_CODE>W9</ORDERHEAD_CODE></ORDER>")));
+        QCOMPARE(Stored(), QString("W1"));
         QCOMPARE(m_ui.messages.size(), 0);
         // Lines to one decimal (999.9), the order to whole forints: 2000 + 1000, VAT 540 + 50.
         QCOMPARE(QueryText("select ORDERHEAD_PARTNER_NAME, ORDERHEAD_PARTNER_CODE, "
@@ -70,9 +72,8 @@ private Q_SLOTS:
                  QString("L1|none|1|2000|2540; L2|none|3|999.9|1049.9"));
         QCOMPARE(LastTimestamp(), QString("T-W1"));
         // Without "Update basic data on import" the master data stays as it was.
-        QCOMPARE(QueryText("select count(*) from PARTNER where PARTNER_CODE = 'C-W1'"),
-                 QString("0"));
-        QCOMPARE(QueryText("select count(*) from PRODUCT where PRODUCT_CODE like 'P-%'"),
+        QCOMPARE(QueryText("select (select count(*) from PARTNER where PARTNER_CODE = 'C-W1') + "
+                           "(select count(*) from PRODUCT where PRODUCT_CODE like 'P-%')"),
                  QString("0"));
     }
 
@@ -91,39 +92,32 @@ private Q_SLOTS:
                                    "ORDERITEM_NAME_TRANSLATION=Product"})}),
              OrderXml("W2", {"ORDERHEAD_PARTNER_NAME=Új név", "ORDERHEAD_PARTNER_TAX_NO=-"})});
         QVERIFY(run(doc));
-        QCOMPARE(QueryText("select PARTNER_NAME, PARTNER_NAME_ASCII, PARTNER_COUNTRY_ID, "
-                           "PARTNER_LANG_ID from PARTNER where PARTNER_CODE = 'C-W1'"),
-                 QString("Vevő W1|VEVO W1|2|1"));
-        // An existing partner is updated; what the order does not carry stays.
-        QCOMPARE(QueryText("select PARTNER_NAME, PARTNER_PAYMENT_DUE_DAYS from PARTNER where "
-                           "PARTNER_CODE = 'C-W2'"),
-                 QString("Új név|30"));
-        QCOMPARE(QueryText("select VAT_NAME, VAT_PERCENT from VAT where VAT_CODE = 'NEW'"),
-                 QString("Új kulcs|10"));
-        QCOMPARE(QueryText("select PRODUCTPRICE_CURRENCY_ID, PRODUCTPRICE_PRICE, "
-                           "PRODUCTTRANSLATION_LANG_ID, PRODUCTTRANSLATION_NAME from PRODUCT "
-                           "join PRODUCTPRICE on PRODUCTPRICE_PRODUCT_ID = PRODUCT_ID join "
-                           "PRODUCTTRANSLATION on PRODUCTTRANSLATION_PRODUCT_ID = PRODUCT_ID where "
-                           "PRODUCT_CODE = 'P-L1'"),
-                 QString("1|12.5|1|Product"));
-        QCOMPARE(QueryText("select PRODUCT_PRICE from PRODUCT where PRODUCT_CODE = 'P-W2-1'"),
-                 QString("1000"));
-        // The orders point to the rows and carry their copies.
         QCOMPARE(
-            QueryText("select ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_PARTNER_LANG_ID, "
-                      "ORDERHEAD_PARTNER_COUNTRY_INTERNATIONAL_CODE, ORDERHEAD_NOVATREASON_ID, "
-                      "ORDERHEAD_PARTNER_ID = (select PARTNER_ID from PARTNER where "
-                      "PARTNER_CODE = 'C-W1'), ORDERHEAD_TOTAL_GROSS from ORDERHEAD where "
-                      "ORDERHEAD_CODE = 'W1'"),
-            QString("EUR|1|DE|1|1|27.5"));
-        // Due days: the partner's own agreement, else the payment method's.
-        QCOMPARE(QueryText("select ORDERHEAD_CODE, julianday(ORDERHEAD_DATE_PAYMENT_DUE) - "
-                           "julianday(ORDERHEAD_DATE_CREATED) from ORDERHEAD where ORDERHEAD_CODE "
-                           "in ('W1', 'W2') order by ORDERHEAD_CODE"),
-                 QString("W1|8; W2|30"));
-        QCOMPARE(QueryText("select ORDERITEM_VAT_ID = (select VAT_ID from VAT where VAT_CODE = "
-                           "'NEW') from ORDERITEM where ORDERITEM_CODE = 'L1'"),
-                 QString("1"));
+            QueryTexts({
+                "select PARTNER_NAME, PARTNER_NAME_ASCII, PARTNER_COUNTRY_ID, PARTNER_LANG_ID from "
+                "PARTNER where PARTNER_CODE = 'C-W1'",
+                // An existing partner is updated; what the order does not carry stays.
+                "select PARTNER_NAME, PARTNER_PAYMENT_DUE_DAYS from PARTNER where "
+                "PARTNER_CODE = 'C-W2'",
+                "select VAT_NAME, VAT_PERCENT, VAT_ID = (select ORDERITEM_VAT_ID from ORDERITEM "
+                "where ORDERITEM_CODE = 'L1') from VAT where VAT_CODE = 'NEW'",
+                "select PRODUCTPRICE_CURRENCY_ID, PRODUCTPRICE_PRICE, PRODUCTTRANSLATION_LANG_ID, "
+                "PRODUCTTRANSLATION_NAME from PRODUCT join PRODUCTPRICE on PRODUCTPRICE_PRODUCT_ID "
+                "= PRODUCT_ID join PRODUCTTRANSLATION on PRODUCTTRANSLATION_PRODUCT_ID = "
+                "PRODUCT_ID where PRODUCT_CODE = 'P-L1'",
+                "select PRODUCT_PRICE from PRODUCT where PRODUCT_CODE = 'P-W2-1'",
+                // The orders point to the rows and carry their copies.
+                "select ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_PARTNER_LANG_ID, "
+                "ORDERHEAD_PARTNER_COUNTRY_INTERNATIONAL_CODE, ORDERHEAD_NOVATREASON_ID, "
+                "ORDERHEAD_PARTNER_ID = (select PARTNER_ID from PARTNER where PARTNER_CODE = "
+                "'C-W1'), ORDERHEAD_TOTAL_GROSS from ORDERHEAD where ORDERHEAD_CODE = 'W1'",
+                // Due days: the partner's own agreement, else the payment method's.
+                "select ORDERHEAD_CODE, julianday(ORDERHEAD_DATE_PAYMENT_DUE) - "
+                "julianday(ORDERHEAD_DATE_CREATED) from ORDERHEAD where ORDERHEAD_CODE in ('W1', "
+                "'W2') order by ORDERHEAD_CODE",
+            }),
+            QStringList({"Vevő W1|VEVO W1|2|1", "Új név|30", "Új kulcs|10|1", "1|12.5|1|Product",
+                         "1000", "EUR|1|DE|1|1|27.5", "W1|8; W2|30"}));
     }
 
     // Each bad second order stops the run: the first stays, nothing of the second or third.
@@ -170,11 +164,10 @@ private Q_SLOTS:
         QCOMPARE(Stored(), QString("W1"));
         QCOMPARE(LastTimestamp(), QString("T-W1"));
         // The failed order's partner and products went with it.
-        QCOMPARE(QueryText("select count(*) from PARTNER where PARTNER_CODE in ('C-W2', 'C-W3')"),
-                 QString("0"));
-        QCOMPARE(QueryText("select count(*) from PRODUCT where PRODUCT_CODE in ('P-L9', 'P-W3-1')"),
-                 QString("0"));
-        QCOMPARE(QueryText("select count(*) from ORDERITEM where ORDERITEM_CODE = 'L9'"),
+        QCOMPARE(QueryText("select (select count(*) from PARTNER where PARTNER_CODE in ('C-W2', "
+                           "'C-W3')) + (select count(*) from PRODUCT where PRODUCT_CODE in "
+                           "('P-L9', 'P-W3-1')) + (select count(*) from ORDERITEM where "
+                           "ORDERITEM_CODE = 'L9')"),
                  QString("0"));
     }
 
@@ -182,7 +175,6 @@ private Q_SLOTS:
     {
         AddColumns<QByteArray, QString, QString>({"doc", "message", "stored"});
         AddRow("empty", QByteArray(), QString("No XML tags in document."), QString());
-        AddRow("no tags", QByteArray("just text"), QString("No XML tags in document."), QString());
         AddRow("cut in the second order",
                OrdersDoc({OrderXml("W1")}).replace("</ORDERS>", "<ORDER><ORDERHEAD_CODE>W2"),
                QString("Premature end of document."), QString("W1"));
@@ -214,8 +206,6 @@ private Q_SLOTS:
     void documentVersion_data()
     {
         AddColumns<QByteArray, QString, QString>({"prolog", "version", "listPrice"});
-        AddRow("declaration 1.0", QByteArray("<?xml version=\"1.0\"?>"), QString("1.0"),
-               QString("1000"));
         AddRow("no declaration", QByteArray(), QString("1.0"), QString("1000"));
         AddRow("shop version 2.1", QByteArray("<?xml version=\"1.0\"?><?webshop version=\"2.1\"?>"),
                QString("2.1"), QString("1200"));
@@ -230,14 +220,6 @@ private Q_SLOTS:
         QCOMPARE(
             QueryText("select ORDERITEM_LIST_PRICE from ORDERITEM where ORDERITEM_CODE = 'L1'"),
             listPrice);
-    }
-
-    void firstOfRepeatedElementsWins()
-    {
-        QByteArray order = OrderXml("W1");
-        order.replace("</ORDER>", "<ORDERHEAD_CODE>W9</ORDERHEAD_CODE></ORDER>");
-        QVERIFY(run(OrdersDoc({order})));
-        QCOMPARE(Stored(), QString("W1"));
     }
 
     // Codes the user sets up in the editors and lists; the rows stay even when the order fails.
@@ -271,10 +253,9 @@ private Q_SLOTS:
                            "ORDERHEAD_PAYMENTMETHOD_NAME_TRANSLATION, ORDERHEAD_NOVATREASON_ID "
                            "from ORDERHEAD where ORDERHEAD_CODE = 'W1'"),
                  QString("7|2|Virement|1"));
-        QCOMPARE(
-            QueryText("select PAYMENTMETHOD_CODE from PAYMENTMETHOD where PAYMENTMETHOD_ID = 2"),
-            QString("BANK"));
-        QCOMPARE(QueryText("select NOVATREASON_CODE from NOVATREASON"), QString("EU"));
+        QCOMPARE(QueryText("select PAYMENTMETHOD_CODE, (select group_concat(NOVATREASON_CODE) from "
+                           "NOVATREASON) from PAYMENTMETHOD where PAYMENTMETHOD_ID = 2"),
+                 QString("BANK|EU"));
         // The messages come before the windows.
         QVERIFY(m_ui.messages.value(0).text.startsWith("There is no CHF currency in database."));
     }
@@ -296,9 +277,7 @@ private Q_SLOTS:
         AddRow("one", QString("1"), true, QString("1"), QString());
         AddRow("zero", QString("0"), false, QString("0"), QString());
         AddRow("blanks and sign", QString("  +2"), true, QString("2"), QString());
-        AddRow("negative", QString("-1"), true, QString("-1"), QString());
         AddRow("trailing text", QString("0x1"), false, QString(), QString());
-        AddRow("empty", QString(), false, QString(), QString());
         AddRow("decimal comma", QString(" 12,5 "), true, QString("12.5"), QString());
         AddRow("grouped digits", QString("-1 000,5"), true, QString("-1000.5"), QString());
         AddRow("display date", QString("2024.03.05."), true, QString(), QString("2024-03-05"));
@@ -322,7 +301,6 @@ private:
         return importer.importDocument(doc);
     }
 
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ui;
     std::optional<ScriptedWebshop> m_ask;
 };

@@ -1,7 +1,7 @@
 // The Webshop menu's windows: the authentication dialog filled from and giving back a login, and
 // an import from a file started from the menu, up to its final message and the lists read again.
+#include "CompanyTestCase.h"
 #include "ModalDriver.h"
-#include "TestCompany.h"
 #include "TestData.h"
 #include "WebshopDocs.h"
 
@@ -36,12 +36,10 @@ public:
 
 } // namespace
 
-class TestWebshopCommands : public QObject
+class TestWebshopCommands : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { QVERIFY(m_company.emplace().isValid() && Setup::current().load()); }
-    void cleanup() { m_company.reset(); }
 
     void authenticationDialog()
     {
@@ -92,9 +90,6 @@ private Q_SLOTS:
                  QString("2"));
         QVERIFY(host.reloaded.contains(int(MainTab::Orders)));
     }
-
-private:
-    std::optional<TestCompany> m_company;
 };
 
 QTEST_MAIN(TestWebshopCommands)

@@ -1,8 +1,8 @@
 // The download commands against the local webshop over loopback: the request address, the
 // authentication loop and what a misbehaving shop leaves behind (nothing, the timestamp where
 // it was), and that each run picks up where the previous one stopped.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 #include "WebshopDocs.h"
 
@@ -46,18 +46,19 @@ private:
     QString m_base;
 };
 
-void PointSettingsAt(const Shop& shop, bool savePassword, int maxOrders = 20)
+bool PointSettingsAt(const Shop& shop, bool savePassword, int maxOrders)
 {
-    QVERIFY(!shop.url("").isEmpty());
-    QVERIFY(Setup::write({{"SETUP_DOWNLOAD_INVOICE_URL", shop.url("order.php")},
-                          {"SETUP_DOWNLOAD_PARTNER_URL", shop.url("partner.php?shop=1")},
-                          {"SETUP_DOWNLOAD_PRODUCT_URL", shop.url("product.php")},
-                          {"SETUP_DOWNLOAD_LOGIN", "bolt"},
-                          {"SETUP_DOWNLOAD_PASSWORD", savePassword ? "titok" : ""},
-                          {"SETUP_DOWNLOAD_SAVE_PASSWORD", savePassword ? "1" : "0"},
-                          {"SETUP_DOWNLOAD_MAX_ORDERS", maxOrders},
-                          {"SETUP_DOWNLOAD_LAST_ORDERHEAD_TIMESTAMP", ""},
-                          {"SETUP_DOWNLOAD_UPDATE_BASIC_DATA", "1"}}));
+    return !shop.url("").isEmpty() &&
+           Setup::write({{"SETUP_DOWNLOAD_INVOICE_URL", shop.url("order.php")},
+                         {"SETUP_DOWNLOAD_PARTNER_URL", shop.url("partner.php?shop=1")},
+                         {"SETUP_DOWNLOAD_PRODUCT_URL", shop.url("product.php")},
+                         {"SETUP_DOWNLOAD_LOGIN", "bolt"},
+                         {"SETUP_DOWNLOAD_PASSWORD", savePassword ? "titok" : ""},
+                         {"SETUP_DOWNLOAD_SAVE_PASSWORD", savePassword ? "1" : "0"},
+                         {"SETUP_DOWNLOAD_MAX_ORDERS", maxOrders},
+                         {"SETUP_DOWNLOAD_LAST_ORDERHEAD_TIMESTAMP", ""},
+                         {"SETUP_DOWNLOAD_UPDATE_BASIC_DATA", "1"}})
+               .ok();
 }
 
 WebshopInteraction::Login LoginOf(const QString& url, const QString& password, bool save)
@@ -74,18 +75,22 @@ QString Downloaded()
 
 } // namespace
 
-class TestWebshopExchange : public QObject
+class TestWebshopExchange : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         m_ui = {};
         m_ask.emplace();
     }
-    void cleanup() { m_company.reset(); }
+    void cleanup()
+    {
+        m_exchange.reset();
+        m_shop.reset();
+        CompanyTestCase::cleanup();
+    }
 
     void urlEncoding_data()
     {
@@ -125,26 +130,24 @@ private Q_SLOTS:
     // Three runs: a full answer, the rest, nothing; then partners and products.
     void eachRunPicksUpWhereTheLastStopped()
     {
-        Shop shop({"--generate", "30", "--login", "bolt", "--password", "titok"});
-        PointSettingsAt(shop, true);
-        WebshopExchange exchange(m_ui, *m_ask);
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(start({"--generate", "30", "--login", "bolt", "--password", "titok"}));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(
             m_ui.lastMessage(),
             QString("20 orders downloaded. There can be downloadable orders on the server yet."));
         QCOMPARE(Downloaded(), QString("20 0000000020"));
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(m_ui.lastMessage(), QString("10 orders downloaded."));
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(m_ui.lastMessage(), QString("No new orders to download."));
         QCOMPARE(Downloaded(), QString("30 0000000030"));
         // Totals computed here: 100x1 + 200x2 + ... + 500x5 = 5500 net, 27% VAT.
         QCOMPARE(QueryText("select ORDERHEAD_TOTAL_NET, ORDERHEAD_TOTAL_GROSS from ORDERHEAD "
                            "where ORDERHEAD_CODE = 'G7'"),
                  QString("5500|6985"));
-        QVERIFY(exchange.download(WebshopDocument::Partners));
+        QVERIFY(m_exchange->download(WebshopDocument::Partners));
         QCOMPARE(m_ui.lastMessage(), QString("30 partners saved."));
-        QVERIFY(exchange.download(WebshopDocument::Products));
+        QVERIFY(m_exchange->download(WebshopDocument::Products));
         QCOMPARE(m_ui.lastMessage(), QString("30 products saved."));
         QCOMPARE(QueryText("select SETUP_DOWNLOAD_LAST_PARTNER_TIMESTAMP, "
                            "SETUP_DOWNLOAD_LAST_PRODUCT_TIMESTAMP from SETUP"),
@@ -161,12 +164,10 @@ private Q_SLOTS:
     void authenticationLoop()
     {
         auto [save, storedPassword] = Fetch<bool, QString>({"save", "storedPassword"});
-        Shop shop({"--generate", "3", "--login", "bolt", "--password", "titok"});
-        PointSettingsAt(shop, false);
-        const QString url = shop.url("order.php");
+        QVERIFY(start({"--generate", "3", "--login", "bolt", "--password", "titok"}, false));
+        const QString url = m_shop->url("order.php");
         m_ask->logins << LoginOf(url, "rossz", save) << LoginOf(url, "titok", save);
-        WebshopExchange exchange(m_ui, *m_ask);
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(m_ask->asked, QStringList({"Authenticate yourself to download orders from server.",
                                             "Wrong login name or password. Try again."}));
         QCOMPARE(Downloaded(), QString("3 0000000003"));
@@ -179,12 +180,10 @@ private Q_SLOTS:
 
     void refusedLoginUntilCancelled()
     {
-        Shop shop({"--generate", "3", "--fail", "401"});
-        PointSettingsAt(shop, true);
-        const QString url = shop.url("order.php");
+        QVERIFY(start({"--generate", "3", "--fail", "401"}));
+        const QString url = m_shop->url("order.php");
         m_ask->logins << LoginOf(url, "a", true) << LoginOf(url, "b", true);
-        WebshopExchange exchange(m_ui, *m_ask);
-        QVERIFY(!exchange.download(WebshopDocument::Orders));
+        QVERIFY(!m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(m_ask->asked, QStringList(3, "Wrong login name or password. Try again."));
         QCOMPARE(m_ui.lastMessage(), QString("Orders not downloaded"));
         QCOMPARE(Downloaded(), QString("0 "));
@@ -207,24 +206,20 @@ private Q_SLOTS:
     void faults()
     {
         auto [mode, message] = Fetch<QString, QString>({"mode", "message"});
-        Shop shop({"--generate", "200", "--fail", mode});
-        PointSettingsAt(shop, true, 100);
-        WebshopExchange exchange(m_ui, *m_ask);
-        exchange.setIdleTimeout(1000);
-        QVERIFY(!exchange.download(WebshopDocument::Orders));
+        QVERIFY(start({"--generate", "200", "--fail", mode}, true, 100));
+        m_exchange->setIdleTimeout(1000);
+        QVERIFY(!m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(m_ui.lastMessage(), QString("Orders not downloaded"));
         const QString shown = MessagePlainText(m_ui.messages.value(m_ui.messages.size() - 2).text);
         QVERIFY2(shown.startsWith(message), qPrintable(shown));
         QCOMPARE(Downloaded(), QString("0 "));
-        QCOMPARE(exchange.storedCount(), 0);
+        QCOMPARE(m_exchange->storedCount(), 0);
     }
 
     void hugeElementIsStreamed()
     {
-        Shop shop({"--generate", "5", "--fail", "huge"});
-        PointSettingsAt(shop, true);
-        WebshopExchange exchange(m_ui, *m_ask);
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(start({"--generate", "5", "--fail", "huge"}));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(Downloaded(), QString("5 0000000005"));
     }
 
@@ -232,13 +227,11 @@ private Q_SLOTS:
     {
         const QString dir = m_company->dir();
         QVERIFY(WriteFile(dir + "/partners.xml", "<PARTNERS/>"));
-        Shop shop({"--folder", dir});
-        PointSettingsAt(shop, true);
-        WebshopExchange exchange(m_ui, *m_ask);
-        QVERIFY(exchange.download(WebshopDocument::Partners));
+        QVERIFY(start({"--folder", dir}));
+        QVERIFY(m_exchange->download(WebshopDocument::Partners));
         QCOMPARE(m_ui.lastMessage(), QString("0 partners saved."));
         // No orders.xml: the shop answers with nothing at all... an empty ORDERS document.
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(m_ui.lastMessage(), QString("No new orders to download."));
     }
 
@@ -247,11 +240,9 @@ private Q_SLOTS:
         const QString dir = m_company->dir();
         QVERIFY(WriteFile(dir + "/orders.xml",
                           OrdersDoc({OrderXml("W1"), OrderXml("W2"), OrderXml("W3")})));
-        Shop shop({"--folder", dir});
-        PointSettingsAt(shop, true, 2);
+        QVERIFY(start({"--folder", dir}, true, 2));
         QVERIFY(Setup::write({{"SETUP_DOWNLOAD_LAST_ORDERHEAD_TIMESTAMP", "T-W1"}}));
-        WebshopExchange exchange(m_ui, *m_ask);
-        QVERIFY(exchange.download(WebshopDocument::Orders));
+        QVERIFY(m_exchange->download(WebshopDocument::Orders));
         QCOMPARE(QueryText("select ORDERHEAD_CODE from ORDERHEAD where ORDERHEAD_CODE like 'W%'"),
                  QString("W2; W3"));
         QCOMPARE(
@@ -260,9 +251,18 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
+    // The shop started with args, the settings pointing at it, and an exchange to download with.
+    bool start(const QStringList& args, bool savePassword = true, int maxOrders = 20)
+    {
+        const bool pointed = PointSettingsAt(m_shop.emplace(args), savePassword, maxOrders);
+        m_exchange.emplace(m_ui, *m_ask);
+        return pointed;
+    }
+
     ScriptedInteraction m_ui;
     std::optional<ScriptedWebshop> m_ask;
+    std::optional<Shop> m_shop;
+    std::optional<WebshopExchange> m_exchange;
 };
 
 QTEST_GUILESS_MAIN(TestWebshopExchange)
