@@ -1,7 +1,7 @@
 // tallynorth-cli driven as a script drives it on a new company: an invoice paid by cheque gets
 // its cheque at issue, printing all unprinted ones prints it once, the cheque template set is
 // told from an invoice set, and bad usage is refused without printing anything.
-#include "TestData.h"
+#include "OrdersTestData.h"
 
 #include <QtTest>
 
@@ -11,7 +11,7 @@ class TestCliCheques : public QObject
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_base.emplace().isValid());
+        QVERIFY(m_cli.emplace("minta.db").isValid());
         QCOMPARE(cli({"create", "Minta Kft", "--tax-no", "12345676-2-42", "--file", "minta.db"})
                      .exitCode,
                  0);
@@ -23,21 +23,17 @@ private Q_SLOTS:
 
     void issuedInvoiceChequePrintsOnce()
     {
-        ProcessRun run = cli({"order", "add", "--partner", "1", "--item", "1:3:1234.4", "--payment",
-                              "3", "--verified"});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(cli({"issue", run.out.trimmed()}).exitCode, 0);
-
-        run = cli({"cheques", "--partner", "teszt"});
-        QCOMPARE(run.exitCode, 0);
+        const QString order = m_cli->output({"order", "add", "--partner", "1", "--item",
+                                             "1:3:1234.4", "--payment", "3", "--verified"});
+        QCOMPARE(cli({"issue", order}).exitCode, 0);
         // 3 x 1234.4 x 1.27 = 4703.064 forints: 4703 on the cheque.
-        QVERIFY2(run.out.contains("\t000001\tTeszt Partner Kft\t4703\t\n"), qPrintable(run.out));
+        const QString list = cli({"cheques", "--partner", "teszt"}).out;
+        QVERIFY2(list.contains("\t000001\tTeszt Partner Kft\t4703\t\n"), qPrintable(list));
+        QCOMPARE(m_cli->output({"cheque", "print", "--all-unprinted", "--pdf", file("all.pdf")}),
+                 "Cheques printed: 1");
 
-        run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("all.pdf")});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out.trimmed(), QString("Cheques printed: 1"));
-
-        run = cli({"cheque", "print", "--all-unprinted", "--pdf", file("again.pdf")});
+        const ProcessRun run =
+            cli({"cheque", "print", "--all-unprinted", "--pdf", file("again.pdf")});
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.err.endsWith("There are no cheques to print\n"), qPrintable(run.err));
         QVERIFY(!QFile::exists(file("again.pdf")));
@@ -55,9 +51,7 @@ private Q_SLOTS:
     }
     void refusals()
     {
-        QFETCH(QStringList, args);
-        QFETCH(int, exit);
-        QFETCH(QString, message);
+        auto [args, exit, message] = Fetch<QStringList, int, QString>({"args", "exit", "message"});
         const ProcessRun run = cli(args);
         QCOMPARE(run.exitCode, exit);
         QVERIFY2(run.err.contains(message), qPrintable(run.err));
@@ -92,19 +86,12 @@ private Q_SLOTS:
     }
 
 private:
-    ProcessRun cli(const QStringList& args) const
-    {
-        QStringList all{"--base", m_base->path(), "--lang", "en"};
-        if (args.first() != "create" && !args.contains("--db"))
-            all << "--db" << db();
-        return RunProcess(TN_CLI, all + args, m_runtime.path());
-    }
-    QString stored(const QString& sql) const { return QueryTextIn(db(), sql); }
-    QString file(const QString& name) const { return m_base->path() + "/" + name; }
-    QString db() const { return m_base->path() + "/DB/minta.db"; }
+    ProcessRun cli(const QStringList& args) const { return m_cli->run(args); }
+    QString stored(const QString& sql) const { return m_cli->stored(sql); }
+    QString file(const QString& name) const { return m_cli->file(name); }
+    QString db() const { return m_cli->db(); }
 
-    std::optional<QTemporaryDir> m_base;
-    QTemporaryDir m_runtime;
+    std::optional<OrdersCli> m_cli;
 };
 
 QTEST_GUILESS_MAIN(TestCliCheques)

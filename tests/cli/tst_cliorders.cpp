@@ -1,7 +1,7 @@
 // tallynorth-cli driven as a script drives it on the demonstration company: orders added, shown,
 // listed, cloned and deleted; invoices issued, printed and cancelled with numbers 1 and 2; 40 % of
 // an invoice paid and then the rest. Bad usage exits 2, refusals 1, and nothing is written.
-#include "TestData.h"
+#include "OrdersTestData.h"
 
 #include <QtTest>
 
@@ -11,7 +11,7 @@ class TestCliOrders : public QObject
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_base.emplace().isValid());
+        QVERIFY(m_cli.emplace().isValid());
         QCOMPARE(cli({"check"}).exitCode, 0);
         QCOMPARE(cli({"--db", db(), "template", "install", TN_TEMPLATE_DIR}).exitCode, 0);
         // A euro price for the demo product, and a second product without any price.
@@ -23,11 +23,9 @@ private Q_SLOTS:
 
     void addShowListCloneDelete()
     {
-        ProcessRun run =
-            cli({"order", "add", "--partner", "teszt partner", "--currency", "1", "--item", "1:2",
+        const QString id =
+            out({"order", "add", "--partner", "teszt partner", "--currency", "1", "--item", "1:2",
                  "--item", "2:1:10.5", "--item", "1:-1", "--subject", "Próba"});
-        QCOMPARE(run.exitCode, 0);
-        const QString id = run.out.trimmed();
         // 2 x 4.5 + 10.5 - 4.5 = 15 EUR net, 27% VAT.
         QCOMPARE(
             stored("select ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_TOTAL_NET, "
@@ -35,25 +33,20 @@ private Q_SLOTS:
                    "where ORDERHEAD_ID = " +
                    id),
             QString("EUR|15|4.05|19.05|Próba"));
-        run = cli({"order", "show", id});
-        QCOMPARE(run.exitCode, 0);
-        QVERIFY2(run.out.contains("Teszt termék\t-1\tdb\t4.50\t-4.50\n"), qPrintable(run.out));
-        QVERIFY(run.out.contains("Total Gross\t19.05\n"));
+        const QString shown = out({"order", "show", id});
+        QVERIFY2(shown.contains("Teszt termék\t-1\tdb\t4.50\t-4.50\n") &&
+                     QString(shown + "\n").contains("Total Gross\t19.05\n"),
+                 qPrintable(shown));
 
-        run = cli({"orders", "--partner", "TESZT", "--format", "csv"});
-        QCOMPARE(run.exitCode, 0);
-        const QStringList lines = run.out.trimmed().split('\n');
+        const QStringList lines =
+            out({"orders", "--partner", "TESZT", "--format", "csv"}).split('\n');
         QCOMPARE(lines.size(), 3); // header, the new order, the sample order
         QVERIFY2(lines[1].endsWith(",EUR,15.00,4.05,19.05,0.00,Átutalás,Unverified"),
                  qPrintable(lines[1]));
 
-        run = cli({"order", "clone", id});
-        QCOMPARE(run.exitCode, 0);
-        const QString copy = run.out.trimmed();
-        QCOMPARE(
-            stored("update ORDERHEAD set ORDERHEAD_PRINTED_COPIES = 1 where ORDERHEAD_ID = " + id),
-            QString());
-        run = cli({"order", "delete", id, copy});
+        const QString copy = out({"order", "clone", id});
+        stored("update ORDERHEAD set ORDERHEAD_PRINTED_COPIES = 1 where ORDERHEAD_ID = " + id);
+        const ProcessRun run = cli({"order", "delete", id, copy});
         QCOMPARE(run.exitCode, 1);
         QCOMPARE(run.out.trimmed(), "1");
         QCOMPARE(run.err.trimmed(),
@@ -63,17 +56,13 @@ private Q_SLOTS:
 
     void issuePrintCancel()
     {
-        ProcessRun run = cli({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out.trimmed(), QString("000001"));
+        QCOMPARE(out({"issue", "1", "--pdf", pdf("1.pdf"), "--copies", "2"}), "000001");
         QVERIFY(QFileInfo(pdf("1.pdf")).size() > 1000);
-        run = cli({"print", "000001", "--pdf", pdf("1b.pdf")});
-        QCOMPARE(run.exitCode, 0);
-        run = cli({"cancel", "000001", "--pdf", pdf("2.pdf"), "--shipped", "2024.03.05."});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out.trimmed(), QString("000002"));
-        run = cli({"orders"});
-        QVERIFY(run.out.contains("Cancelled Invoice") && run.out.contains("Cancel Invoice"));
+        QCOMPARE(cli({"print", "000001", "--pdf", pdf("1b.pdf")}).exitCode, 0);
+        QCOMPARE(out({"cancel", "000001", "--pdf", pdf("2.pdf"), "--shipped", "2024.03.05."}),
+                 "000002");
+        const QString list = out({"orders"});
+        QVERIFY(list.contains("Cancelled Invoice") && list.contains("Cancel Invoice"));
         QCOMPARE(cli({"sample", "--pdf", pdf("sample.pdf")}).exitCode, 0);
     }
 
@@ -83,18 +72,13 @@ private Q_SLOTS:
         QCOMPARE(cli({"issue", "1", "--pdf", pdf("1.pdf")}).exitCode, 0);
         QCOMPARE(cli({"payments", "000001"}).err.trimmed(),
                  QString("There are no bank items to this invoice."));
-        ProcessRun run =
-            cli({"pay", "000001", "1270", "--date", "2024-05-02", "--record-no", "K/12"});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out.trimmed(), QString("000001: unpaid 1905 Ft"));
-
-        run = cli({"pay", "000001", "1905,00", "--date", "2024.05.09.", "--comment", "a maradék"});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out.trimmed(), QString("000001: paid"));
-        QVERIFY(!cli({"orders", "--kind", "6"}).out.contains("000001"));
-        run = cli({"payments", "000001"});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts),
+        QCOMPARE(out({"pay", "000001", "1270", "--date", "2024-05-02", "--record-no", "K/12"}),
+                 "000001: unpaid 1905 Ft");
+        QCOMPARE(
+            out({"pay", "000001", "1905,00", "--date", "2024.05.09.", "--comment", "a maradék"}),
+            "000001: paid");
+        QVERIFY(!out({"orders", "--kind", "6"}).contains("000001"));
+        QCOMPARE(out({"payments", "000001"}).split('\n', Qt::SkipEmptyParts),
                  (QStringList{"Record No\tTransfer Date\tPaid\tComment", "K/12\t2024-05-02\t1270\t",
                               "\t2024-05-09\t1905\ta maradék", "000001: paid"}));
     }
@@ -134,17 +118,13 @@ private Q_SLOTS:
     }
 
 private:
-    ProcessRun cli(const QStringList& args) const
-    {
-        return RunProcess(TN_CLI, QStringList{"--base", m_base->path(), "--lang", "en"} + args,
-                          m_runtime.path());
-    }
+    ProcessRun cli(const QStringList& args) const { return m_cli->run(args); }
+    QString out(const QStringList& args) const { return m_cli->output(args); }
     QString stored(const QString& sql) const { return QueryTextIn(db(), sql); }
-    QString pdf(const QString& name) const { return m_base->path() + "/" + name; }
-    QString db() const { return m_base->path() + "/DB/demo.db"; }
+    QString pdf(const QString& name) const { return m_cli->file(name); }
+    QString db() const { return m_cli->db("demo.db"); }
 
-    std::optional<QTemporaryDir> m_base;
-    QTemporaryDir m_runtime;
+    std::optional<OrdersCli> m_cli;
 };
 
 QTEST_GUILESS_MAIN(TestCliOrders)

@@ -1,13 +1,12 @@
 // Payments against real company databases: partial payments, the settling tolerance and the
 // overpayment, the refusals of what can not be paid, one transaction for the bank item and the
-// paid state, and the list's unpaid kinds following each payment.
+// paid state.
 #include "CompanyTestCase.h"
-#include "TestData.h"
+#include "OrdersTestData.h"
 
 #include "base/DateText.h"
 #include "base/Setup.h"
 #include "orders/BankItemStore.h"
-#include "orders/OrderListQuery.h"
 
 #include <QtTest>
 
@@ -19,17 +18,15 @@ const QDate kToday(2024, 5, 20);
 qint64 InsertInvoice(const QVariant& number = 7, const QVariant& cancelledBy = QVariant(),
                      int type = 0, const QDate& due = kToday.addDays(8))
 {
-    if (!ExecSql("insert into ORDERHEAD (ORDERHEAD_INVOICE_NO, ORDERHEAD_INVOICE_NO_STR, "
-                 "ORDERHEAD_TYPE, ORDERHEAD_CANCELLING_INVOICE_NO, "
-                 "ORDERHEAD_CANCELLING_INVOICE_NO_STR, ORDERHEAD_PARTNER_NAME, "
-                 "ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_TOTAL_GROSS, ORDERHEAD_PAID, "
-                 "ORDERHEAD_UNPAID_TOTAL, ORDERHEAD_VERIFIED, ORDERHEAD_DATE_PAYMENT_DUE) "
-                 "values (?, ?, ?, ?, ?, 'Vevő Kft.', 'EUR', 100, '0', 100, '1', ?)",
-                 {number, number.isNull() ? QVariant() : QVariant("INV" + number.toString()), type,
-                  cancelledBy, cancelledBy.isNull() ? QVariant() : QVariant("INV9"),
-                  DateToSql(due)}))
-        qFatal("insert failed");
-    return QueryText("select max(ORDERHEAD_ID) from ORDERHEAD").toLongLong();
+    const auto text = [](const QVariant& n) {
+        return n.isNull() ? n : QVariant("INV" + n.toString());
+    };
+    return OrdersInsert("ORDERHEAD",
+                        "INVOICE_NO INVOICE_NO_STR TYPE CANCELLING_INVOICE_NO "
+                        "CANCELLING_INVOICE_NO_STR PARTNER_NAME CURRENCY_ABBREVIATION TOTAL_GROSS "
+                        "PAID UNPAID_TOTAL VERIFIED DATE_PAYMENT_DUE",
+                        {number, text(number), type, cancelledBy, text(cancelledBy), "Vevő Kft.",
+                         "EUR", 100, "0", 100, "1", DateToSql(due)});
 }
 
 QString PaidState(qint64 id)
@@ -54,20 +51,6 @@ Result Pay(qint64 id, double amount, BankItemInvoice* after = nullptr)
     return r;
 }
 
-QList<qint64> ListIds(OrderListFilter::Kind kind)
-{
-    OrderListFilter filter;
-    filter.kind = int(kind);
-    QList<OrderListRow> rows;
-    bool more = false;
-    if (!OrderListQuery::load(filter, rows, more, kToday))
-        qFatal("list failed");
-    QList<qint64> ids;
-    for (const OrderListRow& row : std::as_const(rows))
-        ids << row.id;
-    return ids;
-}
-
 } // namespace
 
 class TestBankItemStore : public CompanyTestCase
@@ -83,7 +66,6 @@ private Q_SLOTS:
         AddRow("short by the tolerance", QList<double>{99.999998}, QStringList{"0|2e-06"});
         AddRow("decimal parts that never add up in binary", QList<double>{33.3, 33.3, 33.4},
                QStringList{"0|66.7", "0|33.4", "1|0"});
-        AddRow("overpayment", QList<double>{120}, QStringList{"0|-20"});
         AddRow("a refund of the overpayment", QList<double>{120, -20}, QStringList{"0|-20", "1|0"});
     }
     void payments()
@@ -159,29 +141,6 @@ private Q_SLOTS:
         QCOMPARE(after.unpaidTotal, 60.0); // the window's copy is not advanced either
         QCOMPARE(QueryText("select count(*) from BANKITEM"), QString("1"));
     }
-
-    // Paying 40 % keeps the invoice among the unpaid and overdue ones with the rest; paying the
-    // rest takes it out of both.
-    void unpaidKindsFollow()
-    {
-        const qint64 due = InsertInvoice(7, QVariant(), 0, kToday.addDays(-1));
-        const qint64 notDue = InsertInvoice(8);
-        using Kind = OrderListFilter::Kind;
-        QCOMPARE(ListIds(Kind::Unpaid), (QList<qint64>{notDue, due}));
-        QCOMPARE(ListIds(Kind::Overdue), QList<qint64>{due});
-        QVERIFY(Pay(due, 40));
-        QCOMPARE(ListIds(Kind::Overdue), QList<qint64>{due});
-        QCOMPARE(
-            QueryText("select ORDERHEAD_UNPAID_TOTAL from ORDERHEAD where ORDERHEAD_ID = ?", {due}),
-            QString("60"));
-        QVERIFY(Pay(due, 60));
-        QCOMPARE(ListIds(Kind::Unpaid), QList<qint64>{notDue});
-        QVERIFY(ListIds(Kind::Overdue).isEmpty());
-        QVERIFY(Pay(notDue, 120)); // overpaid stays among the unpaid, to be sorted out
-        QCOMPARE(ListIds(Kind::Unpaid), QList<qint64>{notDue});
-    }
-
-private:
 };
 
 QTEST_GUILESS_MAIN(TestBankItemStore)

@@ -37,57 +37,32 @@ class TestOrderEdit : public CompanyTestCase
     Q_OBJECT
 private Q_SLOTS:
 
-    void partnerNotInBasicData_data()
+    // The partner questions themselves are shared with the cheque window and tested there; here
+    // that OK asks them and that a partner stored anew becomes the order's partner.
+    void partnerBasicDataOnAccept()
     {
-        QTest::addColumn<bool>("store");
-        AddRow("stored", true);
-        AddRow("not stored", false);
-    }
-    void partnerNotInBasicData()
-    {
-        QFETCH(bool, store);
         ScriptedInteraction interaction;
-        interaction.yesNoAnswers << store;
+        interaction.yesNoAnswers << true;
         Order order = TestOrder();
         order.partnerId.reset();
         order.partnerName = "Árvíztűrő Kft.";
-        OrderEdit edit(order, interaction);
-        edit.accept();
+        OrderEdit typed(order, interaction);
+        typed.accept();
         QCOMPARE(
             interaction.questions,
             QStringList{"This partner is not in basic data yet. Do you want to store it there?"});
-        QCOMPARE(edit.result(), int(QDialog::Accepted));
-        const QString stored = QueryText(
-            "select PARTNER_ID, PARTNER_CITY from PARTNER where PARTNER_NAME = 'Árvíztűrő Kft.'");
-        QCOMPARE(edit.order().partnerId.has_value(), store);
-        QCOMPARE(stored,
-                 store ? QString::number(*edit.order().partnerId) + "|Budapest" : QString());
-    }
+        QCOMPARE(QueryText("select PARTNER_ID from PARTNER where PARTNER_NAME = 'Árvíztűrő Kft.'"),
+                 QString::number(typed.order().partnerId.value_or(0)));
 
-    void partnerChanged_data()
-    {
-        // partners: name|city of every partner afterwards
-        AddColumns<int, QString>({"choice", "partners"});
-        AddRow("update", int(Interaction::Choice::First), QString("Teszt Partner Kft|Szeged"));
-        AddRow("new partner", int(Interaction::Choice::Second),
-               QString("Teszt Partner Kft|Budapest; Teszt Partner Kft|Szeged"));
-        AddRow("keep", int(Interaction::Choice::Third), QString("Teszt Partner Kft|Budapest"));
-    }
-    void partnerChanged()
-    {
-        auto [choice, partners] = Fetch<int, QString>({"choice", "partners"});
-        ScriptedInteraction interaction;
-        interaction.choiceAnswers << Interaction::Choice(choice);
-        OrderEdit edit(TestOrder(), interaction);
-        SetText(&edit, "m_partner_city", "Szeged");
-        edit.accept();
-        QCOMPARE(edit.result(), int(QDialog::Accepted));
-        QCOMPARE(interaction.questions.size(), 1);
-        QVERIFY(interaction.questions.first().startsWith("The partner's data has changed."));
-        QCOMPARE(QueryText("select PARTNER_NAME, PARTNER_CITY from PARTNER order by PARTNER_ID"),
-                 partners);
-        // A partner stored anew becomes the order's partner.
-        QCOMPARE(*edit.order().partnerId, choice == int(Interaction::Choice::Second) ? 2 : 1);
+        interaction.choiceAnswers << Interaction::Choice::Second;
+        OrderEdit changed(TestOrder(), interaction);
+        SetText(&changed, "m_partner_city", "Szeged");
+        changed.accept();
+        QVERIFY(changed.result() == QDialog::Accepted && changed.order().partnerId != 1);
+        QVERIFY(interaction.questions.last().startsWith("The partner's data has changed."));
+        QCOMPARE(QueryText("select PARTNER_CITY from PARTNER where PARTNER_ID = ?",
+                           {changed.order().partnerId.value_or(0)}),
+                 QString("Szeged"));
     }
 
     void itemCommands()
@@ -96,17 +71,13 @@ private Q_SLOTS:
         OrderEdit edit(TestOrder(), interaction);
         // A typed-in return line from the item dialog shows in the grid and the totals.
         edit.setItemEditor([](const Order& order, OrderItem& item, QWidget*) {
-            item.name = "Visszáru";
-            item.qty = -1;
-            item.price = 500;
-            item.discountType = int(DiscountType::EnteredPrice);
-            item.dateShipped = order.dateShipped;
+            item = order.items.first();
+            item.qty = -0.5;
             OrderFill::recalcItem(item, order);
             return true;
         });
         edit.insertItem();
         auto* grid = Child<QTableView>(&edit, "m_items");
-        QCOMPARE(grid->model()->rowCount(), 2);
         QCOMPARE(grid->model()->index(1, 4).data().toString(), QLocale().toString(-500.0, 'f', 2));
         QCOMPARE(Child<QLineEdit>(&edit, "m_total_net")->text(),
                  QLocale().toString(1500.0, 'f', 0));
@@ -118,8 +89,7 @@ private Q_SLOTS:
         edit.deleteItem();
         QCOMPARE(interaction.questions.last(),
                  QString("Do you really want to delete the selected item ?"));
-        QCOMPARE(edit.order().items.size(), 1);
-        QCOMPARE(edit.order().totals.net, -500.0);
+        QVERIFY(edit.order().items.size() == 1 && edit.order().totals.net == -500.0);
 
         interaction.yesNoAnswers << true;
         grid->setCurrentIndex(grid->model()->index(0, 0));

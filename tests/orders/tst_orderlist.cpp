@@ -1,8 +1,8 @@
 // The "Orders/Invoices" tab on the offscreen platform against a real company: sorting, the
 // refusal to print unverified orders and the refusals of cancelling.
 #include "CompanyTestCase.h"
+#include "OrdersTestData.h"
 #include "ScriptedInteraction.h"
-#include "TestData.h"
 
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
@@ -21,20 +21,14 @@ using Column = OrderListModel::Column;
 // code, copies, verified, invoice no, number text, type, cancelling no, its text, cancelled no
 qint64 InsertOrder(const QString& code, const QVariantList& values, double gross = 1270.0)
 {
-    const QString sql = QStringLiteral(
-        "insert into ORDERHEAD (ORDERHEAD_CODE, ORDERHEAD_PRINTED_COPIES, ORDERHEAD_VERIFIED, "
-        "ORDERHEAD_INVOICE_NO, ORDERHEAD_INVOICE_NO_STR, ORDERHEAD_TYPE, "
-        "ORDERHEAD_CANCELLING_INVOICE_NO, ORDERHEAD_CANCELLING_INVOICE_NO_STR, "
-        "ORDERHEAD_CANCELLED_INVOICE_NO, ORDERHEAD_PARTNER_NAME, ORDERHEAD_PARTNER_NAME_ASCII, "
-        "ORDERHEAD_DATE_SHIPPED, ORDERHEAD_CURRENCY_ABBREVIATION, ORDERHEAD_TOTAL_NET, "
-        "ORDERHEAD_TOTAL_VAT, ORDERHEAD_TOTAL_GROSS, "
-        "ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS) "
-        "values (?, ?, ?, ?, ?, ?, ?, ?, ?, 'Árvíztűrő Kft.', 'ARVIZTURO KFT.', '2024-05-10', "
-        "'EUR', ?, ?, ?, 2)");
-    if (!ExecSql(sql, QVariantList{code} + values +
-                          QVariantList{gross / 1.27, gross - gross / 1.27, gross}))
-        qFatal("insert failed");
-    return QueryText("select max(ORDERHEAD_ID) from ORDERHEAD").toLongLong();
+    return OrdersInsert("ORDERHEAD",
+                        "CODE PRINTED_COPIES VERIFIED INVOICE_NO INVOICE_NO_STR TYPE "
+                        "CANCELLING_INVOICE_NO CANCELLING_INVOICE_NO_STR CANCELLED_INVOICE_NO "
+                        "PARTNER_NAME DATE_SHIPPED CURRENCY_ABBREVIATION TOTAL_NET TOTAL_VAT "
+                        "TOTAL_GROSS CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS",
+                        QVariantList{code} + values +
+                            QVariantList{"Árvíztűrő Kft.", "2024-05-10", "EUR", gross / 1.27,
+                                         gross - gross / 1.27, gross, 2});
 }
 
 const QVariant null;
