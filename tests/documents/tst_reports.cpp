@@ -88,35 +88,20 @@ QList<QStringList> ParseCsv(QByteArray data)
 {
     if (data.startsWith("\xEF\xBB\xBF"))
         data.remove(0, 3);
+    static const QRegularExpression cell(u"\"((?:[^\"]|\"\")*)\"|([^;\"\r]*)"_s);
     const QString text = QString::fromUtf8(data);
-    QList<QStringList> lines;
-    QStringList cells;
-    QString cell;
-    bool quoted = false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar ch = text.at(i);
-        if (quoted) {
-            if (ch == u'"' && i + 1 < text.size() && text.at(i + 1) == u'"')
-                cell += text.at(++i);
-            else if (ch == u'"')
-                quoted = false;
-            else
-                cell += ch;
-        } else if (ch == u'"') {
-            quoted = true;
-        } else if (ch == u';') {
-            cells << cell;
-            cell.clear();
-        } else if (ch == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n') {
-            cells << cell;
-            lines << cells;
-            cells.clear();
-            cell.clear();
-            ++i;
-        } else {
-            cell += ch;
-        }
+    QList<QStringList> lines{{}};
+    for (qsizetype at = 0; at < text.size();) {
+        const QRegularExpressionMatch m = cell.match(text, at, QRegularExpression::NormalMatch,
+                                                     QRegularExpression::AnchorAtOffsetMatchOption);
+        lines.last() << (m.hasCaptured(1) ? m.captured(1).replace(u"\"\""_s, u"\""_s)
+                                          : m.captured(2));
+        at = m.capturedEnd();
+        if (text.mid(at, 2) == u"\r\n"_s)
+            lines << QStringList();
+        at += text.mid(at, 2) == u"\r\n"_s ? 2 : 1; // the line end or the ";"
     }
+    lines.removeLast();
     return lines;
 }
 
