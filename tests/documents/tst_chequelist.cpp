@@ -26,6 +26,8 @@
 #include <QTableView>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 qint64 AddCheque(const QString& name, double amount, bool printed)
@@ -115,11 +117,9 @@ private Q_SLOTS:
     }
     void deleteKeepsPrintedOnes()
     {
-        QFETCH(QList<int>, rows);
-        QFETCH(bool, answer);
-        QFETCH(QString, question);
-        QFETCH(QStringList, left);
-        QFETCH(int, messages);
+        auto [rows, answer, question, left, messages] =
+            Fetch<QList<int>, bool, QString, QStringList, int>(
+                {"rows", "answer", "question", "left", "messages"});
         for (int row : rows)
             m_list->view()->selectionModel()->select(m_list->model()->index(row, 1),
                                                      QItemSelectionModel::Select |
@@ -146,20 +146,20 @@ private Q_SLOTS:
     {
         AddColumns<QString, bool, QString, QString, QString>(
             {"amount", "store", "message", "stored", "partners"});
-        AddRow("stored in basic data", QString("1 234,5"), true, QString(),
-               QString("Új Fizető|1235|1"), QString("2"));
-        AddRow("kept on the cheque only", QString("99"), false, QString(),
-               QString("Új Fizető|99|0"), QString("1"));
-        AddRow("no amount", QString(""), true, QString("Az osszeget meg kell adnia."), QString(),
-               QString("1"));
+        const auto row = [](const char* name, const char* amount, bool store, const char* message,
+                            const char* stored, const char* partners) {
+            AddRow(name, QString(amount), store, QString(message), QString(stored),
+                   QString(partners));
+        };
+        row("stored in basic data", "1 234,5", true, "", "Új Fizető|1235|1", "2");
+        row("kept on the cheque only", "99", false, "", "Új Fizető|99|0", "1");
+        row("no amount", "", true, "Az osszeget meg kell adnia.", "", "1");
     }
     void editSavesNewPayerOnAnswer()
     {
-        QFETCH(QString, amount);
-        QFETCH(bool, store);
-        QFETCH(QString, message);
-        QFETCH(QString, stored);
-        QFETCH(QString, partners);
+        auto [amount, store, message, stored, partners] =
+            Fetch<QString, bool, QString, QString, QString>(
+                {"amount", "store", "message", "stored", "partners"});
         QVERIFY(ExecSql("delete from CHEQUE"));
         ChequeEdit edit;
         edit.setInteraction(&m_ask);
@@ -188,16 +188,14 @@ private Q_SLOTS:
     void changedKnownPayer_data()
     {
         AddColumns<int, QString, QString>({"choice", "partners", "cheque"});
-        AddRow("update the partner", 0, QString("1|Teszt Partner Kft|Győr"), QString("1|Győr"));
-        AddRow("create a new one", 1, QString("2|Teszt Partner Kft|Budapest"), QString("2|Győr"));
-        AddRow("leave the basic data", 2, QString("1|Teszt Partner Kft|Budapest"),
-               QString("1|Győr"));
+        AddRow("update the partner", 0, u"1|Teszt Partner Kft|Győr"_s, u"1|Győr"_s);
+        AddRow("create a new one", 1, u"2|Teszt Partner Kft|Budapest"_s, u"2|Győr"_s);
+        AddRow("leave the basic data", 2, u"1|Teszt Partner Kft|Budapest"_s, u"1|Győr"_s);
     }
     void changedKnownPayer()
     {
-        QFETCH(int, choice);
-        QFETCH(QString, partners);
-        QFETCH(QString, cheque);
+        auto [choice, partners, cheque] =
+            Fetch<int, QString, QString>({"choice", "partners", "cheque"});
         Cheque c;
         c.partnerId = 1;
         c.partnerName = "Teszt Partner Kft";

@@ -41,11 +41,6 @@ qint64 NewCheque(const QString& name, double amount, bool printed = false)
     return c.id;
 }
 
-qint64 NewOrder(qint64 method)
-{
-    return SavedTestOrder(3, kToday, method);
-}
-
 // The pixel box of the ink on the first page, rendered at 50 dpi.
 QRect InkBox(const QString& pdf)
 {
@@ -73,6 +68,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_company.emplace().isValid());
         QVERIFY(Setup::current().load());
+        m_ask = ScriptedInteraction();
         ChequeTemplate installed;
         QVERIFY(ChequeTemplates::install(kShippedChequeTemplateDir, installed));
         QVERIFY(installed.certified());
@@ -103,21 +99,15 @@ private Q_SLOTS:
         NewCheque(QStringLiteral("A"), 100);
         NewCheque(QStringLiteral("B"), 200, true);
         NewCheque(QStringLiteral("C"), 300);
-        ScriptedInteraction interaction;
-        PdfInvoiceOutput output(m_company->dir() + "/first.pdf");
         int printed = -1;
-        QVERIFY(ChequePrinting::print(ChequePrintMode::AllUnprinted, {}, output, interaction,
-                                      kToday, printed));
+        QVERIFY(print(ChequePrintMode::AllUnprinted, {}, "first.pdf", printed));
         QCOMPARE(printed, 2);
         QCOMPARE(QueryText("select count(*) from CHEQUE where CHEQUE_PRINTED = '1' and "
                            "CHEQUE_DATE_PRINTED = '2024-03-05'"),
                  QString("3"));
-        QVERIFY(interaction.progressTexts.contains("Csekkek nyomtatasa - Vantrell Szamlazo"));
+        QVERIFY(m_ask.progressTexts.contains("Csekkek nyomtatasa - Vantrell Szamlazo"));
 
-        PdfInvoiceOutput second(m_company->dir() + "/second.pdf");
-        const Result r = ChequePrinting::print(ChequePrintMode::AllUnprinted, {}, second,
-                                               interaction, kToday, printed);
-        QVERIFY(!r);
+        const Result r = print(ChequePrintMode::AllUnprinted, {}, "second.pdf", printed);
         QCOMPARE(r.message(), QString("Nincsenek nyomtatando csekkek"));
         QCOMPARE(printed, 0);
         QVERIFY(!QFile::exists(m_company->dir() + "/second.pdf"));
@@ -127,11 +117,9 @@ private Q_SLOTS:
     {
         const qint64 printed = NewCheque(QStringLiteral("A"), 100, true);
         NewCheque(QStringLiteral("B"), 200);
-        ScriptedInteraction interaction;
-        PdfInvoiceOutput output(m_company->dir() + "/again.pdf");
         int count = 0;
-        QVERIFY(ChequePrinting::print(ChequePrintMode::SelectedOnly, {printed}, output, interaction,
-                                      kToday.addDays(1), count));
+        QVERIFY(
+            print(ChequePrintMode::SelectedOnly, {printed}, "again.pdf", count, kToday.addDays(1)));
         QCOMPARE(count, 1);
         QCOMPARE(QueryText("select CHEQUE_PRINTED || ' ' || coalesce(CHEQUE_DATE_PRINTED, '-') "
                            "from CHEQUE order by CHEQUE_ID"),
@@ -143,17 +131,14 @@ private Q_SLOTS:
         if (QStandardPaths::findExecutable("pdftoppm").isEmpty())
             QSKIP("poppler-utils not installed");
         const qint64 id = NewCheque(QStringLiteral("Payer"), 12345);
-        const auto print = [&](double left, double top, const QString& name) {
+        const auto printAt = [&](double left, double top, const QString& name) {
             QVERIFY(Setup::write(
                 {{"SETUP_CHEQUE_MARGIN_LEFT_MM", left}, {"SETUP_CHEQUE_MARGIN_TOP_MM", top}}));
-            ScriptedInteraction interaction;
-            PdfInvoiceOutput output(m_company->dir() + "/" + name);
             int count = 0;
-            QVERIFY(ChequePrinting::print(ChequePrintMode::SelectedOnly, {id}, output, interaction,
-                                          kToday, count));
+            QVERIFY(print(ChequePrintMode::SelectedOnly, {id}, name, count));
         };
-        print(0, 0, "plain.pdf");
-        print(10, 5, "shifted.pdf");
+        printAt(0, 0, "plain.pdf");
+        printAt(10, 5, "shifted.pdf");
         // 200 mm x 90 mm: 4724 x 2125 dots of 1/600 inch are 566.88 x 255 points.
         const QByteArray pdf = FileBytes(m_company->dir() + "/plain.pdf");
         const QRegularExpression mediaBox(
@@ -199,22 +184,26 @@ private Q_SLOTS:
     void wholeForints_data()
     {
         AddColumns<QString, QString, QString>({"typed", "stored", "message"});
-        AddRow("whole", QString("12345"), QString("12345"), QString());
-        AddRow("half rounds up", QString("1234,50"), QString("1235"), QString());
-        AddRow("below half rounds down", QString("1234.49"), QString("1234"), QString());
-        AddRow("grouped", QString("1 234 567,5"), QString("1234568"), QString());
-        AddRow("empty", QString(""), QString(), QString("Az osszeget meg kell adnia."));
-        AddRow("letters", QString("tíz"), QString(),
-               QString("\"tíz\" is not an amount. Type digits, with a decimal comma or point."));
-        AddRow("fillér only", QString("0,4"), QString(), QString("Az osszeget meg kell adnia."));
-        AddRow("negative", QString("-5"), QString(), QString("A csekk osszege nem lehet negativ."));
-        AddRow("10^12", QString("1000000000000"), QString(), QString("A csekk osszege tul nagy."));
+        const auto row = [](const char* name, const char* typed, const char* stored,
+                            const char* message) {
+            AddRow(name, QString(typed), QString(stored), QString(message));
+        };
+        const char* missing = "Az osszeget meg kell adnia.";
+        row("whole", "12345", "12345", "");
+        row("half rounds up", "1234,50", "1235", "");
+        row("below half rounds down", "1234.49", "1234", "");
+        row("grouped", "1 234 567,5", "1234568", "");
+        row("empty", "", "", missing);
+        row("letters", "tíz", "",
+            "\"tíz\" is not an amount. Type digits, with a decimal comma or point.");
+        row("fillér only", "0,4", "", missing);
+        row("negative", "-5", "", "A csekk osszege nem lehet negativ.");
+        row("10^12", "1000000000000", "", "A csekk osszege tul nagy.");
     }
     void wholeForints()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, stored);
-        QFETCH(QString, message);
+        auto [typed, stored, message] =
+            Fetch<QString, QString, QString>({"typed", "stored", "message"});
         Cheque c;
         c.partnerName = QStringLiteral("Payer");
         Result r = ChequeStore::parseAmount(typed, c.amount);
@@ -228,11 +217,8 @@ private Q_SLOTS:
     {
         const qint64 id = NewCheque(QStringLiteral("Payer"), 100);
         QVERIFY(Setup::write({{"SETUP_CHEQUE_QTF", QVariant()}}));
-        ScriptedInteraction interaction;
-        PdfInvoiceOutput output(m_company->dir() + "/none.pdf");
         int printed = 0;
-        const Result r = ChequePrinting::print(ChequePrintMode::SelectedOnly, {id}, output,
-                                               interaction, kToday, printed);
+        const Result r = print(ChequePrintMode::SelectedOnly, {id}, "none.pdf", printed);
         QCOMPARE(r.message(), QString("Select a cheque template in Setup."));
         QCOMPARE(QueryText("select CHEQUE_PRINTED from CHEQUE"), QString("0"));
 
@@ -256,13 +242,11 @@ private Q_SLOTS:
     }
     void chequeMadeAtIssue()
     {
-        QFETCH(qint64, method);
-        QFETCH(bool, flag);
-        QFETCH(QString, cheques);
+        auto [method, flag, cheques] = Fetch<qint64, bool, QString>({"method", "flag", "cheques"});
         QVERIFY(ExecSql("update PAYMENTMETHOD set PAYMENTMETHOD_CHEQUE = ? where "
                         "PAYMENTMETHOD_ID = ?",
                         {flag ? "1" : "0", method}));
-        const qint64 order = NewOrder(method);
+        const qint64 order = SavedTestOrder(3, kToday, method);
         QVERIFY(ExecSql("update ORDERHEAD set ORDERHEAD_DATE_PAYMENT_DUE = '2024-03-13'"));
         QVERIFY(IssueTestOrder(order, kToday));
         QCOMPARE(QueryText("select CHEQUE_INVOICE_NO_STR || '|' || CHEQUE_PARTNER_NAME || '|' || "
@@ -274,7 +258,7 @@ private Q_SLOTS:
     void failedIssueLeavesNoCheque()
     {
         QVERIFY(ExecSql("update PAYMENTMETHOD set PAYMENTMETHOD_CHEQUE = '1'"));
-        const qint64 order = NewOrder(2);
+        const qint64 order = SavedTestOrder(3, kToday, 2);
         // The cheque of this order already exists: the unique index fails the cheque, and
         // with it the whole issue.
         QVERIFY(ExecSql("insert into CHEQUE (CHEQUE_ORDERHEAD_ID, CHEQUE_AMOUNT) values (?, 1)",
@@ -300,8 +284,8 @@ private Q_SLOTS:
 
     void chequesOfSelectedInvoices()
     {
-        const qint64 issued = NewOrder(2);
-        const qint64 open = NewOrder(2);
+        const qint64 issued = SavedTestOrder(3, kToday, 2);
+        const qint64 open = SavedTestOrder(3, kToday, 2);
         QVERIFY(IssueTestOrder(issued, kToday));
         QList<qint64> ids;
         // An order without a number has no cheque to print, and none is made for the others.
@@ -318,7 +302,16 @@ private Q_SLOTS:
     }
 
 private:
+    // Prints into a PDF of that name in the company's folder.
+    Result print(ChequePrintMode mode, const QList<qint64>& ids, const QString& file, int& count,
+                 QDate day = kToday)
+    {
+        PdfInvoiceOutput output(m_company->dir() + "/" + file);
+        return ChequePrinting::print(mode, ids, output, m_ask, day, count);
+    }
+
     std::optional<TestCompany> m_company;
+    ScriptedInteraction m_ask;
 };
 
 QTEST_MAIN(TestCheques)

@@ -194,9 +194,8 @@ private Q_SLOTS:
         for (const QString& sql : change.split("; "))
             QVERIFY(ExecSql(sql));
         if (change.contains("recompute")) {
-            InvoiceTemplate t = LoadTemplateFromSetup(Setup::current());
             QVERIFY(Setup::current().load());
-            t = LoadTemplateFromSetup();
+            InvoiceTemplate t = LoadTemplateFromSetup();
             t.setDigest(t.computeDigest());
             QVERIFY(SaveTemplateToSetup(t));
         }

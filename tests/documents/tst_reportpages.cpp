@@ -9,7 +9,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QPainterPath>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -52,11 +51,6 @@ public:
     {
         for (int i = 0; i < count; ++i)
             fill(rects[i]);
-    }
-    void drawPath(const QPainterPath& path) override { fill(path.boundingRect()); }
-    void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override
-    {
-        fill(QPolygonF(QList<QPointF>(points, points + count)).boundingRect());
     }
     void drawLines(const QLineF* lines, int count) override
     {

@@ -51,9 +51,8 @@ ReportFilter Dated(ReportDate type, const char* from, const char* to,
     return f;
 }
 
-ReportFilter Partner(qint64 id, const QString& text)
+ReportFilter Partner(qint64 id, const QString& text, ReportFilter f = {})
 {
-    ReportFilter f;
     f.byPartner = true;
     f.partnerId = id;
     f.partnerText = text;
@@ -89,35 +88,20 @@ QList<QStringList> ParseCsv(QByteArray data)
 {
     if (data.startsWith("\xEF\xBB\xBF"))
         data.remove(0, 3);
+    static const QRegularExpression cell(u"\"((?:[^\"]|\"\")*)\"|([^;\"\r]*)"_s);
     const QString text = QString::fromUtf8(data);
-    QList<QStringList> lines;
-    QStringList cells;
-    QString cell;
-    bool quoted = false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar ch = text.at(i);
-        if (quoted) {
-            if (ch == u'"' && i + 1 < text.size() && text.at(i + 1) == u'"')
-                cell += text.at(++i);
-            else if (ch == u'"')
-                quoted = false;
-            else
-                cell += ch;
-        } else if (ch == u'"') {
-            quoted = true;
-        } else if (ch == u';') {
-            cells << cell;
-            cell.clear();
-        } else if (ch == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n') {
-            cells << cell;
-            lines << cells;
-            cells.clear();
-            cell.clear();
-            ++i;
-        } else {
-            cell += ch;
-        }
+    QList<QStringList> lines{{}};
+    for (qsizetype at = 0; at < text.size();) {
+        const QRegularExpressionMatch m = cell.match(text, at, QRegularExpression::NormalMatch,
+                                                     QRegularExpression::AnchorAtOffsetMatchOption);
+        lines.last() << (m.hasCaptured(1) ? m.captured(1).replace(u"\"\""_s, u"\""_s)
+                                          : m.captured(2));
+        at = m.capturedEnd();
+        if (text.mid(at, 2) == u"\r\n"_s)
+            lines << QStringList();
+        at += text.mid(at, 2) == u"\r\n"_s ? 2 : 1; // the line end or the ";"
     }
+    lines.removeLast();
     return lines;
 }
 
@@ -317,10 +301,8 @@ private Q_SLOTS:
 
     void printedForm()
     {
-        ReportFilter filter = Dated(ReportDate::Shipped, "2024-03-01", "2024-03-31");
-        filter.byPartner = true;
-        filter.partnerId = 1;
-        filter.partnerText = u"Alfa Zrt."_s;
+        const ReportFilter filter =
+            Partner(1, u"Alfa Zrt."_s, Dated(ReportDate::Shipped, "2024-03-01", "2024-03-31"));
         ReportTable table;
         QVERIFY(ReportQuery::run(ReportKind::Customers, filter, table).ok());
         const QString text =
@@ -349,21 +331,19 @@ private Q_SLOTS:
     void cli_data()
     {
         AddColumns<QStringList, int, QString>({"args", "exitCode", "contains"});
-        AddRow("euro in forint", QStringList{u"receivables-invoices"_s}, 0,
-               u"2024.03.20.       EUR       30000         30000"_s);
-        AddRow("csv",
-               QStringList{u"customers"_s, u"--currency"_s, u"original"_s, u"--format"_s, u"csv"_s},
-               0, u"Alfa Kft.;EUR;100,00;0,00;100,00"_s);
-        AddRow("by partner id", QStringList{u"invoices"_s, u"--partner-id"_s, u"1"_s}, 0,
-               u"Partner: Alfa Zrt."_s);
-        AddRow("unknown report", QStringList{u"sales"_s}, 2, QString());
-        AddRow("receivables by date created",
-               QStringList{u"receivables-partners"_s, u"--from"_s, u"2024.01.01."_s, u"--to"_s,
-                           u"2024.12.31."_s, u"--date"_s, u"created"_s},
-               2, QString());
-        AddRow("from without to", QStringList{u"items"_s, u"--from"_s, u"2024-01-01"_s}, 2,
-               QString());
-        AddRow("pdf without file", QStringList{u"items"_s, u"--format"_s, u"pdf"_s}, 2, QString());
+        const auto row = [](const char* name, const char* args, int exitCode, const QString& out) {
+            AddRow(name, QString::fromUtf8(args).split(u' '), exitCode, out);
+        };
+        row("euro in forint", "receivables-invoices", 0,
+            u"2024.03.20.       EUR       30000         30000"_s);
+        row("csv", "customers --currency original --format csv", 0,
+            u"Alfa Kft.;EUR;100,00;0,00;100,00"_s);
+        row("by partner id", "invoices --partner-id 1", 0, u"Partner: Alfa Zrt."_s);
+        row("unknown report", "sales", 2, {});
+        row("receivables by date created",
+            "receivables-partners --from 2024.01.01. --to 2024.12.31. --date created", 2, {});
+        row("from without to", "items --from 2024-01-01", 2, {});
+        row("pdf without file", "items --format pdf", 2, {});
     }
 
     void cli()

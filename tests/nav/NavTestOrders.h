@@ -1,12 +1,11 @@
 // Issued invoices of every kind the authority distinguishes, for the reporting tests.
 #pragma once
 
+#include "TestOrders.h"
+
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "orders/CancelInvoice.h"
-#include "orders/InvoiceNumbering.h"
-#include "orders/OrderFill.h"
-#include "orders/OrderStore.h"
 
 #include <QtTest>
 
@@ -63,16 +62,7 @@ inline qint64 IssueNavTestOrder(NavTestKind kind, QString* numberText = nullptr)
     OrderFill::recalcTotals(order);
     if (!OrderStore::save(order))
         return 0;
-    IssuedInvoice issued;
-    const auto render = [](qint64, FrozenInvoice& f) {
-        f.body = QStringLiteral("body");
-        return Result::success();
-    };
-    if (!InvoiceNumbering::issue(order.id, kNavToday, render, issued))
-        return 0;
-    if (numberText)
-        *numberText = issued.numberText;
-    return order.id;
+    return IssueTestOrder(order.id, kNavToday, numberText) ? order.id : 0;
 }
 
 // Cancels an issued order and issues the cancelling invoice; its order id, or 0.
@@ -81,10 +71,5 @@ inline qint64 IssueNavCancel(qint64 orderId)
     qint64 cancelId = 0;
     if (!CancelInvoice::create(orderId, CancelData{}, cancelId))
         return 0;
-    IssuedInvoice issued;
-    const auto render = [](qint64, FrozenInvoice& f) {
-        f.body = QStringLiteral("body");
-        return Result::success();
-    };
-    return InvoiceNumbering::issue(cancelId, kNavToday, render, issued) ? cancelId : 0;
+    return IssueTestOrder(cancelId, kNavToday) ? cancelId : 0;
 }

@@ -1,6 +1,7 @@
 // The command line's nav verbs on the demonstration company: the exported documents validate
 // against the authority's schemas (one invoice to standard output or a file, a range to a
 // folder), the queue lists what waits, and bad usage is told as such.
+#include "NavTestOrders.h"
 #include "TestData.h"
 
 #include "base/Database.h"
@@ -18,9 +19,7 @@ private Q_SLOTS:
         QVERIFY(m_base.isValid());
         QCOMPARE(cli({"check"}).exitCode, 0);
         QVERIFY(Database::open(db()));
-        QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Eladó Kft', SETUP_ZIP = '1011', SETUP_CITY "
-                        "= 'Budapest', SETUP_ADDRESS = 'Fő utca 2.', SETUP_TAX_NO = "
-                        "'12345676-2-41'"));
+        QVERIFY(PrepareNavSeller());
         Database::close();
         const ProcessRun added = cli(
             {"--db", db(), "order", "add", "--partner", "1", "--item", "1:2", "--item", "1:1:500"});

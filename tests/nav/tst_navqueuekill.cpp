@@ -2,6 +2,7 @@
 // them to the test double while some runs are killed at random moments; every numbered invoice
 // has its queue row at every point, and in the end each is reported exactly once.
 #include "NavDouble.h"
+#include "NavTestOrders.h"
 #include "TestData.h"
 
 #include "base/Database.h"
@@ -22,9 +23,7 @@ private Q_SLOTS:
         const int orders = 20;
         const NavDoubleUser user;
         QVERIFY(Database::open(db()));
-        QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Eladó Kft', SETUP_ZIP = '1011', SETUP_CITY "
-                        "= 'Budapest', SETUP_ADDRESS = 'Fő utca 2.', SETUP_TAX_NO = "
-                        "'12345676-2-41'"));
+        QVERIFY(PrepareNavSeller());
         QVERIFY(ExecSql("update TN_NAV_SETUP set TN_NAV_SETUP_LOGIN = ?, "
                         "TN_NAV_SETUP_PASSWORD_HASH = ?, TN_NAV_SETUP_SIGNING_KEY = ?, "
                         "TN_NAV_SETUP_EXCHANGE_KEY = ?, TN_NAV_SETUP_TAX_NO = ?, TN_NAV_SETUP_URL "

@@ -47,14 +47,10 @@ private Q_SLOTS:
     // Five different invoices and a cancelling one go out in one request and are accepted.
     void everyIssuedInvoiceAccepted()
     {
-        qint64 first = 0;
-        for (NavTestKind kind : {NavTestKind::Forint, NavTestKind::Euro, NavTestKind::Consolidated,
-                                 NavTestKind::ExemptLine, NavTestKind::PrivatePerson}) {
-            const qint64 id = IssueNavTestOrder(kind);
-            QVERIFY(id);
-            if (!first)
-                first = id;
-        }
+        const qint64 first = IssueNavTestOrder(NavTestKind::Forint);
+        for (NavTestKind kind : {NavTestKind::Euro, NavTestKind::Consolidated,
+                                 NavTestKind::ExemptLine, NavTestKind::PrivatePerson})
+            QVERIFY(IssueNavTestOrder(kind));
         QVERIFY(IssueNavCancel(first));
         QCOMPARE(States(), QString("1|0; 2|0; 3|0; 4|0; 5|0; 6|0"));
 
@@ -79,40 +75,38 @@ private Q_SLOTS:
 
     void faultModes_data()
     {
-        AddColumns<QString, int, int, QString, QString>(
+        AddColumns<QString, int, int, QString, int>(
             {"fault", "count", "state", "message", "tokenRequests"});
-        AddRow("none", QString("none"), -1, int(NavState::Accepted), QString(), QString("1"));
-        AddRow("schema error", QString("schema"), -1, int(NavState::Rejected),
-               QString("SCHEMA_VIOLATION"), QString("1"));
-        AddRow("duplicate number", QString("duplicate"), -1, int(NavState::Rejected),
-               QString("INVOICE_NUMBER_NOT_UNIQUE"), QString("1"));
-        AddRow("business error", QString("reject"), -1, int(NavState::Rejected),
-               QString("INCORRECT_VAT_CODE: Hibás ÁFA kód."), QString("1"));
-        AddRow("warning", QString("warn"), -1, int(NavState::AcceptedWithWarnings),
-               QString("INCORRECT_COUNTY_CODE"), QString("1"));
-        // One failed try is made good by the client's own retry.
-        AddRow("one 500", QString("500"), 1, int(NavState::Accepted), QString(), QString("2"));
-        AddRow("one timeout", QString("timeout"), 1, int(NavState::Accepted), QString(),
-               QString("2"));
-        // Lasting faults leave the invoice waiting with the reason.
-        AddRow("lasting 500", QString("500"), -1, int(NavState::Waiting),
-               QString("OPERATION_FAILED"), QString("2"));
-        AddRow("lasting timeout", QString("timeout"), -1, int(NavState::Waiting), QString(),
-               QString("2"));
+        const auto row = [](const char* name, const char* fault, int count, NavState state,
+                            const char* message, int tokens) {
+            AddRow(name, QString(fault), count, int(state), QString(message), tokens);
+        };
+        row("none", "none", -1, NavState::Accepted, "", 1);
+        row("schema error", "schema", -1, NavState::Rejected, "SCHEMA_VIOLATION", 1);
+        row("duplicate number", "duplicate", -1, NavState::Rejected, "INVOICE_NUMBER_NOT_UNIQUE",
+            1);
+        row("business error", "reject", -1, NavState::Rejected,
+            "INCORRECT_VAT_CODE: Hibás ÁFA kód.", 1);
+        row("warning", "warn", -1, NavState::AcceptedWithWarnings, "INCORRECT_COUNTY_CODE", 1);
+        // One failed try is made good by the client's own retry; a lasting fault leaves the
+        // invoice waiting with the reason.
+        row("one 500", "500", 1, NavState::Accepted, "", 2);
+        row("one timeout", "timeout", 1, NavState::Accepted, "", 2);
+        row("lasting 500", "500", -1, NavState::Waiting, "OPERATION_FAILED", 2);
+        row("lasting timeout", "timeout", -1, NavState::Waiting, "", 2);
     }
 
     void faultModes()
     {
-        auto [fault, count, state, message, tokenRequests] =
-            Fetch<QString, int, int, QString, QString>(
-                {"fault", "count", "state", "message", "tokenRequests"});
+        auto [fault, count, state, message, tokenRequests] = Fetch<QString, int, int, QString, int>(
+            {"fault", "count", "state", "message", "tokenRequests"});
         QVERIFY(IssueNavTestOrder(NavTestKind::Forint));
         NavDouble::Fault f;
         QVERIFY(NavDouble::parseFault(fault, f));
         m_double->setFault(f, count);
         NavReportOutcome outcome;
         QVERIFY(NavReporter::run(Options(), outcome));
-        QCOMPARE(QString::number(m_double->requestCount("tokenExchange")), tokenRequests);
+        QCOMPARE(m_double->requestCount("tokenExchange"), tokenRequests);
         QCOMPARE(QueryText("select TN_NAV_QUEUE_STATE from TN_NAV_QUEUE"), QString::number(state));
         const QString stored = QueryText("select TN_NAV_QUEUE_MESSAGES from TN_NAV_QUEUE");
         QVERIFY2(stored.contains(message), qPrintable(stored));
@@ -144,34 +138,27 @@ private Q_SLOTS:
         QCOMPARE(States(), QString("1|2"));
     }
 
-    void backOffGrows_data()
+    void backOffGrowsToItsCap()
     {
-        AddColumns<int, qint64>({"attempts", "seconds"});
-        AddRow("none", 0, qint64(0));
-        AddRow("first", 1, qint64(60));
-        AddRow("third", 3, qint64(240));
-        AddRow("capped", 12, qint64(6 * 3600));
-        AddRow("far beyond", 500, qint64(6 * 3600));
-    }
-
-    void backOffGrows()
-    {
-        auto [attempts, seconds] = Fetch<int, qint64>({"attempts", "seconds"});
-        QCOMPARE(NavQueue::backOffSeconds(attempts), seconds);
+        QCOMPARE((QList<qint64>{NavQueue::backOffSeconds(0), NavQueue::backOffSeconds(1),
+                                NavQueue::backOffSeconds(3), NavQueue::backOffSeconds(12),
+                                NavQueue::backOffSeconds(500)}),
+                 (QList<qint64>{0, 60, 240, 6 * 3600, 6 * 3600}));
     }
 
     // What the double refuses: the authority's error code reaches the user; nothing is lost.
     void refusedCredentials_data()
     {
         AddColumns<QString, QString, QString>({"field", "value", "code"});
-        AddRow("password", QString("password"), QString("WrongPassword"),
-               QString("INVALID_SECURITY_USER"));
-        AddRow("login", QString("login"), QString("someoneelse"), QString("INVALID_SECURITY_USER"));
-        AddRow("signing key", QString("signing"), QString("another-signing-key"),
-               QString("INVALID_REQUEST_SIGNATURE"));
-        AddRow("exchange key", QString("exchange"), QString("FEDCBA0987654321"),
-               QString("exchange"));
-        AddRow("malformed login", QString("login"), QString("x"), QString("INVALID_REQUEST"));
+        const auto row = [](const char* name, const char* field, const char* value,
+                            const char* code) {
+            AddRow(name, QString(field), QString(value), QString(code));
+        };
+        row("password", "password", "WrongPassword", "INVALID_SECURITY_USER");
+        row("login", "login", "someoneelse", "INVALID_SECURITY_USER");
+        row("signing key", "signing", "another-signing-key", "INVALID_REQUEST_SIGNATURE");
+        row("exchange key", "exchange", "FEDCBA0987654321", "exchange");
+        row("malformed login", "login", "x", "INVALID_REQUEST");
     }
 
     void refusedCredentials()
@@ -201,14 +188,14 @@ private Q_SLOTS:
     // a transaction: the next run asks the authority instead of sending it twice.
     void sendCutShort_data()
     {
-        AddColumns<bool, QString>({"reached", "manageRequests"});
-        AddRow("the authority has it", true, QString("1"));
-        AddRow("it never arrived", false, QString("1"));
+        QTest::addColumn<bool>("reached");
+        AddRow("the authority has it", true);
+        AddRow("it never arrived", false);
     }
 
     void sendCutShort()
     {
-        auto [reached, manageRequests] = Fetch<bool, QString>({"reached", "manageRequests"});
+        QFETCH(bool, reached);
         QVERIFY(IssueNavTestOrder(NavTestKind::Forint));
         NavReportOutcome outcome;
         if (reached)
@@ -218,7 +205,7 @@ private Q_SLOTS:
         QVERIFY(NavReporter::run(Options(), next));
         QVERIFY2(next.problems.isEmpty(), qPrintable(next.problems.join('\n')));
         QCOMPARE(States(), QString("1|2"));
-        QCOMPARE(QString::number(m_double->requestCount("manageInvoice")), manageRequests);
+        QCOMPARE(m_double->requestCount("manageInvoice"), 1);
         QCOMPARE(m_double->requestCount("queryInvoiceCheck"), 1);
         QCOMPARE(m_double->reportedNumbers().size(), 1);
     }

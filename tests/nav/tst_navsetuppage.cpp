@@ -46,21 +46,18 @@ private Q_SLOTS:
 
     void refusals_data()
     {
+        // fields: login|password|signing key|exchange key|tax id[|url]
         AddColumns<QStringList, QString>({"fields", "message"});
-        AddRow("short login", QStringList{"abc", "pw", "key", "1234567890ABCDEF", "12345676"},
-               QString("6 to 15"));
-        AddRow("no password", QStringList{"tallyuser1", "", "key", "1234567890ABCDEF", "12345676"},
-               QString("Password"));
-        AddRow("exchange key length",
-               QStringList{"tallyuser1", "pw", "key", "1234567890", "12345676"},
-               QString("16 characters"));
-        AddRow("tax id not digits",
-               QStringList{"tallyuser1", "pw", "key", "1234567890ABCDEF", "1234-567"},
-               QString("8 digits"));
-        AddRow("plain http elsewhere",
-               QStringList{"tallyuser1", "pw", "key", "1234567890ABCDEF", "12345676",
-                           "http://example.com/invoiceService/v3"},
-               QString("https://"));
+        const auto row = [](const char* name, const char* fields, const char* message) {
+            AddRow(name, QString(fields).split('|'), QString(message));
+        };
+        row("short login", "abc|pw|key|1234567890ABCDEF|12345676", "6 to 15");
+        row("no password", "tallyuser1||key|1234567890ABCDEF|12345676", "Password");
+        row("exchange key length", "tallyuser1|pw|key|1234567890|12345676", "16 characters");
+        row("tax id not digits", "tallyuser1|pw|key|1234567890ABCDEF|1234-567", "8 digits");
+        row("plain http elsewhere",
+            "tallyuser1|pw|key|1234567890ABCDEF|12345676|http://example.com/invoiceService/v3",
+            "https://");
     }
 
     void refusals()
