@@ -295,7 +295,7 @@ std::pair<int, QByteArray> NavDouble::handle(const QString& path, const QByteArr
 NavDouble::Processing NavDouble::judge(int index, const QString& operation,
                                        const QByteArray& base64)
 {
-    Processing p{index, QStringLiteral("DONE"), {}};
+    Processing p{index, QStringLiteral("DONE"), {}, {}};
     const QByteArray xml = QByteArray::fromBase64(base64);
     QStringList errors;
     if (!m_dataSchema.validate(xml, &errors)) {
