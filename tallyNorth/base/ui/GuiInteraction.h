@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class GuiInteraction : public Interaction
 {
@@ -44,4 +45,26 @@ private:
 
     QWidget* m_parent;
     QList<QPointer<QWidget>> m_progressWindows;
+};
+
+// The Interaction of a window: one set by its caller (a test, a command), else message boxes
+// over the window itself, made when first needed.
+class WindowInteraction
+{
+public:
+    explicit WindowInteraction(QWidget* window) : m_window(window) {}
+    void set(Interaction* interaction) { m_set = interaction; }
+    Interaction& get()
+    {
+        if (m_set)
+            return *m_set;
+        if (!m_own)
+            m_own = std::make_unique<GuiInteraction>(m_window);
+        return *m_own;
+    }
+
+private:
+    QWidget* m_window;
+    Interaction* m_set = nullptr;
+    std::unique_ptr<GuiInteraction> m_own;
 };

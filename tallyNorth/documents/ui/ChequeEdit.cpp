@@ -34,20 +34,6 @@ ChequeEdit::ChequeEdit(QWidget* parent)
 
 ChequeEdit::~ChequeEdit() = default;
 
-void ChequeEdit::setInteraction(Interaction* interaction)
-{
-    m_interaction = interaction;
-}
-
-Interaction& ChequeEdit::interaction()
-{
-    if (m_interaction)
-        return *m_interaction;
-    if (!m_gui)
-        m_gui = std::make_unique<GuiInteraction>(this);
-    return *m_gui;
-}
-
 bool ChequeEdit::load(qint64 id)
 {
     Cheque cheque;

@@ -3,6 +3,7 @@
 // (the order's partner question); printing saves first and marks the cheque printed.
 #pragma once
 
+#include "base/ui/GuiInteraction.h"
 #include "orders/ChequeStore.h"
 
 #include <QDialog>
@@ -30,7 +31,7 @@ public:
     qint64 chequeId() const { return m_cheque.id; }
 
     // Where the questions and messages go; the tests script it. Default: message boxes.
-    void setInteraction(Interaction* interaction);
+    void setInteraction(Interaction* interaction) { m_interaction.set(interaction); }
 
     // The partner question, then the store; false (message shown) when nothing was saved.
     bool save();
@@ -43,7 +44,7 @@ public:
     static bool edit(qint64 id, QWidget* parent);
 
 private:
-    Interaction& interaction();
+    Interaction& interaction() { return m_interaction.get(); }
     void partnerPicked(qint64 id);
     void amountChanged();
 
@@ -53,6 +54,5 @@ private:
     std::optional<qint64> m_pickedId;
     QString m_pickedCode;
     bool m_saved = false;
-    Interaction* m_interaction = nullptr;
-    std::unique_ptr<Interaction> m_gui;
+    WindowInteraction m_interaction{this};
 };

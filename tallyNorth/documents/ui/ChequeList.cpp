@@ -78,20 +78,6 @@ ChequeList::ChequeList(QWidget* parent)
 
 ChequeList::~ChequeList() = default;
 
-void ChequeList::setInteraction(Interaction* interaction)
-{
-    m_interaction = interaction;
-}
-
-Interaction& ChequeList::interaction()
-{
-    if (m_interaction)
-        return *m_interaction;
-    if (!m_gui)
-        m_gui = std::make_unique<GuiInteraction>(this);
-    return *m_gui;
-}
-
 void ChequeList::reload()
 {
     const QList<qint64> selected = selectedIds();

@@ -3,6 +3,7 @@
 // the selection, asks, and shows what happened.
 #pragma once
 
+#include "base/ui/GuiInteraction.h"
 #include "base/ui/ListTab.h"
 
 #include <QList>
@@ -34,7 +35,7 @@ public:
     void selectId(qint64 id);
 
     // Where the commands ask and report; the tests script it. Default: message boxes.
-    void setInteraction(Interaction* interaction);
+    void setInteraction(Interaction* interaction) { m_interaction.set(interaction); }
 
     void insertCheque();
     void editCheque();
@@ -45,7 +46,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    Interaction& interaction();
+    Interaction& interaction() { return m_interaction.get(); }
     void showContextMenu(const QPoint& pos);
 
     QToolBar* m_toolbar;
@@ -53,6 +54,5 @@ private:
     ChequeListModel* m_model;
     QTableView* m_view;
     QLabel* m_note;
-    Interaction* m_interaction = nullptr;
-    std::unique_ptr<Interaction> m_gui;
+    WindowInteraction m_interaction{this};
 };

@@ -78,15 +78,6 @@ QTableView* RecordBrowse::view() const
     return m_ui->m_list;
 }
 
-Interaction& RecordBrowse::interaction()
-{
-    if (m_interaction)
-        return *m_interaction;
-    if (!m_ownInteraction)
-        m_ownInteraction = std::make_unique<GuiInteraction>(this);
-    return *m_ownInteraction;
-}
-
 Result RecordBrowse::reload()
 {
     const std::optional<qint64> selected = currentId();

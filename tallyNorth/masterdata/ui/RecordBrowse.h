@@ -5,6 +5,7 @@
 
 #include "BrowseInfo.h"
 #include "base/Interaction.h"
+#include "base/ui/GuiInteraction.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -36,7 +37,7 @@ public:
     const BrowseInfo& info() const { return m_info; }
 
     // Messages and questions go here; a GuiInteraction on this window unless set.
-    void setInteraction(Interaction* interaction) { m_interaction = interaction; }
+    void setInteraction(Interaction* interaction) { m_interaction.set(interaction); }
 
     void newRow();
     void editRow();
@@ -59,14 +60,13 @@ private:
     void fitColumns();
     void showNote(const QString& text);
     void openHelp();
-    Interaction& interaction();
+    Interaction& interaction() { return m_interaction.get(); }
 
     const BrowseInfo& m_info;
     Mode m_mode;
     std::unique_ptr<Ui::RecordBrowseLayout> m_ui;
     RecordListModel* m_model;
     QTimer m_noteTimer;
-    Interaction* m_interaction = nullptr;
-    std::unique_ptr<Interaction> m_ownInteraction;
+    WindowInteraction m_interaction{this};
     bool m_fitted = false; // the widths come from rows
 };

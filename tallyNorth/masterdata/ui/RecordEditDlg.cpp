@@ -21,15 +21,6 @@ RecordEditDlg::RecordEditDlg(const TableStore& store, std::optional<qint64> id, 
 
 RecordEditDlg::~RecordEditDlg() = default;
 
-Interaction& RecordEditDlg::interaction()
-{
-    if (m_interaction)
-        return *m_interaction;
-    if (!m_ownInteraction)
-        m_ownInteraction = std::make_unique<GuiInteraction>(this);
-    return *m_ownInteraction;
-}
-
 void RecordEditDlg::bindFields(TrText addTitle, TrText editTitle, bool nameInEditTitle)
 {
     m_addTitle = addTitle;

@@ -6,6 +6,7 @@
 
 #include "BrowseInfo.h"
 #include "base/Interaction.h"
+#include "base/ui/GuiInteraction.h"
 
 #include <QDialog>
 #include <QHash>
@@ -29,7 +30,7 @@ public:
     // The row as the controls show it.
     Record record() const;
 
-    void setInteraction(Interaction* interaction) { m_interaction = interaction; }
+    void setInteraction(Interaction* interaction) { m_interaction.set(interaction); }
     // Checks and saves; the dialog closes only when the row is written.
     void accept() override;
 
@@ -44,7 +45,7 @@ public:
 
 protected:
     QWidget* field(const char* column) const { return m_fields.value(QString::fromLatin1(column)); }
-    Interaction& interaction();
+    Interaction& interaction() { return m_interaction.get(); }
     const TableStore& store() const { return m_store; }
 
     // Values of a new row before the presets.
@@ -69,8 +70,7 @@ private:
     TrText m_editTitle;
     bool m_nameInTitle = false;
     TranslationModel* m_translations = nullptr;
-    Interaction* m_interaction = nullptr;
-    std::unique_ptr<Interaction> m_ownInteraction;
+    WindowInteraction m_interaction{this};
 };
 
 // An edit dialog made of a Designer form alone.

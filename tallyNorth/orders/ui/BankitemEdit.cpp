@@ -69,20 +69,6 @@ BankitemEdit::BankitemEdit(const BankItemInvoice& invoice, QWidget* parent, cons
 
 BankitemEdit::~BankitemEdit() = default;
 
-void BankitemEdit::setInteraction(Interaction* interaction)
-{
-    m_interaction = interaction;
-}
-
-Interaction& BankitemEdit::interaction()
-{
-    if (m_interaction)
-        return *m_interaction;
-    if (!m_gui)
-        m_gui = std::make_unique<GuiInteraction>(this);
-    return *m_gui;
-}
-
 void BankitemEdit::accept()
 {
     if (!m_transferDate->isValidInput()) {

@@ -2,6 +2,7 @@
 // BankItemStore's; the window takes the values and shows what happened.
 #pragma once
 
+#include "base/ui/GuiInteraction.h"
 #include "orders/BankItemStore.h"
 
 #include <QDialog>
@@ -24,7 +25,7 @@ public:
     ~BankitemEdit() override;
 
     // Where the window asks and reports; the tests script it. Default: message boxes.
-    void setInteraction(Interaction* interaction);
+    void setInteraction(Interaction* interaction) { m_interaction.set(interaction); }
     // The invoice's state after the saved payment.
     const BankItemInvoice& invoice() const { return m_invoice; }
 
@@ -36,7 +37,7 @@ public:
     static bool addTo(qint64 orderId, QWidget* parent, Interaction& interaction);
 
 private:
-    Interaction& interaction();
+    Interaction& interaction() { return m_interaction.get(); }
 
     BankItemInvoice m_invoice;
     QLineEdit* m_invoiceNo;
@@ -46,6 +47,5 @@ private:
     QLabel* m_currency;
     QLineEdit* m_comment;
     QPushButton* m_pastPayments;
-    Interaction* m_interaction = nullptr;
-    std::unique_ptr<Interaction> m_gui;
+    WindowInteraction m_interaction{this};
 };

@@ -92,20 +92,6 @@ OrderList::OrderList(QWidget* parent)
 
 OrderList::~OrderList() = default;
 
-void OrderList::setInteraction(Interaction* interaction)
-{
-    m_interaction = interaction;
-}
-
-Interaction& OrderList::interaction()
-{
-    if (m_interaction)
-        return *m_interaction;
-    if (!m_gui)
-        m_gui = std::make_unique<GuiInteraction>(this);
-    return *m_gui;
-}
-
 void OrderList::reload()
 {
     const QList<qint64> selected = selectedIds();

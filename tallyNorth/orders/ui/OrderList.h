@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/ui/GuiInteraction.h"
 #include "base/ui/ListTab.h"
 
 #include <QList>
@@ -34,7 +35,7 @@ public:
     void selectId(qint64 id);
 
     // Where the commands ask and report; the tests script it. Default: message boxes.
-    void setInteraction(Interaction* interaction);
+    void setInteraction(Interaction* interaction) { m_interaction.set(interaction); }
 
     void newOrder();
     void editOrder();
@@ -55,7 +56,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    Interaction& interaction();
+    Interaction& interaction() { return m_interaction.get(); }
     void showContextMenu(const QPoint& pos);
 
     OrderFilter* m_filter;
@@ -64,6 +65,5 @@ private:
     QTableView* m_view;
     QLabel* m_note;
     QMenu* m_more;
-    Interaction* m_interaction = nullptr;
-    std::unique_ptr<Interaction> m_gui;
+    WindowInteraction m_interaction{this};
 };
