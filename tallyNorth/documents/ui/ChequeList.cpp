@@ -9,6 +9,7 @@
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "base/ui/GuiInteraction.h"
+#include "base/ui/ListView.h"
 #include "masterdata/MasterTables.h"
 #include "orders/ChequeStore.h"
 
@@ -30,19 +31,11 @@ ChequeList::ChequeList(QWidget* parent)
       m_model(new ChequeListModel(this)), m_view(new QTableView(this)), m_note(new QLabel(this))
 {
     m_view->setModel(m_model);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setAlternatingRowColors(true);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 6);
-    m_view->horizontalHeader()->setHighlightSections(false);
+    SetUpListView(m_view);
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->installEventFilter(this);
-    m_note->setObjectName(QStringLiteral("note"));
-    m_note->setStyleSheet(QStringLiteral("color: #c80000;"));
-    m_note->hide();
+    SetUpListNote(m_note);
     m_filter->hide();
 
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextOnly);

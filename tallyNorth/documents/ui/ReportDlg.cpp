@@ -7,6 +7,7 @@
 #include "base/Setup.h"
 #include "base/ui/DateEdit.h"
 #include "base/ui/HelpLink.h"
+#include "base/ui/ListView.h"
 #include "documents/QtfReader.h"
 #include "documents/ReportOutput.h"
 #include "masterdata/ui/RecordFinder.h"
@@ -80,11 +81,7 @@ ReportDlg::ReportDlg(ReportKind kind, QWidget* parent)
     m_array = new QTableView;
     m_array->setObjectName(QStringLiteral("m_array"));
     m_array->setModel(m_model);
-    m_array->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_array->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_array->setAlternatingRowColors(true);
-    m_array->verticalHeader()->hide();
-    m_array->verticalHeader()->setDefaultSectionSize(m_array->fontMetrics().height() + 6);
+    SetUpListView(m_array, QAbstractItemView::SingleSelection);
     layout->addWidget(m_array, 1);
 
     auto* buttons = new QHBoxLayout;

@@ -13,6 +13,7 @@
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 #include "base/ui/GuiInteraction.h"
+#include "base/ui/ListView.h"
 #include "masterdata/MasterTables.h"
 #include "orders/CancelInvoice.h"
 #include "orders/OrderStore.h"
@@ -38,18 +39,10 @@ OrderList::OrderList(QWidget* parent)
     m_view->setModel(m_sorted);
     m_view->setSortingEnabled(true);
     sortByCreation();
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setAlternatingRowColors(true);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 6);
-    m_view->horizontalHeader()->setHighlightSections(false);
+    SetUpListView(m_view);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->installEventFilter(this);
-    m_note->setObjectName(QStringLiteral("note"));
-    m_note->setStyleSheet(QStringLiteral("color: #c80000;"));
-    m_note->hide();
+    SetUpListNote(m_note);
 
     auto* newButton = new QPushButton(tr("New Order"), this);
     auto* editButton = new QPushButton(tr("Edit Order"), this);
