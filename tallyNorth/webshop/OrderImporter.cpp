@@ -392,22 +392,17 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
     if (!code.isEmpty()) {
         if (!findCode(Tbl::NOVATREASON, Col::NOVATREASON_ID, Col::NOVATREASON_CODE, code, id))
             return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."));
-        if (!id) {
-            m_interaction.exclamation(FillArgs(
-                Text(QT_TRANSLATE_NOOP("OrderImporter",
-                                       "There is no novatreason with code %s in database.&&Add or "
-                                       "select this novatreason in the next window.")),
-                {code}));
-            forgetCaches(); // the user may change any row in the windows
-            id = m_ask.chooseRow(MasterTable::NoVatReason);
-            if (!id)
-                return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."));
-            if (!ExecSql(Sql("update %1 set %2 = ? where %3 = ?",
-                             {Tbl::NOVATREASON, Col::NOVATREASON_CODE, Col::NOVATREASON_ID}),
-                         {code, *id}))
-                return Fail(
-                    QT_TRANSLATE_NOOP("OrderImporter", "Error saving novatreason selection."));
-        }
+        if (!id)
+            if (Result r = chooseRowForCode(
+                    MasterTable::NoVatReason, Tbl::NOVATREASON, Col::NOVATREASON_ID,
+                    Col::NOVATREASON_CODE, code,
+                    QT_TRANSLATE_NOOP("OrderImporter",
+                                      "There is no novatreason with code %s in database.&&Add or "
+                                      "select this novatreason in the next window."),
+                    QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."),
+                    QT_TRANSLATE_NOOP("OrderImporter", "Error saving novatreason selection."), id);
+                !r)
+                return r;
         if (Result r = requireTranslation(
                 Tbl::NOVATREASONTRANSLATION, Col::NOVATREASONTRANSLATION_NOVATREASON_ID,
                 Col::NOVATREASONTRANSLATION_LANG_ID, *id, order.langId, MasterTable::NoVatReason,
@@ -426,6 +421,23 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
     return Result::success();
 }
 
+Result OrderImporter::chooseRowForCode(MasterTable table, const char* tableName,
+                                       const char* idColumn, const char* codeColumn,
+                                       const QString& code, const char* unknown,
+                                       const char* loadError, const char* saveError,
+                                       std::optional<qint64>& id)
+{
+    m_interaction.exclamation(FillArgs(Text(unknown), {code}));
+    forgetCaches(); // the user may change any row in the windows
+    id = m_ask.chooseRow(table);
+    if (!id)
+        return Fail(loadError);
+    if (!ExecSql(Sql("update %1 set %2 = ? where %3 = ?", {tableName, codeColumn, idColumn}),
+                 {code, *id}))
+        return Fail(saveError);
+    return Result::success();
+}
+
 Result OrderImporter::resolvePaymentMethod(const QString& code, const QString& orderCode,
                                            Order& order)
 {
@@ -437,23 +449,18 @@ Result OrderImporter::resolvePaymentMethod(const QString& code, const QString& o
     std::optional<qint64> id;
     if (!findCode(Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID, Col::PAYMENTMETHOD_CODE, code, id))
         return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."));
-    if (!id) {
-        m_interaction.exclamation(
-            FillArgs(Text(QT_TRANSLATE_NOOP("OrderImporter",
-                                            "There is no payment method with code %s in "
-                                            "database.&&Add or select this payment method and the "
-                                            "translations in the next window.")),
-                     {code}));
-        forgetCaches(); // the user may change any row in the windows
-        id = m_ask.chooseRow(MasterTable::PaymentMethod);
-        if (!id)
-            return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."));
-        if (!ExecSql(Sql("update %1 set %2 = ? where %3 = ?",
-                         {Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_CODE, Col::PAYMENTMETHOD_ID}),
-                     {code, *id}))
-            return Fail(
-                QT_TRANSLATE_NOOP("OrderImporter", "Error saving payment method selection."));
-    }
+    if (!id)
+        if (Result r = chooseRowForCode(
+                MasterTable::PaymentMethod, Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID,
+                Col::PAYMENTMETHOD_CODE, code,
+                QT_TRANSLATE_NOOP("OrderImporter",
+                                  "There is no payment method with code %s in database.&&Add or "
+                                  "select this payment method and the translations in the next "
+                                  "window."),
+                QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."),
+                QT_TRANSLATE_NOOP("OrderImporter", "Error saving payment method selection."), id);
+            !r)
+            return r;
     if (Result r = requireTranslation(
             Tbl::PAYMENTMETHODTRANSLATION, Col::PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID,
             Col::PAYMENTMETHODTRANSLATION_LANG_ID, *id, order.langId, MasterTable::PaymentMethod,
