@@ -44,6 +44,12 @@ QString YearInPrefixNotice();
 Result SaveSetup(SetupChanges changes, Interaction& interaction, QString* badColumn = nullptr,
                  const QDate& today = QDate::currentDate());
 
+// The forint's row as the rounding page shows it; empty when it can not be read.
+SetupValues LoadHomeCurrency();
+
+// The picture file of a stored logo; empty when there is none.
+QByteArray LogoPicture(qint64 logoId);
+
 // The logo as stored in LOGO_DATA (base64 of the picture file); nothing for data that is no
 // picture.
 std::optional<QString> LogoData(const QByteArray& pictureFile);

@@ -58,24 +58,29 @@ QVariant Negated(const QVariant& v)
 
 } // namespace
 
-Result CancelInvoice::check(qint64 orderId)
+Result CancelInvoice::state(qint64 orderId, CancelState& state)
 {
+    state = {};
     SqlStatement st(
         Sql("select %1, %2, %3, %4 from %5 where %6 = ?",
             {Col::ORDERHEAD_INVOICE_NO, Col::ORDERHEAD_CANCELLING_INVOICE_NO, Col::ORDERHEAD_TYPE,
-             Col::ORDERHEAD_INVOICE_NO_STR, Tbl::ORDERHEAD, Col::ORDERHEAD_ID}),
+             Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR, Tbl::ORDERHEAD, Col::ORDERHEAD_ID}),
         {orderId});
     if (!st.exec())
         return st.failure(tr("Database error:&") + st.errorText());
     if (!st.next())
         return Result::failure(
             tr("Unable to load data from database.&Maybe it is deleted by an other user."));
+    using Block = CancelState::Block;
     if (IsNullValue(st.value(0)))
-        return Result::failure(tr("Only an issued invoice can be cancelled."));
-    if (!IsNullValue(st.value(1)))
-        return Result::failure(tr("Cancelled invoice can not be cancelled."));
-    if (ToInteger(st.value(2)) == int(OrderType::CancellingInvoice))
-        return Result::failure(tr("A cancelling invoice can not be cancelled."));
+        state.block = Block::NotInvoice;
+    else if (!IsNullValue(st.value(1)))
+        state.block = Block::Cancelled;
+    else if (ToInteger(st.value(2)) == int(OrderType::CancellingInvoice))
+        state.block = Block::Cancelling;
+    state.cancelledBy = st.value(3).toString();
+    if (state.block != Block::None)
+        return Result::success();
     const qint64 number = ToInteger(st.value(0));
     st.query().finish();
 
@@ -87,8 +92,28 @@ Result CancelInvoice::check(qint64 orderId)
     if (!waiting.exec())
         return waiting.failure(tr("Database error:&") + waiting.errorText());
     if (waiting.next() && ToInteger(waiting.value(0)) > 0)
+        state.block = Block::CancelWaiting;
+    return Result::success();
+}
+
+Result CancelInvoice::check(qint64 orderId)
+{
+    CancelState s;
+    if (Result r = state(orderId, s); !r)
+        return r;
+    switch (s.block) {
+    case CancelState::Block::None:
+        return Result::success();
+    case CancelState::Block::NotInvoice:
+        return Result::failure(tr("Only an issued invoice can be cancelled."));
+    case CancelState::Block::Cancelled:
+        return Result::failure(tr("Cancelled invoice can not be cancelled."));
+    case CancelState::Block::Cancelling:
+        return Result::failure(tr("A cancelling invoice can not be cancelled."));
+    case CancelState::Block::CancelWaiting:
         return Result::failure(
             tr("This invoice already has a cancelling invoice waiting to be printed."));
+    }
     return Result::success();
 }
 

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QString>
 
 #include <optional>
 
@@ -18,11 +19,20 @@ struct CancelData
     std::optional<qint64> paymentMethodId;
 };
 
+// What stands in the way of cancelling an order; each window words it its own way.
+struct CancelState
+{
+    enum class Block { None, NotInvoice, Cancelled, Cancelling, CancelWaiting };
+    Block block = Block::None;
+    QString cancelledBy; // the number text of the invoice that cancelled it
+};
+
 class CancelInvoice
 {
     Q_DECLARE_TR_FUNCTIONS(CancelInvoice)
 
 public:
+    static Result state(qint64 orderId, CancelState& state);
     // Whether the order is an issued invoice that can still be cancelled.
     static Result check(qint64 orderId);
     // What the "Cancel the Invoice" window may accept; byItems keeps each item's own date.

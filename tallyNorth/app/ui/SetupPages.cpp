@@ -243,13 +243,7 @@ void SetupInvoiceTemplatePage::load(const Setup& setup)
     templateChosen(false);
     m_newLogo.reset();
     const std::optional<qint64> logoId = RowId(setup.value(SETUP_INVOICE_LOGO_ID));
-    QByteArray picture;
-    if (logoId) {
-        const QVariant data = SelectValue(
-            Sql("select %1 from %2 where %3 = ?", {LOGO_DATA, Tbl::LOGO, LOGO_ID}), {*logoId});
-        picture = QByteArray::fromBase64(data.toString().toLatin1());
-    }
-    showLogo(picture);
+    showLogo(logoId ? LogoPicture(*logoId) : QByteArray());
 }
 
 void SetupInvoiceTemplatePage::store(SetupChanges& changes) const
@@ -354,13 +348,12 @@ const char* const kDecimals[] = {
 void SetupRoundingPage::load(const Setup& setup)
 {
     SetupPage::load(setup);
-    SqlStatement st(Sql("select * from %1 where %2 = 0", {Tbl::CURRENCYY, CURRENCY_ID}));
-    const bool found = st.exec() && st.next();
+    const SetupValues forint = LoadHomeCurrency();
     // Printing decimals first, so that lowering one does not pull its rounding down.
     for (const char* column :
          {kDecimals[2], kDecimals[4], kDecimals[0], kDecimals[1], kDecimals[3]})
         if (QWidget* field = FindField(m_editor, column))
-            SetFieldValue(field, found ? st.value(column) : QVariant(0));
+            SetFieldValue(field, forint.value(ColumnName(column), 0));
 }
 
 void SetupRoundingPage::store(SetupChanges& changes) const

@@ -7,11 +7,8 @@
 #include "OrderListModel.h"
 #include "OrderPrintHooks.h"
 
-#include "Columns.h"
 #include "base/Database.h"
 #include "base/MessageArgs.h"
-#include "base/SqlStatement.h"
-#include "base/SqlValue.h"
 #include "base/ui/GuiInteraction.h"
 #include "base/ui/ListView.h"
 #include "masterdata/MasterTables.h"
@@ -194,38 +191,23 @@ void OrderList::cloneOrder()
 
 Result OrderList::cancelRefusal(qint64 orderId)
 {
-    SqlStatement st(QStringLiteral("select %1, %2, %3, %4 from %5 where %6 = ?")
-                        .arg(QLatin1StringView(Col::ORDERHEAD_INVOICE_NO),
-                             QLatin1StringView(Col::ORDERHEAD_TYPE),
-                             QLatin1StringView(Col::ORDERHEAD_CANCELLING_INVOICE_NO),
-                             QLatin1StringView(Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR),
-                             QLatin1StringView(Tbl::ORDERHEAD),
-                             QLatin1StringView(Col::ORDERHEAD_ID)),
-                    {orderId});
-    if (!st.exec())
-        return st.failure(tr("Database error:&") + st.errorText());
-    if (!st.next())
-        return Result::failure(
-            tr("Unable to load data from database.&Maybe it is deleted by an other user."));
-    if (IsNullValue(st.value(0)))
+    CancelState state;
+    if (Result r = CancelInvoice::state(orderId, state); !r)
+        return r;
+    switch (state.block) {
+    case CancelState::Block::None:
+        return Result::success();
+    case CancelState::Block::NotInvoice:
         return Result::failure(tr("Invoices, having Invoice No, can only be cancelled."));
-    if (ToInteger(st.value(1)) == int(OrderType::CancellingInvoice))
+    case CancelState::Block::Cancelling:
         return Result::failure(tr("Cancel Invoice can not be cancelled."));
-    if (!IsNullValue(st.value(2)))
+    case CancelState::Block::Cancelled:
         return Result::failure(
-            FillArgs(tr("This invoice is cancelled by %s."), {st.value(3).toString()}));
-    const qint64 number = ToInteger(st.value(0));
-    st.query().finish();
-    // A cancelling invoice made earlier and not yet printed: print that one instead.
-    SqlStatement waiting(QStringLiteral("select count(*) from %1 where %2 = ? and %3 is null")
-                             .arg(QLatin1StringView(Tbl::ORDERHEAD),
-                                  QLatin1StringView(Col::ORDERHEAD_CANCELLED_INVOICE_NO),
-                                  QLatin1StringView(Col::ORDERHEAD_INVOICE_NO)),
-                         {number});
-    if (!waiting.exec())
-        return waiting.failure(tr("Database error:&") + waiting.errorText());
-    if (waiting.next() && ToInteger(waiting.value(0)) > 0)
+            FillArgs(tr("This invoice is cancelled by %s."), {state.cancelledBy}));
+    case CancelState::Block::CancelWaiting:
+        // A cancelling invoice made earlier and not yet printed: print that one instead.
         return Result::failure(tr("Cancel Invoice not printed."));
+    }
     return Result::success();
 }
 
