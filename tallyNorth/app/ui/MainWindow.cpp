@@ -253,14 +253,24 @@ void MainWindow::setTabPage(MainTab tab, ListTab* page)
     }
     delete old;
     m_tabState[index] = TabState{};
+    connect(page, &ListTab::dataChanged, this, [this, index] { othersChanged(index); });
     if (current)
         showList(index, false);
+}
+
+// The other lists that hold rows are read again when next shown.
+void MainWindow::othersChanged(int changedIndex)
+{
+    for (int i = 0; i < kTabCount; ++i)
+        if (i != changedIndex && m_tabState[i].loaded)
+            m_tabState[i].stale = true;
 }
 
 void MainWindow::reloadTab(MainTab tab)
 {
     if (ListTab* page = tabPage(tab))
         page->reload();
+    othersChanged(TabIndex(tab));
 }
 
 ListTab* MainWindow::tabPage(MainTab tab) const

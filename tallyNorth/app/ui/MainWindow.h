@@ -48,9 +48,10 @@ private:
     {
         bool shown = false;  // the user has seen it, so it may hold rows the user loaded
         bool loaded = false; // read by the window for the current session
-        bool stale = false;  // may show rows of an earlier session or company
+        bool stale = false;  // may show rows of an earlier company or rows changed since
     };
 
+    void othersChanged(int changedIndex);
     void buildMenus();
     void buildToolBar();
     void buildTabs();

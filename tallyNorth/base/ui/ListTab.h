@@ -11,4 +11,8 @@ public:
 
     // Re-reads the list from the current database.
     virtual void reload() = 0;
+
+Q_SIGNALS:
+    // A command of this list wrote what other lists show, such as the cheques of an issue.
+    void dataChanged();
 };

@@ -126,13 +126,19 @@ void OrderList::selectId(qint64 id)
     m_view->scrollTo(index);
 }
 
+void OrderList::reloadChanged()
+{
+    reload();
+    Q_EMIT dataChanged();
+}
+
 void OrderList::newOrder()
 {
     qint64 id = 0;
     if (!OpenOrderEdit(this, 0, &id))
         return;
     m_view->clearSelection();
-    reload();
+    reloadChanged();
     selectId(id);
 }
 
@@ -144,7 +150,7 @@ void OrderList::editOrder()
         return;
     }
     if (OpenOrderEdit(this, ids.first()))
-        reload();
+        reloadChanged();
 }
 
 void OrderList::deleteOrders()
@@ -163,7 +169,7 @@ void OrderList::deleteOrders()
     OrderStore::DeleteOutcome outcome;
     const Result r = OrderStore::remove(ids, outcome);
     m_view->clearSelection();
-    reload();
+    reloadChanged();
     if (outcome.printed > 0)
         interaction().exclamation(OrderStore::printedMessage(outcome.printed));
     if (!r)
@@ -183,10 +189,10 @@ void OrderList::cloneOrder()
         return;
     }
     m_view->clearSelection();
-    reload();
+    reloadChanged();
     selectId(newId);
     if (OpenOrderEdit(this, newId))
-        reload();
+        reloadChanged();
 }
 
 Result OrderList::cancelRefusal(qint64 orderId)
@@ -226,7 +232,7 @@ void OrderList::cancelInvoice()
     if (!newId)
         return;
     m_view->clearSelection();
-    reload();
+    reloadChanged();
     selectId(*newId);
 }
 
@@ -239,7 +245,7 @@ void OrderList::addBankItem()
     }
     // The unpaid total and the paid state change: the unpaid kinds must see it at once.
     if (BankitemEdit::addTo(ids.first(), this, interaction())) {
-        reload();
+        reloadChanged();
         selectId(ids.first());
     }
 }
@@ -281,7 +287,7 @@ void OrderList::printOrders()
         return;
     }
     const Result r = hooks.print(this, ids);
-    reload();
+    reloadChanged();
     if (!r && !r.message().isEmpty())
         interaction().error(r.message());
 }

@@ -57,6 +57,7 @@ protected:
 
 private:
     Interaction& interaction() { return m_interaction.get(); }
+    void reloadChanged();
     void showContextMenu(const QPoint& pos);
 
     OrderFilter* m_filter;
