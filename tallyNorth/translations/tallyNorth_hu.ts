@@ -1528,6 +1528,10 @@ Fiz. határidő:
     <context>
         <name>LangTable</name>
         <message>
+            <source>(Hungarian only)</source>
+            <translation>(csak magyar)</translation>
+        </message>
+        <message>
             <source>Languages</source>
             <translation>Nyelvek</translation>
         </message>

@@ -18,6 +18,7 @@
 #include "masterdata/MasterTables.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QPushButton>
 
 using namespace Col;
@@ -378,6 +379,9 @@ ListTab* CreateMasterTab(MasterTable table, QWidget* parent)
 void FillMasterCombo(QComboBox* combo, MasterTable table, bool allowEmpty)
 {
     (void)FillCombo(combo, *MasterBrowseInfo(table).store, allowEmpty);
+    // No second language means a Hungarian-only invoice; a blank entry would not say so.
+    if (allowEmpty && table == MasterTable::Lang)
+        combo->setItemText(0, QCoreApplication::translate("LangTable", "(Hungarian only)"));
 }
 
 void LinkChooser(QPushButton* button, QComboBox* combo, MasterTable table, bool allowEmpty)
