@@ -32,7 +32,6 @@ ChequeList::ChequeList(QWidget* parent)
 {
     m_view->setModel(m_model);
     SetUpListView(m_view);
-    m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->installEventFilter(this);
     SetUpListNote(m_note);
@@ -85,7 +84,7 @@ void ChequeList::reload()
         interaction().error(r.message());
     m_note->setText(ChequeStore::moreMessage());
     m_note->setVisible(m_model->more());
-    m_view->resizeColumnsToContents();
+    FitListColumns(m_view, int(Column::PartnerName), m_fitted);
     for (qint64 id : selected)
         selectId(id);
 }

@@ -55,4 +55,5 @@ private:
     QTableView* m_view;
     QLabel* m_note;
     WindowInteraction m_interaction{this};
+    bool m_fitted = false; // the column widths come from rows
 };

@@ -6,6 +6,7 @@
 #include "Columns.h"
 #include "base/Setup.h"
 #include "base/ui/GuiInteraction.h"
+#include "base/ui/ListView.h"
 #include "masterdata/MasterTables.h"
 
 #include <QAction>
@@ -16,7 +17,6 @@ namespace {
 
 // Notes about more matching rows stay this long.
 constexpr int kNoteMilliseconds = 4000;
-constexpr int kMaxColumnWidth = 320;
 
 std::function<void(QWidget*, const QString&)>& HelpOpener()
 {
@@ -102,30 +102,16 @@ Result RecordBrowse::reload()
     return r;
 }
 
-// Columns as wide as their texts and headers (within a limit); the spare width goes to the name
-// column, whose texts are the longest, not to whatever column comes last. An empty result (a
-// search that found nothing) keeps the widths the rows gave, so the columns do not collapse to
-// their headers.
+// The spare width goes to the name column.
 void RecordBrowse::fitColumns()
 {
-    if (m_model->rowCount() == 0 && m_fitted)
-        return;
-    QTableView* list = m_ui->m_list;
-    QHeaderView* header = list->horizontalHeader();
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(QHeaderView::Interactive);
-    list->resizeColumnsToContents();
+    QHeaderView* header = m_ui->m_list->horizontalHeader();
     int stretch = -1;
-    for (int c = 0; c < m_model->columnCount(); ++c) {
-        const int wanted = std::min(list->columnWidth(c), kMaxColumnWidth);
-        list->setColumnWidth(c, std::max(wanted, header->sectionSizeHint(c)));
+    for (int c = 0; c < m_model->columnCount(); ++c)
         if (!header->isSectionHidden(c) &&
             (stretch < 0 || m_model->column(c).column == m_info.store->info().nameColumn))
             stretch = c;
-    }
-    if (stretch >= 0)
-        header->setSectionResizeMode(stretch, QHeaderView::Stretch);
-    m_fitted = m_model->rowCount() > 0;
+    FitListColumns(m_ui->m_list, stretch, m_fitted);
 }
 
 std::optional<qint64> RecordBrowse::currentId() const

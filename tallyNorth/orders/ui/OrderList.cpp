@@ -97,7 +97,7 @@ void OrderList::reload()
         interaction().error(r.message());
     m_note->setText(OrderListQuery::moreMessage());
     m_note->setVisible(m_model->more());
-    m_view->resizeColumnsToContents();
+    FitListColumns(m_view, int(OrderListModel::Column::PartnerName), m_fitted);
     for (qint64 id : selected)
         selectId(id);
 }

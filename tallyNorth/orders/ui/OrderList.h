@@ -67,4 +67,5 @@ private:
     QLabel* m_note;
     QMenu* m_more;
     WindowInteraction m_interaction{this};
+    bool m_fitted = false; // the column widths come from rows
 };
