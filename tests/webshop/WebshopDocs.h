@@ -5,6 +5,7 @@
 #include "webshop/WebshopInteraction.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QHash>
 #include <QList>
 #include <QQueue>
@@ -50,27 +51,28 @@ inline QByteArray OrderXml(const QString& code, const QStringList& fields = {},
 {
     if (items.isEmpty())
         items << Item(code + "-1");
-    QByteArray xml =
-        "<ORDER>" +
-        Elements(fields,
-                 {"ORDERHEAD_CODE=" + code, "ORDERHEAD_TIMESTAMP=T-" + code,
-                  "ORDERHEAD_PARTNER_CODE=C-" + code, "ORDERHEAD_PARTNER_NAME=Vevő " + code,
-                  "ORDERHEAD_PARTNER_ZIP=1011", "ORDERHEAD_PARTNER_CITY=Budapest",
-                  "ORDERHEAD_PARTNER_ADDRESS=Fő utca 1.", "ORDERHEAD_PARTNER_MAIL_IS_SAME=1",
-                  "ORDERHEAD_PAYMENTMETHOD_CODE=KP", "ORDERHEAD_CURRENCY_ABBREVIATION=Ft",
-                  "ORDERHEAD_DATE_SHIPPED=2024.03.05."});
-    for (const QByteArray& item : std::as_const(items))
-        xml += item;
-    return xml + "</ORDER>";
+    return "<ORDER>" +
+           Elements(fields,
+                    {"ORDERHEAD_CODE=" + code, "ORDERHEAD_TIMESTAMP=T-" + code,
+                     "ORDERHEAD_PARTNER_CODE=C-" + code, "ORDERHEAD_PARTNER_NAME=Vevő " + code,
+                     "ORDERHEAD_PARTNER_ZIP=1011", "ORDERHEAD_PARTNER_CITY=Budapest",
+                     "ORDERHEAD_PARTNER_ADDRESS=Fő utca 1.", "ORDERHEAD_PARTNER_MAIL_IS_SAME=1",
+                     "ORDERHEAD_PAYMENTMETHOD_CODE=KP", "ORDERHEAD_CURRENCY_ABBREVIATION=Ft",
+                     "ORDERHEAD_DATE_SHIPPED=2024.03.05."}) +
+           items.join() + "</ORDER>";
+}
+
+// A document of the records under root.
+inline QByteArray Doc(const char* root, const QList<QByteArray>& records,
+                      const QByteArray& prolog = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>")
+{
+    return prolog + "\n<" + root + ">" + records.join() + "</" + root + ">\n";
 }
 
 inline QByteArray OrdersDoc(const QList<QByteArray>& orders,
                             const QByteArray& prolog = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>")
 {
-    QByteArray xml = prolog + "\n<ORDERS>";
-    for (const QByteArray& order : orders)
-        xml += order;
-    return xml + "</ORDERS>\n";
+    return Doc("ORDERS", orders, prolog);
 }
 
 // Answers the editor and chooser questions from queues and records which were asked.
