@@ -1,10 +1,11 @@
-// The master-data stores and product prices against a real company database.
+// The master-data stores, the folded names they search and product prices against a real
+// company database.
 #include "CompanyTestCase.h"
 #include "TestData.h"
 
 #include "Columns.h"
+#include "base/FoldName.h"
 #include "base/Setup.h"
-#include "base/SqlStatement.h"
 #include "masterdata/MasterTables.h"
 #include "masterdata/ProductPrices.h"
 
@@ -165,6 +166,33 @@ private Q_SLOTS:
                  "Unable to load data from database.&Maybe it is deleted by an other user.");
         QCOMPARE(VatStore().save(row, id).message(), "Unable to save data.");
         QCOMPARE(Count("select count(*) from VAT where VAT_ID = ?", {*id}), 0);
+    }
+
+    // The searchable form behind every ..._NAME_ASCII column and every name search.
+    void fold_data()
+    {
+        AddColumns<QString, QString>({"name", "folded"});
+        const auto row = [](const char* name, const QString& text, const char* folded) {
+            QTest::newRow(name) << text << QString::fromUtf8(folded);
+        };
+        // Hungarian in both cases, the double acute of ő and ű included.
+        row("upper", "ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP", "ARVIZTURO TUKORFUROGEP");
+        row("combining accents", QString::fromUtf8("A\xcc\x81rvi\xcc\x81z"), "ARVIZ");
+        row("sharp s", "Größe Straße GROẞE", "GROSSE STRASSE GROSSE");
+        // Other Latin letters: with marks, and those that do not decompose.
+        row("with marks", "Čapek façade Ñandú Şişli İstanbul", "CAPEK FACADE NANDU SISLI ISTANBUL");
+        row("own letters", "Łódź Øresund Ærø Đorđe cœur ılık Þór",
+            "LODZ ORESUND AERO DORDE COEUR ILIK THOR");
+        row("compatibility forms", "ﬁnom ＡＢＣ", "FINOM ABC");
+        // Everything else stays, only upper-cased.
+        row("punctuation and digits", "1. sz. Bt. & Co (kft)", "1. SZ. BT. & CO (KFT)");
+        row("cyrillic", "Москва", "МОСКВА");
+    }
+
+    void fold()
+    {
+        auto [name, folded] = Fetch<QString, QString>({"name", "folded"});
+        QCOMPARE(FoldName(name), folded);
     }
 
     void partnerNameIsFoldedAndFoundByPrefix_data()
@@ -334,8 +362,6 @@ private Q_SLOTS:
         QVERIFY(ExecSql("delete from CURRENCYY where CURRENCY_ID <> 0"));
         QVERIFY(!ListPriceCurrency());
     }
-
-private:
 };
 
 QTEST_GUILESS_MAIN(TestTableStore)

@@ -40,19 +40,6 @@ private Q_SLOTS:
                  problem == TaxNoProblem::None || taxNo.isEmpty());
     }
 
-    void checkDigit_data()
-    {
-        AddColumns<QString, int>({"digits", "check"});
-        AddRow("1234567", QString("1234567"), 6);
-        AddRow("0000000", QString("0000000"), 0);
-        AddRow("9999999", QString("9999999"), 9);
-    }
-    void checkDigit()
-    {
-        const auto [digits, check] = Fetch<QString, int>({"digits", "check"});
-        QCOMPARE(HungarianTaxNoCheckDigit(digits), check);
-    }
-
     void euVat_data()
     {
         AddColumns<QString, TaxNoProblem>({"vatNo", "problem"});

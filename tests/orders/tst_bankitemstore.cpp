@@ -1,13 +1,16 @@
 // Payments against real company databases: partial payments, the settling tolerance and the
 // overpayment, the refusals of what can not be paid, one transaction for the bank item and the
-// paid state.
+// paid state; and "Add Bank Item" on the offscreen platform.
 #include "CompanyTestCase.h"
+#include "ModalDriver.h"
 #include "OrdersTestData.h"
+#include "ScriptedInteraction.h"
 
 #include "base/DateText.h"
-#include "base/Setup.h"
 #include "orders/BankItemStore.h"
+#include "orders/ui/BankitemEdit.h"
 
+#include <QLineEdit>
 #include <QtTest>
 
 namespace {
@@ -141,7 +144,50 @@ private Q_SLOTS:
         QCOMPARE(after.unpaidTotal, 60.0); // the window's copy is not advanced either
         QCOMPARE(QueryText("select count(*) from BANKITEM"), QString("1"));
     }
+
+    // The window: a refusal keeps it open with what was typed and writes nothing; what is
+    // accepted is stored field by field.
+    void window_data()
+    {
+        AddColumns<QString, QString, QString>({"date", "amount", "message"});
+        AddRow("stored", QString("2024.05.18."), QString("40,5"), QString());
+        AddRow("no date", QString(""), QString("40"),
+               QString("Bankitem Transfer Date mustn't not be empty."));
+        AddRow("letters", QString("2024.05.20."), QString("negyven"),
+               QString("\"negyven\" is not an amount. Type digits, with a decimal comma or "
+                       "point."));
+        AddRow("10^12", QString("2024.05.20."), QString("1000000000000"),
+               QString("The paid total is too large."));
+    }
+    void window()
+    {
+        auto [date, amount, message] =
+            Fetch<QString, QString, QString>({"date", "amount", "message"});
+        const qint64 id = InsertInvoice();
+        BankItemInvoice invoice;
+        QVERIFY(BankItemStore::loadInvoice(id, invoice));
+        ScriptedInteraction ask;
+        BankitemEdit edit(invoice, nullptr, kToday);
+        edit.setInteraction(&ask);
+        edit.show();
+        QCOMPARE(Child<QLineEdit>(&edit, "paidTotal")->text(), QString("100")); // what is owed
+        const QStringList fields{"recordNo", "transferDate", "paidTotal", "comment"};
+        const QStringList typed{"2024/118", date, amount, "első részlet"};
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            Child<QLineEdit>(&edit, qPrintable(fields[i]))->setText(typed[i]);
+        edit.accept();
+        QCOMPARE(ask.lastMessage(), message);
+        QCOMPARE(edit.isVisible(), !message.isEmpty());
+        QCOMPARE(Child<QLineEdit>(&edit, "paidTotal")->text(), amount);
+        QCOMPARE(QueryText("select BANKITEM_ORDERHEAD_ID, BANKITEM_INVOICE_NO_STR, "
+                           "BANKITEM_RECORD_NO, BANKITEM_TRANSFER_DATE, BANKITEM_PAID_TOTAL, "
+                           "BANKITEM_COMMENT from BANKITEM"),
+                 message.isEmpty()
+                     ? QString("%1|INV7|2024/118|2024-05-18|40.5|első részlet").arg(id)
+                     : QString());
+        QCOMPARE(edit.invoice().unpaidTotal, message.isEmpty() ? 59.5 : 100.0);
+    }
 };
 
-QTEST_GUILESS_MAIN(TestBankItemStore)
+QTEST_MAIN(TestBankItemStore)
 #include "tst_bankitemstore.moc"

