@@ -7,12 +7,10 @@
 
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
-#include "documents/AmountInWords.h"
 #include "documents/ui/ChequeEdit.h"
 #include "documents/ui/ChequeFilter.h"
 #include "documents/ui/ChequeList.h"
 #include "documents/ui/ChequeListModel.h"
-#include "documents/ui/ChequePrinter.h"
 #include "orders/ChequeStore.h"
 #include "orders/ui/OrderList.h"
 #include "orders/ui/OrderPrintHooks.h"
@@ -22,7 +20,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QTableView>
 #include <QtTest>
 
@@ -30,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-qint64 AddCheque(const QString& name, double amount, bool printed)
+void AddCheque(const QString& name, double amount, bool printed)
 {
     Cheque c;
     c.partnerName = name;
@@ -38,7 +35,6 @@ qint64 AddCheque(const QString& name, double amount, bool printed)
     c.invoiceNoText = QStringLiteral("INV-%1").arg(qint64(amount));
     if (!ChequeStore::save(c) || (printed && !ChequeStore::markPrinted({c.id}, QDate(2024, 3, 5))))
         qFatal("cheque not stored");
-    return c.id;
 }
 
 } // namespace
@@ -52,10 +48,9 @@ private Q_SLOTS:
         QVERIFY(m_company.emplace().isValid());
         QVERIFY(Setup::current().load());
         m_ask = ScriptedInteraction();
-        m_ids.clear();
         const QStringList names{"Árvíztűrő Kft", "Béla", "Cecília", "Dénes", "Ernő"};
         for (int i = 0; i < names.size(); ++i)
-            m_ids << AddCheque(names[i], 1000 * (i + 1), i == 1 || i == 3);
+            AddCheque(names[i], 1000 * (i + 1), i == 1 || i == 3);
         m_list.emplace();
         m_list->setInteraction(&m_ask);
         m_list->reload();
@@ -66,29 +61,21 @@ private Q_SLOTS:
         m_company.reset();
     }
 
+    // Newest first; the record limit cuts the list and says so.
     void listsNewestFirst()
     {
         ChequeListModel* model = m_list->model();
         QAbstractItemModelTester tester(model,
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
         m_list->reload();
-        QCOMPARE(model->rowCount(), 5);
         QCOMPARE(ColumnTexts(model, 2),
                  (QStringList{"Ernő", "Dénes", "Cecília", "Béla", "Árvíztűrő Kft"}));
-        QCOMPARE(ColumnTexts(model, 3).first(), QString("5\u00a0000"));
         QCOMPARE(ColumnTexts(model, 4), (QStringList{"", "2024.03.05.", "", "2024.03.05.", ""}));
-        QVERIFY(m_list->view()->isColumnHidden(0));
-    }
-
-    void limitSaysThereAreMore()
-    {
         QVERIFY(Setup::write({{"SETUP_RECORD_LIMIT", 3}}));
         m_list->reload();
-        QCOMPARE(m_list->model()->rowCount(), 3);
+        QCOMPARE(ColumnTexts(model, 2), (QStringList{"Ernő", "Dénes", "Cecília"}));
         const auto* note = m_list->findChild<QLabel*>("note");
-        QVERIFY(!note->isHidden());
-        QCOMPARE(note->text(), QString("There are more matching cheques then displayed. Try "
-                                       "more specific filter."));
+        QVERIFY(!note->isHidden() && note->text().startsWith("There are more matching cheques"));
     }
 
     void filterByPartnerBeginning()
@@ -144,45 +131,36 @@ private Q_SLOTS:
 
     void editSavesNewPayerOnAnswer_data()
     {
-        AddColumns<QString, bool, QString, QString, QString>(
-            {"amount", "store", "message", "stored", "partners"});
-        const auto row = [](const char* name, const char* amount, bool store, const char* message,
-                            const char* stored, const char* partners) {
-            AddRow(name, QString(amount), store, QString(message), QString(stored),
-                   QString(partners));
-        };
-        row("stored in basic data", "1 234,5", true, "", "Új Fizető|1235|1", "2");
-        row("kept on the cheque only", "99", false, "", "Új Fizető|99|0", "1");
-        row("no amount", "", true, "Az osszeget meg kell adnia.", "", "1");
+        AddColumns<QString, bool, QString, QString>({"amount", "store", "stored", "partners"});
+        AddRow("stored in basic data", u"1 234,5"_s, true, u"Új Fizető|1235|1|first\nsecond"_s,
+               u"2"_s);
+        AddRow("kept on the cheque only", u"99"_s, false, u"Új Fizető|99|0|first\nsecond"_s,
+               u"1"_s);
     }
     void editSavesNewPayerOnAnswer()
     {
-        auto [amount, store, message, stored, partners] =
-            Fetch<QString, bool, QString, QString, QString>(
-                {"amount", "store", "message", "stored", "partners"});
+        auto [amount, store, stored, partners] =
+            Fetch<QString, bool, QString, QString>({"amount", "store", "stored", "partners"});
         QVERIFY(ExecSql("delete from CHEQUE"));
         ChequeEdit edit;
         edit.setInteraction(&m_ask);
         QVERIFY(edit.load(0));
-        QCOMPARE(edit.windowTitle(), QString("Create Cheque"));
         edit.findChild<QLineEdit*>("m_partner_name")->setText("Új Fizető");
         edit.findChild<QLineEdit*>("m_partner_city")->setText("Pécs");
         edit.findChild<QLineEdit*>("m_amount")->setText(amount);
         edit.findChild<QPlainTextEdit*>("m_notice")->setPlainText("first\nsecond");
         m_ask.yesNoAnswers.enqueue(store);
-        QCOMPARE(edit.save(), message.isEmpty());
-        QCOMPARE(m_ask.lastMessage(), message);
+        QVERIFY(edit.save());
+        QCOMPARE(m_ask.questions,
+                 QStringList{"This partner is not in basic data yet. Do you want to store it "
+                             "there?"});
+        // Saved once, the window edits that cheque from now on.
+        QCOMPARE(edit.windowTitle(), QString("Edit Cheque"));
         QCOMPARE(QueryText("select CHEQUE_PARTNER_NAME || '|' || cast(CHEQUE_AMOUNT as integer) "
-                           "|| '|' || (CHEQUE_PARTNER_ID is not null) from CHEQUE"),
+                           "|| '|' || (CHEQUE_PARTNER_ID is not null) || '|' || CHEQUE_NOTICE "
+                           "from CHEQUE"),
                  stored);
         QCOMPARE(QueryText("select count(*) from PARTNER"), partners);
-        if (message.isEmpty()) {
-            QCOMPARE(m_ask.questions,
-                     QStringList{"This partner is not in basic data yet. Do you want to store "
-                                 "it there?"});
-            QCOMPARE(edit.windowTitle(), QString("Edit Cheque"));
-            QCOMPARE(QueryText("select CHEQUE_NOTICE from CHEQUE"), QString("first\nsecond"));
-        }
     }
 
     void changedKnownPayer_data()
@@ -221,42 +199,6 @@ private Q_SLOTS:
                  cheque);
     }
 
-    void amountInWordsFollowsTyping()
-    {
-        ChequeEdit edit;
-        edit.setInteraction(&m_ask);
-        QVERIFY(edit.load(m_ids[0]));
-        QCOMPARE(edit.windowTitle(), QString("Edit Cheque"));
-        auto* words = edit.findChild<QLabel*>("m_amount_text");
-        QCOMPARE(words->text(), AmountInWords(1000));
-        edit.findChild<QLineEdit*>("m_amount")->setText("2500,5");
-        QCOMPARE(words->text(), AmountInWords(2501));
-        edit.findChild<QLineEdit*>("m_amount")->setText("x");
-        QCOMPARE(words->text(), QString());
-    }
-
-    void goneChequeIsReported()
-    {
-        QVERIFY(ExecSql("delete from CHEQUE where CHEQUE_ID = ?", {m_ids[0]}));
-        ChequeEdit edit;
-        edit.setInteraction(&m_ask);
-        QVERIFY(!edit.load(m_ids[0]));
-        QCOMPARE(m_ask.lastMessage(), QString("Csekk adatainak betoltese nem sikerult.&"
-                                              "Elkepzelheto, hogy egy masik felhasznalo mar "
-                                              "torolte."));
-    }
-
-    void printModeFollowsTheSelection()
-    {
-        ChequePrinter none(false);
-        QCOMPARE(none.mode(), ChequePrintMode::AllUnprinted);
-        QVERIFY(!none.findChild<QRadioButton*>("m_print_selected_only")->isEnabled());
-        ChequePrinter some(true);
-        QCOMPARE(some.mode(), ChequePrintMode::SelectedOnly);
-        some.findChild<QRadioButton*>("m_all")->setChecked(true);
-        QCOMPARE(some.mode(), ChequePrintMode::AllUnprinted);
-    }
-
     void orderListHandsSelectedInvoicesToTheCheques()
     {
         QList<qint64> handed;
@@ -286,7 +228,6 @@ private:
     std::optional<TestCompany> m_company;
     std::optional<ChequeList> m_list;
     ScriptedInteraction m_ask;
-    QList<qint64> m_ids;
 };
 
 QTEST_MAIN(TestChequeList)

@@ -43,7 +43,6 @@ private Q_SLOTS:
              pdf},
             0);
         row("no output", {"qtf", "x.qtf"}, 2);
-        row("both outputs", {"qtf", "x.qtf", "--text", "--pdf", "o.pdf"}, 2);
         row("bad page", {"qtf", "x.qtf", "--page", "10x", "--pdf", "o.pdf"}, 2);
         row("missing file", {"qtf", "/nonexistent/x.qtf", "--text"}, 1);
         row("template dir", {"template", "check", "/nonexistent"}, 1);

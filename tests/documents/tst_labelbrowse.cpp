@@ -68,18 +68,6 @@ private Q_SLOTS:
         QCOMPARE(LabelTranslations::current().bilingual(u"TR_INVOICE"_s, 1), u"Számla"_s);
     }
 
-    void saveFailureIsShown()
-    {
-        OrderLabelTranslationBrowse browse(m_ask);
-        QVERIFY(browse.load());
-        browse.setRowTexts(RowOf(browse.table(), u"TR_RATE"_s), {QString(), u"Exchange"_s});
-        QVERIFY(ExecSql(u"drop table ORDERLABELTRANSLATION"_s));
-        browse.accept();
-        QVERIFY(m_ask.lastMessage().startsWith("Unable to save data."));
-        QVERIFY(browse.result() != int(QDialog::Accepted));
-        QCOMPARE(LabelTranslations::current().get(u"TR_RATE"_s, 1), "Rate");
-    }
-
 private:
     ScriptedInteraction m_ask;
 };

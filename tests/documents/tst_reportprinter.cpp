@@ -28,7 +28,7 @@ class TestReportPrinter : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void printsAtPrinterResolution()
+    void printsAtPrinterResolutionOnTheReportsPaper()
     {
         QTemporaryDir dir;
         QPrinter printer(QPrinter::HighResolution);
@@ -43,14 +43,10 @@ private Q_SLOTS:
         QVERIFY(pages[0].contains(u"Első oldal"_s) && pages[0].contains(u"1. oldal"_s));
         QVERIFY(pages[1].contains(u"Második oldal"_s) && pages[1].contains(u"2. oldal"_s) &&
                 pages[1].contains(u"Árvíztűrő fejléc"_s));
-    }
 
-    // A cheque prints on its own paper size, the default area on A4.
-    void paperFollowsTheReport()
-    {
+        // A cheque prints on its own paper size, the default area on A4.
         Report cheque;
         cheque.setPageSize(QSize(4724, 2125));
-        QPrinter printer(QPrinter::HighResolution);
         PreparePrinter(printer, cheque);
         const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Inch).size() * 600;
         QVERIFY2(qAbs(paper.width() - 4724) < 10 && qAbs(paper.height() - 2125) < 10,

@@ -292,11 +292,13 @@ private Q_SLOTS:
                                  Dated(ReportDate::Shipped, "2024-03-01", "2024-03-31"), table)
                     .ok());
         const QStringList lines = ReportOutput::text(table).split(u'\n');
-        QCOMPARE(lines.value(0), u"Customers Report In Local Currency (HUF)"_s);
-        QCOMPARE(lines.value(1), u"Filter by date shipped: 2024.03.01. - 2024.03.31."_s);
-        QCOMPARE(lines.value(3), u"Partner Name    Net  VAT  Gross"_s);
-        QCOMPARE(lines.value(4), u"Alfa Kft.     31000  270  31270"_s);
-        QCOMPARE(lines.value(8), u"Total         31300  351  31651"_s);
+        QCOMPARE(
+            (QStringList{lines.value(0), lines.value(1), lines.value(3), lines.value(4),
+                         lines.value(8)}),
+            (QStringList{u"Customers Report In Local Currency (HUF)"_s,
+                         u"Filter by date shipped: 2024.03.01. - 2024.03.31."_s,
+                         u"Partner Name    Net  VAT  Gross"_s, u"Alfa Kft.     31000  270  31270"_s,
+                         u"Total         31300  351  31651"_s}));
     }
 
     void printedForm()
