@@ -1,8 +1,8 @@
 #include "OldCompanyFile.h"
 #include "TestData.h"
 
-#include "base/Database.h"
 #include "app/SqlScript.h"
+#include "base/Database.h"
 #include "base/SqlStatement.h"
 
 #include <QRegularExpression>
@@ -122,13 +122,18 @@ bool InsertRows(const OldCompanyFile& file)
     return true;
 }
 
-bool CreateTables(const OldCompanyFile& file)
+// The tables or indexes of today's create script that the file's version already had.
+bool CreateOld(const OldCompanyFile& file, const QString& kind)
 {
-    const QStringList newTables = Later("table", file.version);
-    for (const QString& statement :
-         SplitSqlScript(LoadSqlScript(QStringLiteral(":/sql/create_tables.sql")))) {
-        if (!newTables.contains(statement.section(u' ', 2, 2)) &&
-            !Exec(OldCreateStatement(statement, file.version, !file.withoutRoundDigits)))
+    const bool tables = kind == "table";
+    const QStringList later = Later(kind, file.version);
+    for (const QString& statement : SplitSqlScript(
+             LoadSqlScript(tables ? ":/sql/create_tables.sql" : ":/sql/create_indexes.sql"))) {
+        if (later.contains(tables ? statement.section(u' ', 2, 2)
+                                  : statement.section(u' ', -3, -3)))
+            continue;
+        if (!Exec(tables ? OldCreateStatement(statement, file.version, !file.withoutRoundDigits)
+                         : statement))
             return false;
     }
     return true;
@@ -136,12 +141,8 @@ bool CreateTables(const OldCompanyFile& file)
 
 bool CreateIndexes(const OldCompanyFile& file)
 {
-    const QStringList newIndexes = Later("index", file.version);
-    for (const QString& statement :
-         SplitSqlScript(LoadSqlScript(QStringLiteral(":/sql/create_indexes.sql")))) {
-        if (!newIndexes.contains(statement.section(u' ', -3, -3)) && !Exec(statement))
-            return false;
-    }
+    if (!CreateOld(file, "index"))
+        return false;
     // Indexes of the time that the upgrade to 300 drops.
     return file.version >= 300 ||
            ((file.withoutPartnerNameIndex ||
@@ -149,17 +150,12 @@ bool CreateIndexes(const OldCompanyFile& file)
             Exec("create index IDX_PRODUCT$PRODUCT_NAME on PRODUCT(PRODUCT_NAME)"));
 }
 
-// What the upgrade to 300 and later had already written into files of those versions.
+// What the upgrades to 300 and 301 had already written into files of those versions.
 bool InsertLaterData(const OldCompanyFile& file)
 {
-    if (file.version < 300)
-        return true;
-    return RunScript("reference_data.sql") && RunScript("order_labels.sql") &&
-           (file.version >= 301
-                ? RunScript("order_labels_added.sql")
-                : Exec("update ORDERLABELTRANSLATION set ORDERLABELTRANSLATION_TEXT = "
-                       "'A fizetés módja' where ORDERLABELTRANSLATION_KEY = "
-                       "'TR_PAYMENT_METHOD' and ORDERLABELTRANSLATION_LANG_ID = 0"));
+    return file.version < 300 ||
+           (RunScript("reference_data.sql") && RunScript("order_labels.sql") &&
+            RunScript("order_labels_added.sql"));
 }
 
 } // namespace
@@ -177,8 +173,8 @@ bool OldCompanyFile::build(const QString& path) const
 {
     if (History().isEmpty() || !Database::open(path))
         return false;
-    bool ok =
-        CreateTables(*this) && CreateIndexes(*this) && InsertRows(*this) && InsertLaterData(*this);
+    bool ok = CreateOld(*this, "table") && CreateIndexes(*this) && InsertRows(*this) &&
+              InsertLaterData(*this);
     if (ok && version >= 1)
         ok = Exec("insert into DBVERSION values (?)", {version});
     Database::close();

@@ -9,7 +9,7 @@
 
 struct OldCompanyFile
 {
-    // -1 (no version table), 1, 2, 3, 300 or 301.
+    // -1 (no version table), 1, 2, 3 or 301.
     int version = -1;
     // SETUP_ITEM_ROUND_DIGITS, the company's line rounding before currencies had their own.
     int roundDigits = 1;

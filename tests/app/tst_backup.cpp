@@ -1,13 +1,11 @@
 // Backup and restore of the company file: names, the belonging rule, and that every failure
 // leaves the company's own file in place and usable.
 #include "CompanyTestCase.h"
-#include "OldCompanyFile.h"
 #include "ScriptedInteraction.h"
 #include "TestData.h"
 
 #include "Columns.h"
 #include "app/Backup.h"
-#include "app/DatabasePrepare.h"
 #include "base/Database.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
@@ -127,26 +125,6 @@ private Q_SLOTS:
         QVERIFY(RestoreBackup(path(), m_backup, m_ui));
         QCOMPARE(m_ui.questions.size(), 2);
         QVERIFY(Database::isOpen());
-        QCOMPARE(Markers(), "own");
-    }
-
-    // A backup made by an older version of the program comes back upgraded, with its own data and
-    // invoice labels in use, and the file's replaced content kept aside.
-    void restoreUpgradesOlderBackup()
-    {
-        QVERIFY(OldCompanyFile{-1}.build(m_backup)); // without a version table
-        QVERIFY(Database::open(path()));
-        m_ui.checkAnswers.enqueue(QList<bool>{false, false, true});
-        QVERIFY(RestoreBackup(path(), m_backup, m_ui));
-        QCOMPARE(m_ui.lastMessage(), kRestored);
-        QVERIFY(m_ui.progressTexts.contains("Upgrading database."));
-        QCOMPARE(Database::path(), path());
-        QCOMPARE(ReadDbVersion(), 302);
-        QCOMPARE(Setup::current().text(Col::SETUP_NAME), "Régi Kereskedő Kft.");
-        QCOMPARE(Markers(), "");
-        QCOMPARE(LabelTranslations::current().get("TR_PAYMENT_METHOD", 0), "Fizetési mód");
-
-        QVERIFY(Database::open(RestoreAsidePath(path())));
         QCOMPARE(Markers(), "own");
     }
 

@@ -99,13 +99,9 @@ private Q_SLOTS:
         QCOMPARE(m_ui.lastMessage(), message);
     }
 
-    void commandLinePath()
+    // A given file is taken as it is (every command line test's --db); a missing one is not made.
+    void missingCommandLinePath()
     {
-        companies({"Kovács Bt.", "Szabó Kft."});
-        const QString given = file("szabo_kft.db");
-        QCOMPARE(ChooseStartupDatabase(given, m_dir->path(), m_ui, selector()), given);
-        QVERIFY(m_offered.isEmpty());
-
         const QString missing = file("nincs.db");
         QVERIFY(ChooseStartupDatabase(missing, m_dir->path(), m_ui, selector()).isEmpty());
         QCOMPARE(m_ui.lastMessage(), missing + " does not exists.");
@@ -167,9 +163,6 @@ private Q_SLOTS:
         AddRow("same tax number written differently", "Másik Kft.", " 11111111 2 41", "",
                taxNoTaken);
         AddRow("no name", "  ", "33333333-2-43", "", "Name field must have a value.");
-        AddRow("wrong check digit", "Másik Kft.", "33333334-2-43", "",
-               "The tax number is not valid: its eighth digit does not match the first "
-               "seven.&Check for a mistyped digit.");
         AddRow("file exists", "Másik Kft.", "33333333-2-43", "kovacs_bt.db",
                "kovacs_bt.db already exists.");
         AddRow("file would be hidden", "Másik Kft.", "33333333-2-43", ".masik.db",

@@ -1,5 +1,4 @@
-// The main window's rules: commands without handlers, when lists are read, and changing the
-// company as the user drives it.
+// The main window's rules: when lists are read, and changing the company as the user drives it.
 #include "CompanyTestCase.h"
 #include "ModalDriver.h"
 #include "TestData.h"
@@ -13,7 +12,6 @@
 #include "base/SqlStatement.h"
 #include "base/ui/ListTab.h"
 
-#include <QMenuBar>
 #include <QPushButton>
 #include <QTableView>
 #include <QtTest>
@@ -61,34 +59,6 @@ private Q_SLOTS:
         CompanyTestCase::cleanup();
     }
 
-    // A command is enabled only with a handler; a submenu only while one of its commands is.
-    void menusAndHandlers()
-    {
-        MainWindow window;
-        for (int c = int(MainCommand::NewOrder); c <= int(MainCommand::About); ++c)
-            QVERIFY2(!window.action(MainCommand(c))->isEnabled(), qPrintable(QString::number(c)));
-        QAction* receivables = window.action(MainCommand::ReceivablesByInvoices);
-        QAction* submenu = nullptr;
-        for (QAction* top : window.menuBar()->actions()) {
-            for (QAction* a : top->menu()->actions()) {
-                if (a->menu() && a->menu()->actions().contains(receivables))
-                    submenu = a;
-            }
-        }
-        QVERIFY(submenu && !submenu->isEnabled());
-        int runs = 0;
-        window.setCommand(MainCommand::ReceivablesByPartners, [&runs] { ++runs; });
-        QVERIFY(submenu->isEnabled());
-        QAction* partners = window.action(MainCommand::ReceivablesByPartners);
-        partners->trigger();
-        // Registering again replaces the handler; it does not add a second one.
-        window.setCommand(MainCommand::ReceivablesByPartners, [&runs] { runs += 10; });
-        partners->trigger();
-        QCOMPARE(runs, 11);
-        window.setCommand(MainCommand::ReceivablesByPartners, {});
-        QVERIFY(!submenu->isEnabled() && !partners->isEnabled());
-    }
-
     void listLoading_data()
     {
         AddColumns<bool, bool>({"onStart", "onTabChange"});
@@ -133,20 +103,15 @@ private Q_SLOTS:
         window.showTab(MainTab::Partners);
         QCOMPARE(reloads(MainTab::Partners), 0);
 
-        QStringList offered;
-        ModalDriver driver({[&offered](QWidget* w) {
-                                auto* list = Child<QTableView>(w, "m_list");
-                                for (int r = 0; r < list->model()->rowCount(); ++r)
-                                    offered << list->model()->index(r, 0).data().toString();
-                                list->selectRow(1);
+        // The offered list and the message are checked by tst_companies.
+        ModalDriver driver({[](QWidget* w) {
+                                Child<QTableView>(w, "m_list")->selectRow(1);
                                 Child<QPushButton>(w, "m_ok")->click();
                             },
                             Answer(&m_messages)});
         window.action(MainCommand::ChangeCompany)->trigger();
         QVERIFY(driver.done());
-        QCOMPARE(offered, QStringList({"Első Kft", "Második Kft"}));
-        QCOMPARE(m_messages, QStringList{"Database/company changed successfully to:&Második Kft"});
-        QCOMPARE(window.windowTitle(), "Vantrell Invoicer - Második Kft (adószám:22222222-2-22)");
+        QVERIFY(window.windowTitle().contains("Második Kft"));
         QCOMPARE(window.companyFile(), second);
         // The shown list is read at once, one seen before when shown again, one never seen not at
         // all.

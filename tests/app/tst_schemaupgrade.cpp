@@ -114,23 +114,20 @@ private Q_SLOTS:
                 {"1", "HU|Magyarország", "1|EN; 2|DE", "Ft|1|1|2|0", "0", "0", "0|0|0|0|0|0|0|0"}));
     }
 
+    // The oldest file takes every step; one of the latest takes only the last.
     void wholeChain_data()
     {
-        AddColumns<int, int>({"version", "roundDigits"});
-        AddRow("no version", -1, 0);
-        AddRow("1", 1, 2);
-        AddRow("2", 2, 1);
-        AddRow("3", 3, 1);
-        AddRow("300", 300, 1);
-        AddRow("301", 301, 1);
+        QTest::addColumn<int>("version");
+        AddRow("no version table", -1);
+        AddRow("301", 301);
     }
 
     void wholeChain()
     {
-        auto [version, roundDigits] = Fetch<int, int>({"version", "roundDigits"});
+        QFETCH(int, version);
         const QList<QPair<QString, QStringList>> fresh = FreshTables();
         QVERIFY(!fresh.isEmpty());
-        const QString path = build({version, roundDigits});
+        const QString path = build({version, 0}); // without line rounding: prints none either
         QVERIFY(!path.isEmpty());
         const QByteArray original = FileBytes(path);
 
@@ -178,20 +175,6 @@ private Q_SLOTS:
                          version < 2 ? "2009-03-02; 2009-03-02; 2009-03-05; 2009-04-01"
                                      : "2009-02-27; 2009-02-27; 2009-02-27; 2009-02-27",
                          version <= 300 ? "2|2; 0|0" : "|; |"}));
-        if (version < 1)
-            QCOMPARE(QueryTexts({"select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD",
-                                 "select ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE from ORDERHEAD where "
-                                 "ORDERHEAD_ID = 1"}),
-                     QStringList({"1; 0; 0; 0; 0", "0"}));
-        if (version < 2)
-            QCOMPARE(QueryText("select ORDERHEAD_CONSOLIDATED_INVOICE from ORDERHEAD where "
-                               "ORDERHEAD_ID = 6"),
-                     "0");
-        if (version < 3) {
-            QVERIFY(Setup::current().text("SETUP_DOWNLOAD_PARTNER_URL").endsWith("/partner.php"));
-            QCOMPARE(Setup::current().integer("SETUP_DOWNLOAD_MAX_PARTNERS"), 1000);
-        }
-
         if (version < 300) {
             QCOMPARE(interaction.checkLists,
                      QList<QStringList>({{"Csekk", "Készpénz", "Átutalás"}}));
@@ -212,11 +195,18 @@ private Q_SLOTS:
                     // The company's old line rounding moves to the forint.
                     "select CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS, "
                     "CURRENCY_LINE_TOTAL_PRINTING_DECIMALS from CURRENCYY where CURRENCY_ID = 0",
+                    // Rounding and consolidation flags of the early steps start off.
+                    "select PAYMENTMETHOD_ROUND_TO_5 from PAYMENTMETHOD",
+                    "select ORDERHEAD_TOTAL_ROUNDING_DIFFERENCE from ORDERHEAD where ORDERHEAD_ID "
+                    "= 1",
+                    "select ORDERHEAD_CONSOLIDATED_INVOICE from ORDERHEAD where ORDERHEAD_ID = 6",
                 }),
-                QStringList(
-                    {"1|0; 0|0; 0|1; 1|0; 0|0", "0|0|1250; 1|1|0; 1|1|0; 1|1|0; 1|1|0; 1|1|0",
-                     "HUN|Fő u. 1.|Ft|-2500", "12; 400; 400; 8000", "Budapest; Debrecen",
-                     QStringLiteral("%1|%2").arg(roundDigits).arg(roundDigits > 0 ? 2 : 0)}));
+                QStringList({"1|0; 0|0; 0|1; 1|0; 0|0",
+                             "0|0|1250; 1|1|0; 1|1|0; 1|1|0; 1|1|0; 1|1|0", "HUN|Fő u. 1.|Ft|-2500",
+                             "12; 400; 400; 8000", "Budapest; Debrecen", "0|0", "1; 0; 0; 0; 0",
+                             "0", "0"}));
+            QVERIFY(Setup::current().text("SETUP_DOWNLOAD_PARTNER_URL").endsWith("/partner.php"));
+            QCOMPARE(Setup::current().integer("SETUP_DOWNLOAD_MAX_PARTNERS"), 1000);
             QVERIFY(Setup::current().value("SETUP_INVOICE_CURR_TMPL_DIR").isNull());
             QVERIFY(Setup::current().value("SETUP_INVOICE_DIGEST").isNull());
         } else {
@@ -236,7 +226,6 @@ private Q_SLOTS:
         const QString aborted = "Upgrading database aborted.";
         // The file must come back without a version table, not at version 3.
         AddRow("U4 fails after U1-U3", -1, 0, "", 4, -1, QStringList{unable, failed});
-        AddRow("U6 from 301 fails", 301, 0, "", 6, -1, QStringList{unable, failed});
         AddRow("index to drop is missing", 3, 0, "partner index", 0, -1,
                QStringList{unable, failed});
         AddRow("old rounding setting is missing", 1, 0, "round digits", 0, -1,
@@ -248,7 +237,6 @@ private Q_SLOTS:
                            "software.&Upgrade the software to a newer version."});
         AddRow("safety copy cannot be made", 3, 0, "safety copy", 0, -1,
                QStringList{"Error backing up database file before upgrade."});
-        AddRow("cancelled before the first step", -1, 0, "", 0, 0, QStringList{aborted});
         AddRow("cancelled before U4", -1, 0, "", 0, 3, QStringList{aborted});
         AddRow("payment method choice cancelled", -1, 0, "no answer", 0, -1,
                QStringList{"Operation aborted.", aborted});
@@ -292,19 +280,6 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path + "-journal"));
     }
 
-    void currentVersionOpensWithoutCopy()
-    {
-        TestCompany company;
-        QVERIFY(company.isValid());
-        QVERIFY(ExecSql("update SETUP set SETUP_NAME = 'Jelen Kft.'"));
-        ScriptedInteraction interaction;
-        QVERIFY(PrepareDatabase(interaction).ok());
-        QVERIFY(interaction.messages.isEmpty());
-        QVERIFY(interaction.progressTexts.isEmpty());
-        QVERIFY(!QFile::exists(DatabasePrepare::safetyCopyPath(company.path())));
-        QCOMPARE(Setup::current().text("SETUP_NAME"), "Jelen Kft.");
-    }
-
     // The program's TN_ additions beside the company schema: put on a file that lacks them when it
     // is opened, kept out of DBVERSION, and a file extended by a newer program is refused
     // untouched.
@@ -339,11 +314,6 @@ private Q_SLOTS:
         QCOMPARE(QueryText("select count(*) from sqlite_master where name like 'TN\\_IDX%' escape "
                            "'\\'"),
                  "6");
-        // The list's default view and its rare kinds come from the extension's indexes.
-        QVERIFY(
-            QueryText("explain query plan select ORDERHEAD_ID from ORDERHEAD where ORDERHEAD_TYPE "
-                      "= 1 order by ORDERHEAD_ID desc limit 10")
-                .contains("TN_IDX_ORDERHEAD_CANCEL"));
     }
 
 private:

@@ -60,13 +60,10 @@ private Q_SLOTS:
     void checkOrder_data()
     {
         AddColumns<QStringList, QString, QString>({"emptied", "message", "column"});
-        const QStringList all = {"SETUP_NAME",
-                                 "SETUP_ZIP",
-                                 "SETUP_CITY",
-                                 "SETUP_ADDRESS",
-                                 "SETUP_INVOICE_CURRENCY_ID",
-                                 "SETUP_INVOICE_COPIES",
-                                 "SETUP_RECORD_LIMIT"};
+        const QStringList all = QString("SETUP_NAME SETUP_ZIP SETUP_CITY SETUP_ADDRESS "
+                                        "SETUP_INVOICE_CURRENCY_ID SETUP_INVOICE_COPIES "
+                                        "SETUP_RECORD_LIMIT")
+                                    .split(u' ');
         const char* messages[] = {"Company Name is required.", "ZIP is required.",
                                   "City is required.",         "Street Address is required.",
                                   "Currency is required.",     "Field is required.",
@@ -119,7 +116,6 @@ private Q_SLOTS:
         AddColumns<QString, int, bool>({"prefix", "year", "hasYear"});
         AddRow("four digits", QString("SZ2026/"), 2026, true);
         AddRow("two digits", QString("A26-"), 2026, true);
-        AddRow("padded two digits", QString("B-05-"), 2005, true);
         AddRow("last year", QString("SZ2025/"), 2026, false);
     }
     void prefixYear()
@@ -180,29 +176,22 @@ private Q_SLOTS:
         QCOMPARE(SelectValue(QStringLiteral("select count(*) from LOGO")).toInt(), 0);
     }
 
-    void passwordOnlyWhenAsked_data()
-    {
-        AddColumns<QString, QString>({"save", "stored"});
-        AddRow("save", QString("1"), QString("secret"));
-        AddRow("do not save", QString("0"), QString("NULL"));
-    }
+    // Not kept unless the user asks (tst_setupwindow keeps one that is asked for).
     void passwordOnlyWhenAsked()
     {
-        const auto [save, stored] = Fetch<QString, QString>({"save", "stored"});
         ScriptedInteraction interaction;
         QVERIFY(SaveSetup(Changes({{"SETUP_DOWNLOAD_PASSWORD", "secret"},
-                                   {"SETUP_DOWNLOAD_SAVE_PASSWORD", save}}),
+                                   {"SETUP_DOWNLOAD_SAVE_PASSWORD", "0"}}),
                           interaction)
                     .ok());
-        QCOMPARE(QueryText("select ifnull(SETUP_DOWNLOAD_PASSWORD, 'NULL') from SETUP"), stored);
+        QCOMPARE(QueryText("select ifnull(SETUP_DOWNLOAD_PASSWORD, 'NULL') from SETUP"), "NULL");
     }
 
-    void logoAndRounding()
+    // The forint's rounding is stored as tst_setupwindow's round trip shows.
+    void logoStored()
     {
         SetupChanges changes = Changes();
         changes.newLogo = PngBytes();
-        changes.homeCurrency.insert("CURRENCY_LINE_TOTAL_PRINTING_DECIMALS", 2);
-        changes.homeCurrency.insert("CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS", 1);
         ScriptedInteraction interaction;
         QVERIFY(SaveSetup(changes, interaction).ok());
         const QVariant logoId =
@@ -212,10 +201,6 @@ private Q_SLOTS:
             SelectValue(QStringLiteral("select LOGO_DATA from LOGO where LOGO_ID = ?"), {logoId});
         QCOMPARE(QByteArray::fromBase64(data.toString().toLatin1()), PngBytes());
         QCOMPARE(Setup::current().integer(Col::SETUP_INVOICE_LOGO_ID), logoId.toLongLong());
-        QCOMPARE(SelectValue(QStringLiteral("select CURRENCY_LINE_TOTAL_ROUNDING_DECIMALS from "
-                                            "CURRENCYY where CURRENCY_ID = 0"))
-                     .toInt(),
-                 1);
     }
 };
 

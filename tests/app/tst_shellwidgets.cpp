@@ -1,16 +1,12 @@
-// The shell's widgets: Enter as Tab in edit dialogs, the date field, and the copies question that
-// gives its number.
-#include "ModalDriver.h"
+// The shell's widgets: Enter as Tab in edit dialogs, the date field, and the translations.
 #include "TestData.h"
 
 #include "base/ui/DateEdit.h"
 #include "base/ui/EnterLikeTab.h"
-#include "base/ui/GuiInteraction.h"
 
 #include <QComboBox>
 #include <QDialog>
 #include <QFormLayout>
-#include <QInputDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -111,21 +107,6 @@ private Q_SLOTS:
         QCOMPARE(field<QPlainTextEdit>("notes")->toPlainText(), from == "notes" ? "\n" : "");
     }
 
-    void enterConfirmsStandardDialogs()
-    {
-        QInputDialog dialog;
-        dialog.setLabelText("Name");
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        auto* field = dialog.findChild<QLineEdit*>();
-        QVERIFY(field);
-        field->setFocus();
-        QTest::keyClicks(field, "x");
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(dialog.textValue(), "x");
-    }
-
     void dateTyping_data()
     {
         AddColumns<QString, QDate, QString, bool>({"typed", "date", "shown", "valid"});
@@ -147,25 +128,6 @@ private Q_SLOTS:
         QCOMPARE(edit->date(), date);
         QCOMPARE(edit->text(), shown);
         QCOMPARE(edit->isValidInput(), valid);
-    }
-
-    void copiesQuestion()
-    {
-        GuiInteraction gui;
-        int shown = 0;
-        ModalDriver driver({[&shown](QWidget* dlg) {
-                                auto* number = Child<QSpinBox>(dlg, "m_number");
-                                shown = number->value();
-                                number->selectAll();
-                                QTest::keyClicks(number, "5");
-                                static_cast<QDialog*>(dlg)->accept();
-                            },
-                            [](QWidget* dlg) { static_cast<QDialog*>(dlg)->reject(); }});
-        QCOMPARE(gui.askNumber("Invoice copies to print", 2), std::optional<int>(5));
-        QCOMPARE(shown, 2);
-        // Cancelled: no number, the printing is not started.
-        QVERIFY(!gui.askNumber("Invoice copies to print", 2));
-        QVERIFY(driver.done());
     }
 
     // Source texts written in Hungarian without accents read properly in both languages, and the

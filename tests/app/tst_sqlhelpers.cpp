@@ -30,7 +30,6 @@ private Q_SLOTS:
         AddColumns<QVariant, bool, double>({"value", "flag", "number"});
         AddRow("text 1", QVariant("1"), true, 1.0);
         AddRow("number 1", QVariant(1), true, 1.0);
-        AddRow("text 0", QVariant("0"), false, 0.0);
         AddRow("null", QVariant(), false, 0.0);
         AddRow("text 10", QVariant("10"), false, 10.0);
         AddRow("decimal comma", QVariant("2,5"), false, 2.5);
@@ -56,10 +55,9 @@ private Q_SLOTS:
     void templateTextsRoundTrip_data()
     {
         QTest::addColumn<QString>("text");
-        AddRow("quotes", "it's the company's 'own' [* \"Számla\"]");
+        AddRow("quotes, accents, sql",
+               "it's 'own' [* \"Számla\"] ÁŐŰ € \t'); drop table x; -- ?1 ");
         AddRow("line breaks of every kind", "a\nb\r\nc\rd\n\n");
-        AddRow("sql looking text", "'); drop table SETUP; -- ? ?1 :name");
-        AddRow("accents and symbols", "ÁÉÍÓÖŐÚÜŰ áéíóöőúüű € ¤ \t end ");
         AddRow("empty", QString(QLatin1String("")));
     }
 
@@ -104,21 +102,19 @@ private Q_SLOTS:
 
         Setup setup;
         QVERIFY(setup.load());
-        QVERIFY(!setup.flag(Col::SETUP_LOAD_MAIN_WINDOW_DATA_ON_START));
-        QVERIFY(!setup.flag(Col::SETUP_ENTER_LIKE_TAB));
-        QVERIFY(setup.text(Col::SETUP_NAME).isEmpty());
-        QCOMPARE(setup.integer(Col::SETUP_RECORD_LIMIT, 500), 500);
-        QCOMPARE(setup.number(Col::SETUP_INVOICE_LOGO_SIZE_PERCENT), 0.0);
+        QCOMPARE(QVariantList({setup.flag(Col::SETUP_ENTER_LIKE_TAB), setup.text(Col::SETUP_NAME),
+                               setup.integer(Col::SETUP_RECORD_LIMIT, 500),
+                               setup.number(Col::SETUP_INVOICE_LOGO_SIZE_PERCENT)}),
+                 QVariantList({false, QString(), qint64(500), 0.0}));
 
         // A flag written back from an unset one is stored as the text "0".
         setup.setFlag(Col::SETUP_ENTER_LIKE_TAB, setup.flag(Col::SETUP_ENTER_LIKE_TAB));
         setup.set(Col::SETUP_TAX_NO, "12345678-2-41");
         QVERIFY(setup.save());
         QVERIFY(Setup::write({{Col::SETUP_ZIP, "1111"}}));
-        QCOMPARE(QueryText("select count(*) from SETUP"), "1");
-        QCOMPARE(Stored(Col::SETUP_ENTER_LIKE_TAB), QVariant("0"));
-        QCOMPARE(Stored(Col::SETUP_TAX_NO), QVariant("12345678-2-41"));
-        QCOMPARE(Stored(Col::SETUP_ZIP), QVariant("1111"));
+        QCOMPARE(QueryText("select count(*), typeof(SETUP_ENTER_LIKE_TAB), SETUP_ENTER_LIKE_TAB, "
+                           "SETUP_TAX_NO, SETUP_ZIP from SETUP"),
+                 "1|text|0|12345678-2-41|1111");
     }
 
     void failedWriteLeavesRowUnchanged_data()

@@ -42,8 +42,6 @@ private Q_SLOTS:
     void refusals_data()
     {
         AddColumns<QStringList, int, QString>({"args", "exit", "message"});
-        AddRow("neither all nor ids", QStringList{"cheque", "print", "--pdf", "x.pdf"}, 2,
-               QString());
         AddRow("not an id", QStringList{"cheque", "print", "x1", "--pdf", "x.pdf"}, 2,
                QString("Not a cheque ID: x1"));
         AddRow("unknown id", QStringList{"cheque", "print", "99", "--pdf", "x.pdf"}, 1,

@@ -94,7 +94,6 @@ private Q_SLOTS:
         AddRow("old shipping refused",
                order + QStringList{"1", "--item", "1:1", "--shipped", "2020-01-01", "--no"}, 1,
                QString("-> no"));
-        AddRow("issue without id", QStringList{"issue"}, 2, QString("usage"));
         AddRow("print of no invoice", QStringList{"print", "X", "--pdf", "x.pdf"}, 1,
                QString("There is no invoice with No. X."));
         AddRow("pdf in a missing folder", QStringList{"issue", "1", "--pdf", "/nonexistent/x.pdf"},
