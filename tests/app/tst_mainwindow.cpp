@@ -89,6 +89,23 @@ private Q_SLOTS:
         QCOMPARE(seenProducts, products);
     }
 
+    // Issuing in the orders list makes cheques: a cheque list read before is read again when
+    // shown, without waiting for the refresh-on-tab-change setting.
+    void changeInOneListRereadsTheOthers()
+    {
+        SetLoading(true, false);
+        MainWindow& window = open({MainTab::Orders, MainTab::Products, MainTab::Cheques});
+        window.show();
+        window.showTab(MainTab::Cheques);
+        window.showTab(MainTab::Orders);
+        Q_EMIT m_counted.at(MainTab::Orders)->dataChanged();
+        window.showTab(MainTab::Cheques);
+        window.showTab(MainTab::Products);
+        QCOMPARE(reloads(MainTab::Cheques), 2);
+        QCOMPARE(reloads(MainTab::Products), 1);
+        QCOMPARE(reloads(MainTab::Orders), 1);
+    }
+
     // The lists must never go on showing the rows of the company that was left.
     void changeCompanyCommand()
     {
