@@ -37,6 +37,7 @@ RecordBrowse::RecordBrowse(const BrowseInfo& info, Mode mode, QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->m_list->setModel(m_model);
+    SetUpListView(m_ui->m_list, QAbstractItemView::SingleSelection);
     m_ui->m_new->setText(m_info.newButton.text());
     m_ui->m_ok->setVisible(mode == Mode::Choose);
     m_ui->m_cancel->setVisible(mode != Mode::Page);
