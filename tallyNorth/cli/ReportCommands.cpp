@@ -2,6 +2,7 @@
 
 #include "AppCommands.h"
 
+#include "Columns.h"
 #include "base/DateText.h"
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
@@ -130,7 +131,7 @@ int RunReportCommand(CliContext& context, const QStringList& args)
         return PrintFailure(context, r, true);
 
     if (format == QLatin1String("pdf")) {
-        const Report report = ReportOutput::report(table, Setup::current().text("SETUP_NAME"));
+        const Report report = ReportOutput::report(table, Setup::current().text(Col::SETUP_NAME));
         if (Result r = report.exportPdf(out, table.title); !r)
             return PrintFailure(context, r);
         return ExitOk;

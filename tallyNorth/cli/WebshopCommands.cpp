@@ -2,6 +2,7 @@
 
 #include "AppCommands.h"
 
+#include "Columns.h"
 #include "base/Interaction.h"
 #include "base/Setup.h"
 #include "webshop/WebshopExchange.h"
@@ -66,7 +67,7 @@ int Download(CliContext& context, const QStringList& args, WebshopDocument docum
         return UsageError(context, WebshopCommands::tr("no arguments expected"));
     if (!OpenChosenCompany(context))
         return ExitFailure;
-    if (!Setup::current().flag("SETUP_DOWNLOAD_SAVE_PASSWORD")) {
+    if (!Setup::current().flag(Col::SETUP_DOWNLOAD_SAVE_PASSWORD)) {
         PrintMessage(context,
                      WebshopCommands::tr("The webshop login is not saved. Set the login name and "
                                          "the password with \"Save password\" in the settings to "

@@ -23,20 +23,20 @@ struct PieceInfo
 
 // In the order of InvoiceTemplate::Piece.
 constexpr PieceInfo kPieceInfo[InvoiceTemplate::kPieces] = {
-    {"invoice_header.qtf", "SETUP_INVOICE_HEADER_QTF"},
-    {"invoice_item_header.qtf", "SETUP_INVOICE_ITEM_HEADER_QTF"},
-    {"invoice_item_header_discount.qtf", "SETUP_INVOICE_ITEM_HEADER_DISCOUNT_QTF"},
-    {"invoice_footer.qtf", "SETUP_INVOICE_FOOTER_QTF"},
-    {"invoice_body.qtf", "SETUP_INVOICE_BODY_QTF"},
-    {"invoice_item_1.qtf", "SETUP_INVOICE_ITEM_1_QTF"},
-    {"invoice_item_1_discount.qtf", "SETUP_INVOICE_ITEM_1_DISCOUNT_QTF"},
-    {"invoice_item_2.qtf", "SETUP_INVOICE_ITEM_2_QTF"},
-    {"invoice_vatdetail.qtf", "SETUP_INVOICE_VATDETAIL_QTF"},
-    {"invoice_vatdetail_header.qtf", "SETUP_INVOICE_VATDETAIL_HEADER_QTF"},
-    {"invoice_signings.qtf", "SETUP_INVOICE_SIGNINGS_QTF"},
-    {"invoice_consolidated_header.qtf", "SETUP_INVOICE_CONSOLIDATED_HEADER_QTF"},
-    {"invoice_consolidated_footer.qtf", "SETUP_INVOICE_CONSOLIDATED_FOOTER_QTF"},
-    {"invoice_rate.qtf", "SETUP_INVOICE_RATE_QTF"},
+    {"invoice_header.qtf", Col::SETUP_INVOICE_HEADER_QTF},
+    {"invoice_item_header.qtf", Col::SETUP_INVOICE_ITEM_HEADER_QTF},
+    {"invoice_item_header_discount.qtf", Col::SETUP_INVOICE_ITEM_HEADER_DISCOUNT_QTF},
+    {"invoice_footer.qtf", Col::SETUP_INVOICE_FOOTER_QTF},
+    {"invoice_body.qtf", Col::SETUP_INVOICE_BODY_QTF},
+    {"invoice_item_1.qtf", Col::SETUP_INVOICE_ITEM_1_QTF},
+    {"invoice_item_1_discount.qtf", Col::SETUP_INVOICE_ITEM_1_DISCOUNT_QTF},
+    {"invoice_item_2.qtf", Col::SETUP_INVOICE_ITEM_2_QTF},
+    {"invoice_vatdetail.qtf", Col::SETUP_INVOICE_VATDETAIL_QTF},
+    {"invoice_vatdetail_header.qtf", Col::SETUP_INVOICE_VATDETAIL_HEADER_QTF},
+    {"invoice_signings.qtf", Col::SETUP_INVOICE_SIGNINGS_QTF},
+    {"invoice_consolidated_header.qtf", Col::SETUP_INVOICE_CONSOLIDATED_HEADER_QTF},
+    {"invoice_consolidated_footer.qtf", Col::SETUP_INVOICE_CONSOLIDATED_FOOTER_QTF},
+    {"invoice_rate.qtf", Col::SETUP_INVOICE_RATE_QTF},
 };
 
 using Piece = InvoiceTemplate::Piece;
@@ -178,7 +178,7 @@ InvoiceTemplate LoadTemplateFromSetup(const Setup& setup)
         const Piece piece = Piece(i);
         t.setText(piece, setup.text(InvoiceTemplate::setupColumn(piece)));
     }
-    t.setDigest(setup.text("SETUP_INVOICE_DIGEST"));
+    t.setDigest(setup.text(Col::SETUP_INVOICE_DIGEST));
     return t;
 }
 

@@ -4,6 +4,7 @@
 
 #include "orders/ConvertOrderType.h"
 
+#include "Columns.h"
 #include "base/DateText.h"
 #include "base/FoldName.h"
 #include "base/Interaction.h"
@@ -52,32 +53,38 @@ void Add(Query& q, const QString& expression, Cell cell, const ReportColumn& col
     q.columns << column;
 }
 
-const char* const kSalesFrom = "ORDERITEM join ORDERHEAD on ORDERHEAD_ID = ORDERITEM_ORDERHEAD_ID";
+QString SalesFrom()
+{
+    return Sql("%1 join %2 on %3 = %4",
+               {Tbl::ORDERITEM, Tbl::ORDERHEAD, Col::ORDERHEAD_ID, Col::ORDERITEM_ORDERHEAD_ID});
+}
 
 // The three amount sums of the sales reports.
 void AddSums(Query& q, bool local, int decimals)
 {
-    const QString prefix = local ? QStringLiteral("ORDERITEM_TOTAL_LOCAL_CURRENCY_")
-                                 : QStringLiteral("ORDERITEM_TOTAL_");
-    Add(q, "sum(" + prefix + "NET)", Cell::Number, Amount(ReportQuery::tr("Net"), decimals));
-    Add(q, "sum(" + prefix + "VAT)", Cell::Number, Amount(ReportQuery::tr("VAT"), decimals));
-    Add(q, "sum(" + prefix + "GROSS)", Cell::Number, Amount(ReportQuery::tr("Gross"), decimals));
+    const char* net = local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET : Col::ORDERITEM_TOTAL_NET;
+    const char* vat = local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT : Col::ORDERITEM_TOTAL_VAT;
+    const char* gross =
+        local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS : Col::ORDERITEM_TOTAL_GROSS;
+    Add(q, Sql("sum(%1)", {net}), Cell::Number, Amount(ReportQuery::tr("Net"), decimals));
+    Add(q, Sql("sum(%1)", {vat}), Cell::Number, Amount(ReportQuery::tr("VAT"), decimals));
+    Add(q, Sql("sum(%1)", {gross}), Cell::Number, Amount(ReportQuery::tr("Gross"), decimals));
 }
 
 void AddCurrency(Query& q)
 {
     q.currencyColumn = int(q.columns.size());
-    Add(q, QStringLiteral("ORDERHEAD_CURRENCY_ABBREVIATION"), Cell::Text,
+    Add(q, ColumnName(Col::ORDERHEAD_CURRENCY_ABBREVIATION), Cell::Text,
         Text(ReportQuery::tr("Currency")));
 }
 
 void AddKind(Query& q)
 {
     // ConvertOrderType reads five columns; the report shows one text.
-    q.select << QStringLiteral("ORDERHEAD_TYPE") << QStringLiteral("ORDERHEAD_VERIFIED")
-             << QStringLiteral("ORDERHEAD_INVOICE_NO")
-             << QStringLiteral("ORDERHEAD_CANCELLING_INVOICE_NO")
-             << QStringLiteral("ORDERHEAD_CONSOLIDATED_INVOICE");
+    q.select << ColumnName(Col::ORDERHEAD_TYPE) << ColumnName(Col::ORDERHEAD_VERIFIED)
+             << ColumnName(Col::ORDERHEAD_INVOICE_NO)
+             << ColumnName(Col::ORDERHEAD_CANCELLING_INVOICE_NO)
+             << ColumnName(Col::ORDERHEAD_CONSOLIDATED_INVOICE);
     q.cells << Cell::Kind;
     q.columns << Text(ReportQuery::tr("Kind"));
 }
@@ -85,127 +92,130 @@ void AddKind(Query& q)
 Query Build(ReportKind kind, bool local)
 {
     Query q;
-    const QString currency = QStringLiteral("ORDERHEAD_CURRENCY_ABBREVIATION");
+    const QString currency = ColumnName(Col::ORDERHEAD_CURRENCY_ABBREVIATION);
     switch (kind) {
     case ReportKind::ProductsSold:
-        q.from = QLatin1String(kSalesFrom);
-        Add(q, QStringLiteral("ORDERITEM_NAME"), Cell::Text, Text(ReportQuery::tr("Product Name")));
-        Add(q, QStringLiteral("sum(ORDERITEM_QTY)"), Cell::Number,
+        q.from = SalesFrom();
+        Add(q, ColumnName(Col::ORDERITEM_NAME), Cell::Text, Text(ReportQuery::tr("Product Name")));
+        Add(q, Sql("sum(%1)", {Col::ORDERITEM_QTY}), Cell::Number,
             {ReportQuery::tr("Qty"), Type::Number, 2, false});
-        Add(q, QStringLiteral("ORDERITEM_UNIT"), Cell::Text, Text(ReportQuery::tr("Unit")));
+        Add(q, ColumnName(Col::ORDERITEM_UNIT), Cell::Text, Text(ReportQuery::tr("Unit")));
         if (!local)
             AddCurrency(q);
         AddSums(q, local, 2);
-        q.group = QStringLiteral("ORDERITEM_NAME, ORDERITEM_UNIT");
-        q.order = QStringLiteral("ORDERITEM_NAME, ORDERITEM_UNIT");
+        q.group = Sql("%1, %2", {Col::ORDERITEM_NAME, Col::ORDERITEM_UNIT});
+        q.order = Sql("%1, %2", {Col::ORDERITEM_NAME, Col::ORDERITEM_UNIT});
         break;
     case ReportKind::Customers:
-        q.from = QLatin1String(kSalesFrom);
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+        q.from = SalesFrom();
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
             Text(ReportQuery::tr("Partner Name")));
         if (!local)
             AddCurrency(q);
         AddSums(q, local, 0);
-        q.group = q.order = QStringLiteral("ORDERHEAD_PARTNER_NAME");
+        q.group = q.order = ColumnName(Col::ORDERHEAD_PARTNER_NAME);
         break;
     case ReportKind::Invoices:
-        q.from = QLatin1String(kSalesFrom);
-        q.select << QStringLiteral("ORDERHEAD_ID");
+        q.from = SalesFrom();
+        q.select << ColumnName(Col::ORDERHEAD_ID);
         q.cells << Cell::Id;
-        Add(q, QStringLiteral("ORDERHEAD_INVOICE_NO_STR"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_INVOICE_NO_STR), Cell::Text,
             Text(ReportQuery::tr("Invoice No")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
             Text(ReportQuery::tr("Partner Name")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_CITY"), Cell::Text, Text(ReportQuery::tr("City")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_ADDRESS"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_CITY), Cell::Text, Text(ReportQuery::tr("City")));
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_ADDRESS), Cell::Text,
             Text(ReportQuery::tr("Address")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_SHIPPED"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_SHIPPED), Cell::Date,
             Date(ReportQuery::tr("Date Shipped")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_CREATED"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
             Date(ReportQuery::tr("Date Created")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
             Date(ReportQuery::tr("Date Payment Due")));
         AddCurrency(q);
         AddSums(q, local, 0);
-        Add(q, QStringLiteral("ORDERHEAD_PAYMENTMETHOD_NAME"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_NAME), Cell::Text,
             Text(ReportQuery::tr("Payment Method")));
         AddKind(q);
-        q.group = QStringLiteral("ORDERHEAD_ID");
-        q.order = QStringLiteral("ORDERHEAD_INVOICE_NO_STR, ORDERHEAD_ID");
+        q.group = ColumnName(Col::ORDERHEAD_ID);
+        q.order = Sql("%1, %2", {Col::ORDERHEAD_INVOICE_NO_STR, Col::ORDERHEAD_ID});
         return q;
     case ReportKind::InvoiceItems:
-        q.from = QLatin1String(kSalesFrom);
-        q.select << QStringLiteral("ORDERHEAD_ID");
+        q.from = SalesFrom();
+        q.select << ColumnName(Col::ORDERHEAD_ID);
         q.cells << Cell::Id;
-        Add(q, QStringLiteral("ORDERHEAD_INVOICE_NO_STR"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_INVOICE_NO_STR), Cell::Text,
             Text(ReportQuery::tr("Invoice No")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
             Text(ReportQuery::tr("Partner Name")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_ZIP"), Cell::Text, Text(ReportQuery::tr("ZIP")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_CITY"), Cell::Text, Text(ReportQuery::tr("City")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_ADDRESS"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_ZIP), Cell::Text, Text(ReportQuery::tr("ZIP")));
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_CITY), Cell::Text, Text(ReportQuery::tr("City")));
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_ADDRESS), Cell::Text,
             Text(ReportQuery::tr("Address")));
-        Add(q, QStringLiteral("ORDERITEM_DATE_SHIPPED"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERITEM_DATE_SHIPPED), Cell::Date,
             Date(ReportQuery::tr("Date Shipped")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_CREATED"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
             Date(ReportQuery::tr("Date Created")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
             Date(ReportQuery::tr("Date Payment Due")));
-        Add(q, QStringLiteral("ORDERHEAD_PAYMENTMETHOD_NAME"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_NAME), Cell::Text,
             Text(ReportQuery::tr("Payment Method")));
         AddKind(q);
-        Add(q, QStringLiteral("ORDERITEM_STAT_NO"), Cell::Text, Text(ReportQuery::tr("Stat No")));
-        Add(q, QStringLiteral("ORDERITEM_NAME"), Cell::Text, Text(ReportQuery::tr("Product Name")));
-        Add(q, QStringLiteral("ORDERITEM_QTY"), Cell::Number,
+        Add(q, ColumnName(Col::ORDERITEM_STAT_NO), Cell::Text, Text(ReportQuery::tr("Stat No")));
+        Add(q, ColumnName(Col::ORDERITEM_NAME), Cell::Text, Text(ReportQuery::tr("Product Name")));
+        Add(q, ColumnName(Col::ORDERITEM_QTY), Cell::Number,
             {ReportQuery::tr("Qty"), Type::Number, 2, false});
-        Add(q, QStringLiteral("ORDERITEM_UNIT"), Cell::Text, Text(ReportQuery::tr("Unit")));
+        Add(q, ColumnName(Col::ORDERITEM_UNIT), Cell::Text, Text(ReportQuery::tr("Unit")));
         AddCurrency(q);
-        {
-            const QString prefix = local ? QStringLiteral("ORDERITEM_TOTAL_LOCAL_CURRENCY_")
-                                         : QStringLiteral("ORDERITEM_TOTAL_");
-            Add(q, prefix + "NET", Cell::Number, Amount(ReportQuery::tr("Net"), 2));
-            Add(q, prefix + "VAT", Cell::Number, Amount(ReportQuery::tr("VAT"), 2));
-            Add(q, prefix + "GROSS", Cell::Number, Amount(ReportQuery::tr("Gross"), 2));
-        }
-        q.order = QStringLiteral("ORDERHEAD_INVOICE_NO_STR, ORDERITEM_ID");
+        Add(q,
+            ColumnName(local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET : Col::ORDERITEM_TOTAL_NET),
+            Cell::Number, Amount(ReportQuery::tr("Net"), 2));
+        Add(q,
+            ColumnName(local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT : Col::ORDERITEM_TOTAL_VAT),
+            Cell::Number, Amount(ReportQuery::tr("VAT"), 2));
+        Add(q,
+            ColumnName(local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS
+                             : Col::ORDERITEM_TOTAL_GROSS),
+            Cell::Number, Amount(ReportQuery::tr("Gross"), 2));
+        q.order = Sql("%1, %2", {Col::ORDERHEAD_INVOICE_NO_STR, Col::ORDERITEM_ID});
         return q;
     case ReportKind::ReceivablesByInvoices:
-        q.from = QStringLiteral("ORDERHEAD");
-        q.select << QStringLiteral("ORDERHEAD_ID");
+        q.from = ColumnName(Tbl::ORDERHEAD);
+        q.select << ColumnName(Col::ORDERHEAD_ID);
         q.cells << Cell::Id;
-        Add(q, QStringLiteral("ORDERHEAD_INVOICE_NO_STR"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_INVOICE_NO_STR), Cell::Text,
             Text(ReportQuery::tr("Invoice No")));
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
             Text(ReportQuery::tr("Partner Name")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_SHIPPED"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_SHIPPED), Cell::Date,
             Date(ReportQuery::tr("Date Shipped")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_CREATED"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
             Date(ReportQuery::tr("Date Created")));
-        Add(q, QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE"), Cell::Date,
+        Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
             Date(ReportQuery::tr("Date Payment Due")));
         AddCurrency(q);
         Add(q,
-            local ? QStringLiteral("ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS")
-                  : QStringLiteral("ORDERHEAD_TOTAL_GROSS"),
+            local ? ColumnName(Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS)
+                  : ColumnName(Col::ORDERHEAD_TOTAL_GROSS),
             Cell::Number, Amount(ReportQuery::tr("Gross"), 0));
         // A null unpaid total stays null in either currency.
         Add(q,
-            local ? QStringLiteral("ORDERHEAD_CURRENCY_RATE * ORDERHEAD_UNPAID_TOTAL")
-                  : QStringLiteral("ORDERHEAD_UNPAID_TOTAL"),
+            local ? Sql("%1 * %2", {Col::ORDERHEAD_CURRENCY_RATE, Col::ORDERHEAD_UNPAID_TOTAL})
+                  : ColumnName(Col::ORDERHEAD_UNPAID_TOTAL),
             Cell::Number, Amount(ReportQuery::tr("Unpaid Total"), 0));
-        q.order = QStringLiteral("ORDERHEAD_INVOICE_NO_STR, ORDERHEAD_ID");
+        q.order = Sql("%1, %2", {Col::ORDERHEAD_INVOICE_NO_STR, Col::ORDERHEAD_ID});
         return q;
     case ReportKind::ReceivablesByPartners:
-        q.from = QStringLiteral("ORDERHEAD");
-        Add(q, QStringLiteral("ORDERHEAD_PARTNER_NAME"), Cell::Text,
+        q.from = ColumnName(Tbl::ORDERHEAD);
+        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
             Text(ReportQuery::tr("Partner Name")));
         if (!local)
             AddCurrency(q);
         Add(q,
-            local ? QStringLiteral("sum(ORDERHEAD_CURRENCY_RATE * ORDERHEAD_UNPAID_TOTAL)")
-                  : QStringLiteral("sum(ORDERHEAD_UNPAID_TOTAL)"),
+            local ? Sql("sum(%1 * %2)", {Col::ORDERHEAD_CURRENCY_RATE, Col::ORDERHEAD_UNPAID_TOTAL})
+                  : Sql("sum(%1)", {Col::ORDERHEAD_UNPAID_TOTAL}),
             Cell::Number, Amount(ReportQuery::tr("Unpaid Total"), 0));
-        q.group = q.order = QStringLiteral("ORDERHEAD_PARTNER_NAME");
+        q.group = q.order = ColumnName(Col::ORDERHEAD_PARTNER_NAME);
         break;
     }
     // The grouping reports: in original currency each currency is a group of its own.
@@ -221,11 +231,11 @@ QString DateColumn(ReportDate type)
     switch (type) {
     case ReportDate::Shipped:
         // The item's own date: a consolidated invoice is split by its items' days.
-        return QStringLiteral("ORDERITEM_DATE_SHIPPED");
+        return ColumnName(Col::ORDERITEM_DATE_SHIPPED);
     case ReportDate::Created:
-        return QStringLiteral("ORDERHEAD_DATE_CREATED");
+        return ColumnName(Col::ORDERHEAD_DATE_CREATED);
     case ReportDate::PaymentDue:
-        return QStringLiteral("ORDERHEAD_DATE_PAYMENT_DUE");
+        return ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE);
     }
     return {};
 }
@@ -368,14 +378,13 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
         lines << tr("Partner: ") + filter.partnerText;
         if (filter.partnerId > 0) {
             // By id: a partner renamed since keeps its invoices.
-            where << QStringLiteral("ORDERHEAD_PARTNER_ID = ?");
+            where << Sql("%1 = ?", {Col::ORDERHEAD_PARTNER_ID});
             binds << filter.partnerId;
         } else {
             // A range on the folded name: its index serves it, and the typed text has no
             // wildcards of its own as it would under "like".
             const QString prefix = FoldName(filter.partnerText.trimmed());
-            where << QStringLiteral("ORDERHEAD_PARTNER_NAME_ASCII >= ? and "
-                                    "ORDERHEAD_PARTNER_NAME_ASCII < ?");
+            where << Sql("%1 >= ? and %1 < ?", {Col::ORDERHEAD_PARTNER_NAME_ASCII});
             binds << prefix << QString(prefix + QChar(0xFFFF));
         }
     }
@@ -389,11 +398,11 @@ Result ReportQuery::run(ReportKind kind, const ReportFilter& filter, ReportTable
                      FormatDate(filter.from) + u" - " + FormatDate(filter.to);
     }
     if (receivables) {
-        where << QStringLiteral("ORDERHEAD_INVOICE_NO is not null")
-              << QStringLiteral("coalesce(ORDERHEAD_PAID, '0') <> '1'");
+        where << Sql("%1 is not null", {Col::ORDERHEAD_INVOICE_NO})
+              << Sql("coalesce(%1, '0') <> '1'", {Col::ORDERHEAD_PAID});
     } else {
         // Every issued invoice counts, cancelling invoices included.
-        where << QStringLiteral("ORDERHEAD_INVOICE_NO_STR is not null");
+        where << Sql("%1 is not null", {Col::ORDERHEAD_INVOICE_NO_STR});
     }
     QString text = u"select " + q.select.join(u", ") + u" from " + q.from + u" where " +
                    where.join(QLatin1String(" and "));

@@ -132,7 +132,7 @@ const TableStore& CurrencyStore()
                     CURRENCY_BANK_NAME, CURRENCY_BANK_ACCT_NO, CURRENCY_BANK_IBAN,
                     CURRENCY_BANK_SWIFT},
         .nameColumn = CURRENCY_NAME,
-        .orderBy = QStringLiteral("CURRENCY_ID"),
+        .orderBy = QString::fromLatin1(CURRENCY_ID),
         .required = {{CURRENCY_NAME,
                       QT_TRANSLATE_NOOP("CurrencyTable", "Currency Name field must have a value.")},
                      {CURRENCY_ABBREVIATION,
@@ -254,7 +254,7 @@ const TableStore& LangStore()
         .idColumn = LANG_ID,
         .columns = {LANG_CODE, LANG_NAME},
         .nameColumn = LANG_NAME,
-        .orderBy = QStringLiteral("LANG_ID"),
+        .orderBy = QString::fromLatin1(LANG_ID),
         .required = {{LANG_CODE, QT_TRANSLATE_NOOP("LangTable", "Code field must have a value.")},
                      {LANG_NAME, QT_TRANSLATE_NOOP("LangTable", "Name field must have a value.")}},
         .usedBy =

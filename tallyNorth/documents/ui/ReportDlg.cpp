@@ -3,6 +3,7 @@
 #include "ReportModel.h"
 #include "ReportPrinter.h"
 
+#include "Columns.h"
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
 #include "base/ui/DateEdit.h"
@@ -175,7 +176,7 @@ bool ReportDlg::ensureRows()
 
 Report ReportDlg::printedReport() const
 {
-    return ReportOutput::report(m_model->table(), Setup::current().text("SETUP_NAME"));
+    return ReportOutput::report(m_model->table(), Setup::current().text(Col::SETUP_NAME));
 }
 
 Result ReportDlg::exportPdf(const QString& path) const
