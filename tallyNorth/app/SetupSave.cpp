@@ -161,8 +161,8 @@ Result SaveSetup(SetupChanges changes, Interaction& interaction, QString* badCol
             binds << it.value();
         }
         binds << 0;
-        const Result r = ExecSql(QStringLiteral("UPDATE CURRENCYY SET ") + assignments.join(u',') +
-                                     QStringLiteral(" WHERE CURRENCY_ID = ?"),
+        const Result r = ExecSql(Sql("update %1 set ", {Tbl::CURRENCYY}) + assignments.join(u',') +
+                                     Sql(" where %1 = ?", {Col::CURRENCY_ID}),
                                  binds, SaveFailedText());
         if (!r) {
             transaction.rollback();
