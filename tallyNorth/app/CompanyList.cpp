@@ -49,11 +49,11 @@ CompanyEntry ReadCompanyEntry(const QString& path)
                                    "SETUP_TAX_NO from SETUP"),
                     {}, connection.db());
     if (st.exec() && st.next()) {
-        entry.name = st.value(0).toString();
-        entry.zip = st.value(1).toString();
-        entry.city = st.value(2).toString();
-        entry.address = st.value(3).toString();
-        entry.taxNo = st.value(4).toString();
+        entry.name = st.value("SETUP_NAME").toString();
+        entry.zip = st.value("SETUP_ZIP").toString();
+        entry.city = st.value("SETUP_CITY").toString();
+        entry.address = st.value("SETUP_ADDRESS").toString();
+        entry.taxNo = st.value("SETUP_TAX_NO").toString();
     }
     return entry;
 }

@@ -339,7 +339,7 @@ Result DatabasePrepare::copyShippingDates()
         return orders.failure(tr("Unable to upgrade database."));
     QList<QPair<QVariant, QVariant>> dates;
     while (orders.next())
-        dates.append({orders.value(0), orders.value(1)});
+        dates.append({orders.value("ORDERHEAD_ID"), orders.value("ORDERHEAD_DATE_SHIPPED")});
     for (const auto& [id, date] : std::as_const(dates)) {
         const Result r = ExecSql(QStringLiteral("update ORDERITEM set ORDERITEM_DATE_SHIPPED = ? "
                                                 "where ORDERITEM_ORDERHEAD_ID = ?"),

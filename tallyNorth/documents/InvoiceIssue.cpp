@@ -40,12 +40,12 @@ Result ReadState(qint64 orderId, OrderState& state)
     if (!st.next())
         return Result::failure(InvoiceIssue::tr(
             "Unable to load data from database.&Maybe it is deleted by an other user."));
-    state.issued = !IsNullValue(st.value(0));
-    state.type = int(ToInteger(st.value(1)));
-    state.consolidated = IsFlagSet(st.value(2));
-    state.printedCopies = int(ToInteger(st.value(3)));
-    state.numberText = st.value(4).toString();
-    state.language = st.value(5);
+    state.issued = !IsNullValue(st.value(Col::ORDERHEAD_INVOICE_NO));
+    state.type = int(ToInteger(st.value(Col::ORDERHEAD_TYPE)));
+    state.consolidated = IsFlagSet(st.value(Col::ORDERHEAD_CONSOLIDATED_INVOICE));
+    state.printedCopies = int(ToInteger(st.value(Col::ORDERHEAD_PRINTED_COPIES)));
+    state.numberText = st.value(Col::ORDERHEAD_INVOICE_NO_STR).toString();
+    state.language = st.value(Col::ORDERHEAD_PARTNER_LANG_ID);
     state.items = int(ToInteger(st.value(6)));
     return Result::success();
 }

@@ -21,9 +21,12 @@ Result LabelTranslations::load()
         return st.failure(QCoreApplication::translate(
             "LabelTranslations", "Unable to load invoice label translations."));
     while (st.next()) {
-        if (IsNullValue(st.value(0)) || IsNullValue(st.value(1)))
+        if (IsNullValue(st.value(Col::ORDERLABELTRANSLATION_LANG_ID)) ||
+            IsNullValue(st.value(Col::ORDERLABELTRANSLATION_KEY)))
             continue;
-        set(st.value(1).toString(), int(ToInteger(st.value(0))), st.value(2).toString());
+        set(st.value(Col::ORDERLABELTRANSLATION_KEY).toString(),
+            int(ToInteger(st.value(Col::ORDERLABELTRANSLATION_LANG_ID))),
+            st.value(Col::ORDERLABELTRANSLATION_TEXT).toString());
     }
     return Result::success();
 }
@@ -67,7 +70,7 @@ Result LabelTranslations::languages(QList<std::pair<int, QString>>& out)
         return st.failure(QCoreApplication::translate(
             "LabelTranslations", "Unable to load invoice label translations."));
     while (st.next())
-        out.append({int(ToInteger(st.value(0))), st.value(1).toString()});
+        out.append({int(ToInteger(st.value(Col::LANG_ID))), st.value(Col::LANG_NAME).toString()});
     return Result::success();
 }
 

@@ -120,7 +120,8 @@ Result TableStore::names(QHash<qint64, QString>& names) const
         return st.failure(
             QCoreApplication::translate("TableStore", "Unable to load data from database."));
     while (st.next())
-        names.insert(st.value(0).toLongLong(), st.value(1).toString());
+        names.insert(st.value(m_info.idColumn).toLongLong(),
+                     st.value(m_info.nameColumn).toString());
     return Result::success();
 }
 

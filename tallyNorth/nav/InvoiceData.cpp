@@ -301,25 +301,28 @@ Result InvoiceData::build(qint64 orderId, Document& document)
     const bool noVat = IsFlagSet(v(Col::ORDERHEAD_NO_VAT));
     while (items.next()) {
         Line line;
-        line.name = items.value(0).toString().simplified();
-        if (NotBlank(items.value(15).toString()))
-            line.name += u' ' + items.value(15).toString().simplified();
-        line.unit = items.value(1).toString().trimmed();
-        line.statNo = items.value(2).toString().remove(u' ').remove(u'.').toUpper();
-        line.qty = ToNumber(items.value(3));
-        line.price = ToNumber(items.value(4));
-        line.net = ToNumber(items.value(5));
-        line.vat = ToNumber(items.value(6));
-        line.gross = ToNumber(items.value(7));
-        line.localNet = ToNumber(items.value(8));
-        line.localVat = ToNumber(items.value(9));
-        line.localGross = ToNumber(items.value(10));
-        line.shipped = DateFromSql(items.value(11));
+        line.name = items.value(Col::ORDERITEM_NAME).toString().simplified();
+        if (NotBlank(items.value(Col::ORDERITEM_COMMENT).toString()))
+            line.name += u' ' + items.value(Col::ORDERITEM_COMMENT).toString().simplified();
+        line.unit = items.value(Col::ORDERITEM_UNIT).toString().trimmed();
+        line.statNo =
+            items.value(Col::ORDERITEM_STAT_NO).toString().remove(u' ').remove(u'.').toUpper();
+        line.qty = ToNumber(items.value(Col::ORDERITEM_QTY));
+        line.price = ToNumber(items.value(Col::ORDERITEM_PRICE));
+        line.net = ToNumber(items.value(Col::ORDERITEM_TOTAL_NET));
+        line.vat = ToNumber(items.value(Col::ORDERITEM_TOTAL_VAT));
+        line.gross = ToNumber(items.value(Col::ORDERITEM_TOTAL_GROSS));
+        line.localNet = ToNumber(items.value(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET));
+        line.localVat = ToNumber(items.value(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT));
+        line.localGross = ToNumber(items.value(Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS));
+        line.shipped = DateFromSql(items.value(Col::ORDERITEM_DATE_SHIPPED));
         if (!line.shipped.isValid())
             line.shipped = delivery;
-        line.vatKind = LineVat(items.value(12).toString(), items.value(13).toString(),
-                               ToNumber(items.value(14)), noVat, s(Col::ORDERHEAD_NOVATREASON_CODE),
-                               s(Col::ORDERHEAD_NOVATREASON_TEXT));
+        line.vatKind =
+            LineVat(items.value(Col::ORDERITEM_VAT_CODE).toString(),
+                    items.value(Col::ORDERITEM_VAT_NAME).toString(),
+                    ToNumber(items.value(Col::ORDERITEM_VAT_PERCENT)), noVat,
+                    s(Col::ORDERHEAD_NOVATREASON_CODE), s(Col::ORDERHEAD_NOVATREASON_TEXT));
         lines << line;
     }
     if (lines.isEmpty())

@@ -26,15 +26,16 @@ Result Read(const QString& tail, const QVariantList& binds, QList<NavQueueEntry>
         return st.failure(NavQueue::tr("Database error:&") + st.errorText());
     while (st.next()) {
         NavQueueEntry e;
-        e.invoiceNo = ToInteger(st.value(0));
-        e.orderId = ToInteger(st.value(1));
-        e.invoiceNoText = st.value(2).toString();
-        e.state = NavState(ToInteger(st.value(3)));
-        e.transactionId = st.value(4).toString();
-        e.index = int(ToInteger(st.value(5)));
-        e.messages = st.value(6).toString();
-        e.attempts = int(ToInteger(st.value(7)));
-        e.nextTry = QDateTime::fromString(st.value(8).toString(), Qt::ISODate);
+        e.invoiceNo = ToInteger(st.value("TN_NAV_QUEUE_INVOICE_NO"));
+        e.orderId = ToInteger(st.value("TN_NAV_QUEUE_ORDERHEAD_ID"));
+        e.invoiceNoText = st.value("ORDERHEAD_INVOICE_NO_STR").toString();
+        e.state = NavState(ToInteger(st.value("TN_NAV_QUEUE_STATE")));
+        e.transactionId = st.value("TN_NAV_QUEUE_TRANSACTION_ID").toString();
+        e.index = int(ToInteger(st.value("TN_NAV_QUEUE_INDEX")));
+        e.messages = st.value("TN_NAV_QUEUE_MESSAGES").toString();
+        e.attempts = int(ToInteger(st.value("TN_NAV_QUEUE_ATTEMPTS")));
+        e.nextTry =
+            QDateTime::fromString(st.value("TN_NAV_QUEUE_NEXT_TRY").toString(), Qt::ISODate);
         entries << e;
     }
     return Result::success();

@@ -42,13 +42,13 @@ Result NavSettingsStore::load(NavSettings& settings)
     settings = {};
     if (!st.next())
         return Result::success();
-    settings.login = st.value(0).toString();
-    settings.passwordHash = st.value(1).toString();
-    settings.signingKey = st.value(2).toString();
-    settings.exchangeKey = st.value(3).toString();
-    settings.taxNo = st.value(4).toString();
-    settings.production = IsFlagSet(st.value(5));
-    settings.url = st.value(6).toString();
+    settings.login = st.value("TN_NAV_SETUP_LOGIN").toString();
+    settings.passwordHash = st.value("TN_NAV_SETUP_PASSWORD_HASH").toString();
+    settings.signingKey = st.value("TN_NAV_SETUP_SIGNING_KEY").toString();
+    settings.exchangeKey = st.value("TN_NAV_SETUP_EXCHANGE_KEY").toString();
+    settings.taxNo = st.value("TN_NAV_SETUP_TAX_NO").toString();
+    settings.production = IsFlagSet(st.value("TN_NAV_SETUP_PRODUCTION"));
+    settings.url = st.value("TN_NAV_SETUP_URL").toString();
     return Result::success();
 }
 

@@ -494,7 +494,9 @@ Result OrderImporter::resolvePartner(Order& order)
             if (!st.exec() || !st.next())
                 return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Error loading country data (%s)."),
                             {QString::number(id.value_or(0))});
-            country = {st.value(0).toString(), st.value(1).toString(), st.value(2).toString()};
+            country = {st.value(Col::COUNTRY_INTERNATIONAL_CODE).toString(),
+                       st.value(Col::COUNTRY_NAME).toString(),
+                       st.value(Col::COUNTRY_NAME_ON_MAILS).toString()};
         }
         *code = country.at(0);
         *name = country.at(1);
@@ -714,9 +716,9 @@ bool OrderImporter::lookup(const char* table, const char* idColumn, const char* 
     if (!query->exec())
         return false;
     if (query->next()) {
-        id = query->value(0).toLongLong();
+        id = query->value(QLatin1String(idColumn)).toLongLong();
         if (extra)
-            *extra = query->value(1);
+            *extra = query->value(QLatin1String(extraColumn));
     }
     query->finish();
     return true;
