@@ -44,22 +44,24 @@ Result BankItemStore::loadInvoice(qint64 orderId, BankItemInvoice& invoice)
         {orderId});
     if (!st.exec() || !st.next())
         return st.failure(tr("Unable to load invoice data from database."));
-    if (IsNullValue(st.value(0)))
+    if (IsNullValue(st.value(Col::ORDERHEAD_INVOICE_NO)))
         return Result::failure(tr("Only an issued invoice can be paid. This order has no "
                                   "invoice number yet."));
-    if (ToInteger(st.value(6)) == int(OrderType::CancellingInvoice))
+    if (ToInteger(st.value(Col::ORDERHEAD_TYPE)) == int(OrderType::CancellingInvoice))
         return Result::failure(tr("A cancelling invoice can not be paid."));
-    if (!IsNullValue(st.value(7)))
-        return Result::failure(FillArgs(tr("This invoice is cancelled by %s, it can not be paid."),
-                                        {st.value(8).toString()}));
+    if (!IsNullValue(st.value(Col::ORDERHEAD_CANCELLING_INVOICE_NO)))
+        return Result::failure(
+            FillArgs(tr("This invoice is cancelled by %s, it can not be paid."),
+                     {st.value(Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR).toString()}));
     invoice.orderId = orderId;
-    invoice.invoiceNo = ToInteger(st.value(0));
-    invoice.invoiceNoStr = st.value(1).toString();
-    invoice.currency = st.value(2).toString();
-    invoice.totalGross = ToNumber(st.value(3));
-    invoice.paid = IsFlagSet(st.value(4));
-    invoice.unpaidTotal = ToNumber(st.value(5));
-    invoice.decimals = int(std::clamp<qint64>(ToInteger(st.value(9), 2), 0, 6));
+    invoice.invoiceNo = ToInteger(st.value(Col::ORDERHEAD_INVOICE_NO));
+    invoice.invoiceNoStr = st.value(Col::ORDERHEAD_INVOICE_NO_STR).toString();
+    invoice.currency = st.value(Col::ORDERHEAD_CURRENCY_ABBREVIATION).toString();
+    invoice.totalGross = ToNumber(st.value(Col::ORDERHEAD_TOTAL_GROSS));
+    invoice.paid = IsFlagSet(st.value(Col::ORDERHEAD_PAID));
+    invoice.unpaidTotal = ToNumber(st.value(Col::ORDERHEAD_UNPAID_TOTAL));
+    invoice.decimals = int(std::clamp<qint64>(
+        ToInteger(st.value(Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS), 2), 0, 6));
     return Result::success();
 }
 
@@ -145,11 +147,11 @@ Result BankItemStore::list(qint64 orderId, QList<BankItem>& items)
         return st.failure(tr("Database error:&") + st.errorText());
     while (st.next()) {
         BankItem item;
-        item.id = ToInteger(st.value(0));
-        item.recordNo = st.value(1).toString();
-        item.transferDate = DateFromSql(st.value(2));
-        item.paidTotal = ToNumber(st.value(3));
-        item.comment = st.value(4).toString();
+        item.id = ToInteger(st.value(Col::BANKITEM_ID));
+        item.recordNo = st.value(Col::BANKITEM_RECORD_NO).toString();
+        item.transferDate = DateFromSql(st.value(Col::BANKITEM_TRANSFER_DATE));
+        item.paidTotal = ToNumber(st.value(Col::BANKITEM_PAID_TOTAL));
+        item.comment = st.value(Col::BANKITEM_COMMENT).toString();
         items << item;
     }
     return Result::success();

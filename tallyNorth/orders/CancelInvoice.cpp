@@ -72,16 +72,16 @@ Result CancelInvoice::state(qint64 orderId, CancelState& state)
         return Result::failure(
             tr("Unable to load data from database.&Maybe it is deleted by an other user."));
     using Block = CancelState::Block;
-    if (IsNullValue(st.value(0)))
+    if (IsNullValue(st.value(Col::ORDERHEAD_INVOICE_NO)))
         state.block = Block::NotInvoice;
-    else if (!IsNullValue(st.value(1)))
+    else if (!IsNullValue(st.value(Col::ORDERHEAD_CANCELLING_INVOICE_NO)))
         state.block = Block::Cancelled;
-    else if (ToInteger(st.value(2)) == int(OrderType::CancellingInvoice))
+    else if (ToInteger(st.value(Col::ORDERHEAD_TYPE)) == int(OrderType::CancellingInvoice))
         state.block = Block::Cancelling;
-    state.cancelledBy = st.value(3).toString();
+    state.cancelledBy = st.value(Col::ORDERHEAD_CANCELLING_INVOICE_NO_STR).toString();
     if (state.block != Block::None)
         return Result::success();
-    const qint64 number = ToInteger(st.value(0));
+    const qint64 number = ToInteger(st.value(Col::ORDERHEAD_INVOICE_NO));
     st.query().finish();
 
     // A second cancelling order would only fail when printed; say so now.

@@ -75,23 +75,23 @@ QString ColumnList()
 Cheque ReadCheque(const SqlStatement& st)
 {
     Cheque c;
-    c.id = ToInteger(st.value(0));
-    c.code = st.value(1).toString();
-    c.orderId = OptionalId(st.value(2));
-    c.invoiceNo = OptionalId(st.value(3));
-    c.invoiceNoText = st.value(4).toString();
-    c.partnerId = OptionalId(st.value(5));
-    c.partnerCode = st.value(6).toString();
-    c.partnerName = st.value(7).toString();
-    c.partnerZip = st.value(9).toString();
-    c.partnerCity = st.value(10).toString();
-    c.partnerAddress = st.value(11).toString();
-    c.amount = ToNumber(st.value(12));
-    c.pretence = st.value(13).toString();
-    c.notice = st.value(14).toString();
-    c.printed = IsFlagSet(st.value(15));
-    c.dateCreated = DateFromSql(st.value(16));
-    c.datePrinted = DateFromSql(st.value(17));
+    c.id = ToInteger(st.value(CHEQUE_ID));
+    c.code = st.value(CHEQUE_CODE).toString();
+    c.orderId = OptionalId(st.value(CHEQUE_ORDERHEAD_ID));
+    c.invoiceNo = OptionalId(st.value(CHEQUE_INVOICE_NO));
+    c.invoiceNoText = st.value(CHEQUE_INVOICE_NO_STR).toString();
+    c.partnerId = OptionalId(st.value(CHEQUE_PARTNER_ID));
+    c.partnerCode = st.value(CHEQUE_PARTNER_CODE).toString();
+    c.partnerName = st.value(CHEQUE_PARTNER_NAME).toString();
+    c.partnerZip = st.value(CHEQUE_PARTNER_ZIP).toString();
+    c.partnerCity = st.value(CHEQUE_PARTNER_CITY).toString();
+    c.partnerAddress = st.value(CHEQUE_PARTNER_ADDRESS).toString();
+    c.amount = ToNumber(st.value(CHEQUE_AMOUNT));
+    c.pretence = st.value(CHEQUE_PRETENCE).toString();
+    c.notice = st.value(CHEQUE_NOTICE).toString();
+    c.printed = IsFlagSet(st.value(CHEQUE_PRINTED));
+    c.dateCreated = DateFromSql(st.value(CHEQUE_DATE_CREATED));
+    c.datePrinted = DateFromSql(st.value(CHEQUE_DATE_PRINTED));
     return c;
 }
 
@@ -351,18 +351,21 @@ Result ChequeStore::createForInvoice(qint64 orderId, const QDate& today, qint64&
             tr("Unable to load data from database.&Maybe it is deleted by an other user."));
     Cheque c;
     c.orderId = orderId;
-    c.invoiceNo = OptionalId(st.value(0));
-    c.invoiceNoText = st.value(1).toString();
-    c.partnerId = OptionalId(st.value(2));
-    c.partnerCode = st.value(3).toString();
-    c.partnerName = st.value(4).toString();
-    c.partnerZip = st.value(5).toString();
-    c.partnerCity = st.value(6).toString();
-    c.partnerAddress = st.value(7).toString();
+    c.invoiceNo = OptionalId(st.value(ORDERHEAD_INVOICE_NO));
+    c.invoiceNoText = st.value(ORDERHEAD_INVOICE_NO_STR).toString();
+    c.partnerId = OptionalId(st.value(ORDERHEAD_PARTNER_ID));
+    c.partnerCode = st.value(ORDERHEAD_PARTNER_CODE).toString();
+    c.partnerName = st.value(ORDERHEAD_PARTNER_NAME).toString();
+    c.partnerZip = st.value(ORDERHEAD_PARTNER_ZIP).toString();
+    c.partnerCity = st.value(ORDERHEAD_PARTNER_CITY).toString();
+    c.partnerAddress = st.value(ORDERHEAD_PARTNER_ADDRESS).toString();
     // The forint gross total to pay: a cheque is paid in forints.
-    c.amount = IsNullValue(st.value(8)) ? ToNumber(st.value(9)) : ToNumber(st.value(8));
-    const QDate created = DateFromSql(st.value(10)).isValid() ? DateFromSql(st.value(10)) : today;
-    const QDate due = DateFromSql(st.value(11));
+    const QVariant localGross = st.value(ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS);
+    c.amount =
+        IsNullValue(localGross) ? ToNumber(st.value(ORDERHEAD_TOTAL_GROSS)) : ToNumber(localGross);
+    const QDate createdOn = DateFromSql(st.value(ORDERHEAD_DATE_CREATED));
+    const QDate created = createdOn.isValid() ? createdOn : today;
+    const QDate due = DateFromSql(st.value(ORDERHEAD_DATE_PAYMENT_DUE));
     st.query().finish();
     c.pretence = pretenceText(created, due, c.invoiceNoText);
     c.notice = noticeText(created, due, c.invoiceNoText);
@@ -390,7 +393,8 @@ Result ChequeStore::forInvoices(const QList<qint64>& orderIds, const QDate& toda
         if (!st.next())
             return Result::failure(
                 tr("Unable to load data from database.&Maybe it is deleted by an other user."));
-        if (IsNullValue(st.value(0)) || !IsNullValue(st.value(1)))
+        if (IsNullValue(st.value(ORDERHEAD_INVOICE_NO)) ||
+            !IsNullValue(st.value(ORDERHEAD_CANCELLED_INVOICE_NO)))
             return Result::failure(tr("Csekk csak kiallitott szamlahoz nyomtathato."));
         if (!IsNullValue(st.value(2))) {
             chequeIds << ToInteger(st.value(2));

@@ -84,11 +84,12 @@ Result InvoiceNumbering::issue(qint64 orderId, const QDate& today, const Render&
     if (!order.next())
         return Result::failure(
             tr("Unable to load data from database.&Maybe it is deleted by an other user."));
-    if (!IsNullValue(order.value(0)))
+    if (!IsNullValue(order.value(Col::ORDERHEAD_INVOICE_NO)))
         return OrderChanged();
-    const QVariant cancelledNo = order.value(1);
-    const double totalGross = ToNumber(order.value(2));
-    const PaidState paid = paidAtIssue(order.value(3), cancelledNo, totalGross);
+    const QVariant cancelledNo = order.value(Col::ORDERHEAD_CANCELLED_INVOICE_NO);
+    const double totalGross = ToNumber(order.value(Col::ORDERHEAD_TOTAL_GROSS));
+    const PaidState paid =
+        paidAtIssue(order.value(Col::ORDERHEAD_PAYMENTMETHOD_PAID), cancelledNo, totalGross);
     order.query().finish();
 
     // The document shows the printing date; it is written before rendering, in the same
@@ -179,12 +180,12 @@ Result InvoiceNumbering::loadFrozen(qint64 orderId, FrozenInvoice& invoice)
         return DatabaseFailure(st);
     if (!st.next())
         return Result::failure(tr("The invoice of this order is missing from the database."));
-    invoice.header = st.value(0).toString();
-    invoice.body = st.value(1).toString();
-    invoice.footer = st.value(2).toString();
-    invoice.logoId =
-        IsNullValue(st.value(3)) ? std::nullopt : std::optional(ToInteger(st.value(3)));
-    invoice.logoSizePercent = ToNumber(st.value(4), -1e308);
+    invoice.header = st.value(Col::INVOICE_HEADER_QTF).toString();
+    invoice.body = st.value(Col::INVOICE_BODY_QTF).toString();
+    invoice.footer = st.value(Col::INVOICE_FOOTER_QTF).toString();
+    const QVariant logoId = st.value(Col::INVOICE_LOGO_ID);
+    invoice.logoId = IsNullValue(logoId) ? std::nullopt : std::optional(ToInteger(logoId));
+    invoice.logoSizePercent = ToNumber(st.value(Col::INVOICE_LOGO_SIZE_PERCENT), -1e308);
     return Result::success();
 }
 

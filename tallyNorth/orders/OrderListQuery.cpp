@@ -7,6 +7,8 @@
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 
+#include <QSqlRecord>
+
 namespace {
 
 // The predicate of each kind. Paid state and due dates only mean something on an issued invoice,
@@ -102,8 +104,7 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
         where << Sql("%1 >= ? and %1 < ?", {Col::ORDERHEAD_PARTNER_NAME_ASCII});
         binds << QVariant(prefix) << QVariant(prefix + QChar(0xFFFF));
     }
-    // Only the columns the list shows, read by position: a row of the list costs little more
-    // than the bare query's.
+    // Only the columns the list shows.
     static constexpr const char* kColumns[] = {
         Col::ORDERHEAD_ID,
         Col::ORDERHEAD_CODE,
@@ -149,29 +150,52 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
             FillArgs(tr("Hiba: Szamlak lekerdezese nem sikerult&%s"), {st.errorText()}));
     if (filter.limit > 0)
         rows.reserve(filter.limit);
+    // Each column's place is looked up by its name once, not on every row: a row of the list
+    // costs little more than the bare query's.
+    const QSqlRecord record = st.query().record();
+    const auto place = [&record](const char* column) {
+        return record.indexOf(QLatin1StringView(column));
+    };
+    const int id = place(Col::ORDERHEAD_ID), code = place(Col::ORDERHEAD_CODE),
+              invoiceNoStr = place(Col::ORDERHEAD_INVOICE_NO_STR),
+              partnerName = place(Col::ORDERHEAD_PARTNER_NAME),
+              dateShipped = place(Col::ORDERHEAD_DATE_SHIPPED),
+              dateCreated = place(Col::ORDERHEAD_DATE_CREATED),
+              datePaymentDue = place(Col::ORDERHEAD_DATE_PAYMENT_DUE),
+              currency = place(Col::ORDERHEAD_CURRENCY_ABBREVIATION),
+              totalNet = place(Col::ORDERHEAD_TOTAL_NET),
+              totalVat = place(Col::ORDERHEAD_TOTAL_VAT),
+              totalGross = place(Col::ORDERHEAD_TOTAL_GROSS),
+              unpaidTotal = place(Col::ORDERHEAD_UNPAID_TOTAL),
+              paymentMethod = place(Col::ORDERHEAD_PAYMENTMETHOD_NAME),
+              type = place(Col::ORDERHEAD_TYPE), verified = place(Col::ORDERHEAD_VERIFIED),
+              invoiceNo = place(Col::ORDERHEAD_INVOICE_NO),
+              cancellingNo = place(Col::ORDERHEAD_CANCELLING_INVOICE_NO),
+              consolidated = place(Col::ORDERHEAD_CONSOLIDATED_INVOICE),
+              printingDecimals = place(Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS);
     while (st.next()) {
         if (filter.limit > 0 && rows.size() == filter.limit) {
             more = true;
             break;
         }
         OrderListRow row;
-        row.id = ToInteger(st.value(0));
-        row.code = st.value(1).toString();
-        row.invoiceNoStr = st.value(2).toString();
-        row.partnerName = st.value(3).toString();
-        row.dateShipped = DateFromSql(st.value(4));
-        row.dateCreated = DateFromSql(st.value(5));
-        row.datePaymentDue = DateFromSql(st.value(6));
-        row.currency = st.value(7).toString();
-        row.totalNet = ToNumber(st.value(8));
-        row.totalVat = ToNumber(st.value(9));
-        row.totalGross = ToNumber(st.value(10));
-        row.unpaidTotal = ToNumber(st.value(11));
-        row.paymentMethod = st.value(12).toString();
-        row.kind =
-            ConvertOrderType(st.value(13), st.value(14), st.value(15), st.value(16), st.value(17));
-        row.printingDecimals = int(ToInteger(st.value(18)));
-        row.verified = IsFlagSet(st.value(14));
+        row.id = ToInteger(st.value(id));
+        row.code = st.value(code).toString();
+        row.invoiceNoStr = st.value(invoiceNoStr).toString();
+        row.partnerName = st.value(partnerName).toString();
+        row.dateShipped = DateFromSql(st.value(dateShipped));
+        row.dateCreated = DateFromSql(st.value(dateCreated));
+        row.datePaymentDue = DateFromSql(st.value(datePaymentDue));
+        row.currency = st.value(currency).toString();
+        row.totalNet = ToNumber(st.value(totalNet));
+        row.totalVat = ToNumber(st.value(totalVat));
+        row.totalGross = ToNumber(st.value(totalGross));
+        row.unpaidTotal = ToNumber(st.value(unpaidTotal));
+        row.paymentMethod = st.value(paymentMethod).toString();
+        row.kind = ConvertOrderType(st.value(type), st.value(verified), st.value(invoiceNo),
+                                    st.value(cancellingNo), st.value(consolidated));
+        row.printingDecimals = int(ToInteger(st.value(printingDecimals)));
+        row.verified = IsFlagSet(st.value(verified));
         if (!IsNullValue(st.value(19)))
             row.reportState = int(ToInteger(st.value(19)));
         row.reportMessages = st.value(20).toString();
