@@ -22,7 +22,9 @@ function(tn_add_test name)
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set(env "QT_QPA_PLATFORM=offscreen" "TALLYNORTH_LANG=en" "LC_ALL=C.UTF-8")
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT 600)
+    # A column read by a name the statement does not select reads as null; only its warning tells.
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}" TIMEOUT 600
+        FAIL_REGULAR_EXPRESSION "SqlStatement: unknown column|QSqlQuery::value: not positioned|QSqlQuery::value: unknown field")
 endfunction()
 
 # Generates Columns.h from the create-tables script: one constant per table and column, so a

@@ -3,7 +3,11 @@
 #include "Database.h"
 
 #include <QHash>
+
 #include <QSqlError>
+#include <QSqlRecord>
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -51,7 +55,22 @@ bool SqlStatement::exec()
     }
     for (const QVariant& v : std::as_const(m_binds))
         m_query.addBindValue(v);
+    m_positions.clear();
     return m_query.exec();
+}
+
+QVariant SqlStatement::value(const char* column) const
+{
+    auto it = std::find_if(m_positions.cbegin(), m_positions.cend(),
+                           [column](const auto& p) { return p.first == column; });
+    if (it == m_positions.cend()) {
+        const int position = m_query.record().indexOf(QLatin1StringView(column));
+        if (position < 0)
+            qWarning("SqlStatement: unknown column %s in: %s", column, qPrintable(m_text));
+        m_positions.append({QByteArray(column), position});
+        it = std::prev(m_positions.cend());
+    }
+    return it->second < 0 ? QVariant() : m_query.value(it->second);
 }
 
 void ForgetPreparedStatements()

@@ -4,12 +4,15 @@
 #include "Database.h"
 #include "Result.h"
 
+#include <QByteArray>
+#include <QList>
 #include <QSqlQuery>
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
 
 #include <initializer_list>
+#include <utility>
 
 class SqlStatement
 {
@@ -21,7 +24,9 @@ public:
     // Prepares, binds and executes; false with errorText() on failure.
     bool exec();
     bool next() { return m_query.next(); }
-    QVariant value(const char* column) const { return m_query.value(QString::fromLatin1(column)); }
+    // A column by its name; the position is looked up once per statement run. A name the
+    // statement does not select is a programming fault: it is reported and reads as null.
+    QVariant value(const char* column) const;
     QVariant value(int index) const { return m_query.value(index); }
     int numRowsAffected() const { return m_query.numRowsAffected(); }
     QVariant lastInsertId() const { return m_query.lastInsertId(); }
@@ -38,6 +43,8 @@ private:
     bool m_keep;     // a write on the session, kept prepared
     bool m_prepared; // m_query is prepared for m_text
     QSqlQuery m_query;
+    // Of the columns read by name since exec(); by text, as a name may be a passing buffer.
+    mutable QList<std::pair<QByteArray, int>> m_positions;
 };
 
 // Drops the statements kept prepared on the session; called before the session closes.
