@@ -127,9 +127,9 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
         Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS,
         // The reporting state, found by the queue's key.
         "(select TN_NAV_QUEUE_STATE from TN_NAV_QUEUE where TN_NAV_QUEUE_INVOICE_NO = "
-        "ORDERHEAD_INVOICE_NO)",
+        "ORDERHEAD_INVOICE_NO) as NAV_STATE",
         "(select TN_NAV_QUEUE_MESSAGES from TN_NAV_QUEUE where TN_NAV_QUEUE_INVOICE_NO = "
-        "ORDERHEAD_INVOICE_NO)",
+        "ORDERHEAD_INVOICE_NO) as NAV_MESSAGES",
     };
     QStringList columns;
     for (const char* column : kColumns)
@@ -172,7 +172,8 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
               invoiceNo = place(Col::ORDERHEAD_INVOICE_NO),
               cancellingNo = place(Col::ORDERHEAD_CANCELLING_INVOICE_NO),
               consolidated = place(Col::ORDERHEAD_CONSOLIDATED_INVOICE),
-              printingDecimals = place(Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS);
+              printingDecimals = place(Col::ORDERHEAD_CURRENCY_INVOICE_TOTAL_PRINTING_DECIMALS),
+              navState = place("NAV_STATE"), navMessages = place("NAV_MESSAGES");
     while (st.next()) {
         if (filter.limit > 0 && rows.size() == filter.limit) {
             more = true;
@@ -196,9 +197,9 @@ Result OrderListQuery::load(const OrderListFilter& filter, QList<OrderListRow>& 
                                     st.value(cancellingNo), st.value(consolidated));
         row.printingDecimals = int(ToInteger(st.value(printingDecimals)));
         row.verified = IsFlagSet(st.value(verified));
-        if (!IsNullValue(st.value(19)))
-            row.reportState = int(ToInteger(st.value(19)));
-        row.reportMessages = st.value(20).toString();
+        if (!IsNullValue(st.value(navState)))
+            row.reportState = int(ToInteger(st.value(navState)));
+        row.reportMessages = st.value(navMessages).toString();
         rows << row;
     }
     return Result::success();
