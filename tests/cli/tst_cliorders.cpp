@@ -1,6 +1,8 @@
 // tallynorth-cli driven as a script drives it on the demonstration company: orders added, shown,
 // listed, cloned and deleted; invoices issued, printed and cancelled with numbers 1 and 2; 40 % of
-// an invoice paid and then the rest. Bad usage exits 2, refusals 1, and nothing is written.
+// an invoice paid and then the rest; a webshop orders file imported. Bad usage exits 2, refusals
+// 1, and nothing is written.
+#include "../webshop/WebshopDocs.h"
 #include "OrdersTestData.h"
 
 #include <QtTest>
@@ -81,6 +83,23 @@ private Q_SLOTS:
         QCOMPARE(out({"payments", "000001"}).split('\n', Qt::SkipEmptyParts),
                  (QStringList{"Record No\tTransfer Date\tPaid\tComment", "K/12\t2024-05-02\t1270\t",
                               "\t2024-05-09\t1905\ta maradék", "000001: paid"}));
+    }
+
+    // Nobody is there to choose a row for an unknown code: the run stops and stores nothing.
+    void importOrders()
+    {
+        const QString file = m_cli->base() + "/orders.xml";
+        const auto write = [&file](const QByteArray& xml) {
+            QFile f(file);
+            return f.open(QIODevice::WriteOnly) && f.write(xml) == xml.size();
+        };
+        const QString count = "select count(*) from ORDERHEAD where ORDERHEAD_CODE = 'W1'";
+        QVERIFY(write(OrdersDoc({OrderXml("W1", {"ORDERHEAD_PAYMENTMETHOD_CODE=PP"})})));
+        QCOMPARE(cli({"import-orders", file}).exitCode, 1);
+        QCOMPARE(stored(count), "0");
+        QVERIFY(write(OrdersDoc({OrderXml("W1")})));
+        QCOMPARE(out({"import-orders", file}).trimmed(), "stored: 1");
+        QCOMPARE(stored(count), "1");
     }
 
     void badInput_data()
