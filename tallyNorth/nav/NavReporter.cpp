@@ -3,11 +3,27 @@
 #include "InvoiceData.h"
 #include "NavQueue.h"
 
+#include "base/Interaction.h"
+
 #include <QHash>
 
-Result NavReporter::send(NavClient& client, const QDateTime& now, NavReportOutcome& outcome)
+namespace {
+
+bool Stopped(Progress* progress, NavReportOutcome& outcome)
+{
+    if (progress && progress->canceled())
+        outcome.stopped = true;
+    return outcome.stopped;
+}
+
+} // namespace
+
+Result NavReporter::send(NavClient& client, const QDateTime& now, NavReportOutcome& outcome,
+                         Progress* progress)
 {
     for (;;) {
+        if (Stopped(progress, outcome))
+            return Result::success();
         QList<NavQueueEntry> due;
         if (Result r = NavQueue::due(now, kBatch, due); !r)
             return r;
@@ -56,7 +72,7 @@ Result NavReporter::send(NavClient& client, const QDateTime& now, NavReportOutco
     }
 }
 
-Result NavReporter::poll(NavClient& client, NavReportOutcome& outcome)
+Result NavReporter::poll(NavClient& client, NavReportOutcome& outcome, Progress* progress)
 {
     QList<NavQueueEntry> sent;
     if (Result r = NavQueue::sent(sent); !r)
@@ -64,6 +80,8 @@ Result NavReporter::poll(NavClient& client, NavReportOutcome& outcome)
     QHash<QString, QList<NavQueueEntry>> byTransaction;
     QStringList order;
     for (const NavQueueEntry& e : std::as_const(sent)) {
+        if (Stopped(progress, outcome))
+            return Result::success();
         if (e.transactionId.isEmpty()) {
             // A send cut short: the authority may have the invoice or not. Sending it again
             // blindly would be refused as a number already reported.
@@ -86,6 +104,8 @@ Result NavReporter::poll(NavClient& client, NavReportOutcome& outcome)
         byTransaction[e.transactionId] << e;
     }
     for (const QString& transactionId : std::as_const(order)) {
+        if (Stopped(progress, outcome))
+            return Result::success();
         QList<NavProcessingResult> results;
         if (Result r = client.queryTransactionStatus(transactionId, results); !r) {
             outcome.problems << r.message();
@@ -121,7 +141,8 @@ Result NavReporter::poll(NavClient& client, NavReportOutcome& outcome)
     return Result::success();
 }
 
-Result NavReporter::run(const NavClientOptions& options, NavReportOutcome& outcome)
+Result NavReporter::run(const NavClientOptions& options, NavReportOutcome& outcome,
+                        Progress* progress)
 {
     NavSettings settings;
     if (Result r = NavSettingsStore::load(settings); !r)
@@ -131,9 +152,9 @@ Result NavReporter::run(const NavClientOptions& options, NavReportOutcome& outco
                                   "up.&Fill in the NAV settings first."));
     NavClient client(settings, options);
     // What an earlier run left sent is settled first, so that it is not sent twice.
-    if (Result r = poll(client, outcome); !r)
+    if (Result r = poll(client, outcome, progress); !r)
         return r;
-    if (Result r = send(client, QDateTime::currentDateTimeUtc(), outcome); !r)
+    if (Result r = send(client, QDateTime::currentDateTimeUtc(), outcome, progress); !r)
         return r;
-    return poll(client, outcome);
+    return poll(client, outcome, progress);
 }

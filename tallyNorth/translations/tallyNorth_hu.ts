@@ -1961,6 +1961,10 @@ Fiz. határidő:
     <context>
         <name>NavCommands</name>
         <message>
+            <source>Stopped: the rest is sent at the next report.</source>
+            <translation>Leállítva: a többi számla a következő adatszolgáltatáskor megy el.</translation>
+        </message>
+        <message>
             <source>Can't write %1.</source>
             <translation>Nem írható: %1.</translation>
         </message>

@@ -3,6 +3,7 @@
 // fault leaves the invoices waiting for their back-off, and a refused user or signature is told.
 #include "NavDouble.h"
 #include "NavTestOrders.h"
+#include "ScriptedInteraction.h"
 #include "TestCompany.h"
 #include "TestData.h"
 
@@ -71,6 +72,22 @@ private Q_SLOTS:
         QVERIFY(NavReporter::run(Options(), again));
         QCOMPARE(again.sent, 0);
         QCOMPARE(m_double->requestCount("manageInvoice"), 1);
+    }
+
+    // Cancel in the progress window stops between requests; what was not sent waits.
+    void stoppedByTheUser()
+    {
+        QVERIFY(IssueNavTestOrder(NavTestKind::Forint));
+        ScriptedInteraction ui;
+        ui.cancelAfterChecks = 0;
+        NavReportOutcome outcome;
+        QVERIFY(NavReporter::run(Options(), outcome, ui.progress(QString()).get()));
+        QVERIFY(outcome.stopped);
+        QCOMPARE(m_double->requestCount("manageInvoice"), 0);
+        QCOMPARE(States(), QString("1|0"));
+        NavReportOutcome later;
+        QVERIFY(NavReporter::run(Options(), later));
+        QCOMPARE(later.sent, 1);
     }
 
     void faultModes_data()

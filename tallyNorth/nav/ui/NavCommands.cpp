@@ -45,7 +45,7 @@ void Report(CommandHost& host)
         const auto progress = interaction.progress(
             QCoreApplication::translate("NavCommands", "Reporting invoices to NAV. Please wait."));
         QApplication::setOverrideCursor(Qt::WaitCursor);
-        r = NavReporter::run({}, outcome);
+        r = NavReporter::run({}, outcome, progress.get());
         QApplication::restoreOverrideCursor();
     }
     host.reloadTab(MainTab::Orders);
@@ -60,6 +60,9 @@ void Report(CommandHost& host)
             .arg(outcome.warnings)
             .arg(outcome.rejected)
             .arg(outcome.stillWaiting);
+    if (outcome.stopped)
+        text += u'&' + QCoreApplication::translate("NavCommands",
+                                                   "Stopped: the rest is sent at the next report.");
     // A rejected invoice is shown with the authority's message.
     if (!outcome.problems.isEmpty())
         text += u'&' + outcome.problems.join(u'&');
