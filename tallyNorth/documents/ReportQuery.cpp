@@ -59,23 +59,49 @@ QString SalesFrom()
                {Tbl::ORDERITEM, Tbl::ORDERHEAD, Col::ORDERHEAD_ID, Col::ORDERITEM_ORDERHEAD_ID});
 }
 
-// The three amount sums of the sales reports.
-void AddSums(Query& q, bool local, int decimals)
+// A column shown as it is stored.
+void AddText(Query& q, const char* column, const char* title)
 {
-    const char* net = local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET : Col::ORDERITEM_TOTAL_NET;
-    const char* vat = local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT : Col::ORDERITEM_TOTAL_VAT;
-    const char* gross =
-        local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS : Col::ORDERITEM_TOTAL_GROSS;
-    Add(q, Sql("sum(%1)", {net}), Cell::Number, Amount(ReportQuery::tr("Net"), decimals));
-    Add(q, Sql("sum(%1)", {vat}), Cell::Number, Amount(ReportQuery::tr("VAT"), decimals));
-    Add(q, Sql("sum(%1)", {gross}), Cell::Number, Amount(ReportQuery::tr("Gross"), decimals));
+    Add(q, ColumnName(column), Cell::Text, Text(ReportQuery::tr(title)));
+}
+
+// The invoice's id, not shown, and its number: the first columns of a row per invoice.
+void AddInvoiceNo(Query& q)
+{
+    q.select << ColumnName(Col::ORDERHEAD_ID);
+    q.cells << Cell::Id;
+    AddText(q, Col::ORDERHEAD_INVOICE_NO_STR, QT_TRANSLATE_NOOP("ReportQuery", "Invoice No"));
+}
+
+// The three dates of an invoice; shipped is the item's own on a row per item.
+void AddDates(Query& q, const char* shipped)
+{
+    Add(q, ColumnName(shipped), Cell::Date, Date(ReportQuery::tr("Date Shipped")));
+    Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
+        Date(ReportQuery::tr("Date Created")));
+    Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
+        Date(ReportQuery::tr("Date Payment Due")));
+}
+
+// The items' net, VAT and gross amounts, summed by the report's groups or one item's own.
+void AddAmounts(Query& q, bool local, int decimals, bool summed)
+{
+    const char* const columns[] = {
+        local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET : Col::ORDERITEM_TOTAL_NET,
+        local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT : Col::ORDERITEM_TOTAL_VAT,
+        local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS : Col::ORDERITEM_TOTAL_GROSS};
+    const char* const titles[] = {QT_TRANSLATE_NOOP("ReportQuery", "Net"),
+                                  QT_TRANSLATE_NOOP("ReportQuery", "VAT"),
+                                  QT_TRANSLATE_NOOP("ReportQuery", "Gross")};
+    for (int i = 0; i < 3; ++i)
+        Add(q, summed ? Sql("sum(%1)", {columns[i]}) : ColumnName(columns[i]), Cell::Number,
+            Amount(ReportQuery::tr(titles[i]), decimals));
 }
 
 void AddCurrency(Query& q)
 {
     q.currencyColumn = int(q.columns.size());
-    Add(q, ColumnName(Col::ORDERHEAD_CURRENCY_ABBREVIATION), Cell::Text,
-        Text(ReportQuery::tr("Currency")));
+    AddText(q, Col::ORDERHEAD_CURRENCY_ABBREVIATION, QT_TRANSLATE_NOOP("ReportQuery", "Currency"));
 }
 
 void AddKind(Query& q)
@@ -93,110 +119,69 @@ Query Build(ReportKind kind, bool local)
 {
     Query q;
     const QString currency = ColumnName(Col::ORDERHEAD_CURRENCY_ABBREVIATION);
+    const ReportColumn quantity{ReportQuery::tr("Qty"), Type::Number, 2, false};
     switch (kind) {
     case ReportKind::ProductsSold:
         q.from = SalesFrom();
-        Add(q, ColumnName(Col::ORDERITEM_NAME), Cell::Text, Text(ReportQuery::tr("Product Name")));
-        Add(q, Sql("sum(%1)", {Col::ORDERITEM_QTY}), Cell::Number,
-            {ReportQuery::tr("Qty"), Type::Number, 2, false});
-        Add(q, ColumnName(Col::ORDERITEM_UNIT), Cell::Text, Text(ReportQuery::tr("Unit")));
+        AddText(q, Col::ORDERITEM_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Product Name"));
+        Add(q, Sql("sum(%1)", {Col::ORDERITEM_QTY}), Cell::Number, quantity);
+        AddText(q, Col::ORDERITEM_UNIT, QT_TRANSLATE_NOOP("ReportQuery", "Unit"));
         if (!local)
             AddCurrency(q);
-        AddSums(q, local, 2);
-        q.group = Sql("%1, %2", {Col::ORDERITEM_NAME, Col::ORDERITEM_UNIT});
-        q.order = Sql("%1, %2", {Col::ORDERITEM_NAME, Col::ORDERITEM_UNIT});
+        AddAmounts(q, local, 2, true);
+        q.group = q.order = Sql("%1, %2", {Col::ORDERITEM_NAME, Col::ORDERITEM_UNIT});
         break;
     case ReportKind::Customers:
         q.from = SalesFrom();
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
-            Text(ReportQuery::tr("Partner Name")));
+        AddText(q, Col::ORDERHEAD_PARTNER_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Partner Name"));
         if (!local)
             AddCurrency(q);
-        AddSums(q, local, 0);
+        AddAmounts(q, local, 0, true);
         q.group = q.order = ColumnName(Col::ORDERHEAD_PARTNER_NAME);
         break;
     case ReportKind::Invoices:
         q.from = SalesFrom();
-        q.select << ColumnName(Col::ORDERHEAD_ID);
-        q.cells << Cell::Id;
-        Add(q, ColumnName(Col::ORDERHEAD_INVOICE_NO_STR), Cell::Text,
-            Text(ReportQuery::tr("Invoice No")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
-            Text(ReportQuery::tr("Partner Name")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_CITY), Cell::Text, Text(ReportQuery::tr("City")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_ADDRESS), Cell::Text,
-            Text(ReportQuery::tr("Address")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_SHIPPED), Cell::Date,
-            Date(ReportQuery::tr("Date Shipped")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
-            Date(ReportQuery::tr("Date Created")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
-            Date(ReportQuery::tr("Date Payment Due")));
+        AddInvoiceNo(q);
+        AddText(q, Col::ORDERHEAD_PARTNER_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Partner Name"));
+        AddText(q, Col::ORDERHEAD_PARTNER_CITY, QT_TRANSLATE_NOOP("ReportQuery", "City"));
+        AddText(q, Col::ORDERHEAD_PARTNER_ADDRESS, QT_TRANSLATE_NOOP("ReportQuery", "Address"));
+        AddDates(q, Col::ORDERHEAD_DATE_SHIPPED);
         AddCurrency(q);
-        AddSums(q, local, 0);
-        Add(q, ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_NAME), Cell::Text,
-            Text(ReportQuery::tr("Payment Method")));
+        AddAmounts(q, local, 0, true);
+        AddText(q, Col::ORDERHEAD_PAYMENTMETHOD_NAME,
+                QT_TRANSLATE_NOOP("ReportQuery", "Payment Method"));
         AddKind(q);
         q.group = ColumnName(Col::ORDERHEAD_ID);
         q.order = Sql("%1, %2", {Col::ORDERHEAD_INVOICE_NO_STR, Col::ORDERHEAD_ID});
         return q;
     case ReportKind::InvoiceItems:
         q.from = SalesFrom();
-        q.select << ColumnName(Col::ORDERHEAD_ID);
-        q.cells << Cell::Id;
-        Add(q, ColumnName(Col::ORDERHEAD_INVOICE_NO_STR), Cell::Text,
-            Text(ReportQuery::tr("Invoice No")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
-            Text(ReportQuery::tr("Partner Name")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_ZIP), Cell::Text, Text(ReportQuery::tr("ZIP")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_CITY), Cell::Text, Text(ReportQuery::tr("City")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_ADDRESS), Cell::Text,
-            Text(ReportQuery::tr("Address")));
-        Add(q, ColumnName(Col::ORDERITEM_DATE_SHIPPED), Cell::Date,
-            Date(ReportQuery::tr("Date Shipped")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
-            Date(ReportQuery::tr("Date Created")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
-            Date(ReportQuery::tr("Date Payment Due")));
-        Add(q, ColumnName(Col::ORDERHEAD_PAYMENTMETHOD_NAME), Cell::Text,
-            Text(ReportQuery::tr("Payment Method")));
+        AddInvoiceNo(q);
+        AddText(q, Col::ORDERHEAD_PARTNER_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Partner Name"));
+        AddText(q, Col::ORDERHEAD_PARTNER_ZIP, QT_TRANSLATE_NOOP("ReportQuery", "ZIP"));
+        AddText(q, Col::ORDERHEAD_PARTNER_CITY, QT_TRANSLATE_NOOP("ReportQuery", "City"));
+        AddText(q, Col::ORDERHEAD_PARTNER_ADDRESS, QT_TRANSLATE_NOOP("ReportQuery", "Address"));
+        AddDates(q, Col::ORDERITEM_DATE_SHIPPED);
+        AddText(q, Col::ORDERHEAD_PAYMENTMETHOD_NAME,
+                QT_TRANSLATE_NOOP("ReportQuery", "Payment Method"));
         AddKind(q);
-        Add(q, ColumnName(Col::ORDERITEM_STAT_NO), Cell::Text, Text(ReportQuery::tr("Stat No")));
-        Add(q, ColumnName(Col::ORDERITEM_NAME), Cell::Text, Text(ReportQuery::tr("Product Name")));
-        Add(q, ColumnName(Col::ORDERITEM_QTY), Cell::Number,
-            {ReportQuery::tr("Qty"), Type::Number, 2, false});
-        Add(q, ColumnName(Col::ORDERITEM_UNIT), Cell::Text, Text(ReportQuery::tr("Unit")));
+        AddText(q, Col::ORDERITEM_STAT_NO, QT_TRANSLATE_NOOP("ReportQuery", "Stat No"));
+        AddText(q, Col::ORDERITEM_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Product Name"));
+        Add(q, ColumnName(Col::ORDERITEM_QTY), Cell::Number, quantity);
+        AddText(q, Col::ORDERITEM_UNIT, QT_TRANSLATE_NOOP("ReportQuery", "Unit"));
         AddCurrency(q);
-        Add(q,
-            ColumnName(local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_NET : Col::ORDERITEM_TOTAL_NET),
-            Cell::Number, Amount(ReportQuery::tr("Net"), 2));
-        Add(q,
-            ColumnName(local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_VAT : Col::ORDERITEM_TOTAL_VAT),
-            Cell::Number, Amount(ReportQuery::tr("VAT"), 2));
-        Add(q,
-            ColumnName(local ? Col::ORDERITEM_TOTAL_LOCAL_CURRENCY_GROSS
-                             : Col::ORDERITEM_TOTAL_GROSS),
-            Cell::Number, Amount(ReportQuery::tr("Gross"), 2));
+        AddAmounts(q, local, 2, false);
         q.order = Sql("%1, %2", {Col::ORDERHEAD_INVOICE_NO_STR, Col::ORDERITEM_ID});
         return q;
     case ReportKind::ReceivablesByInvoices:
         q.from = ColumnName(Tbl::ORDERHEAD);
-        q.select << ColumnName(Col::ORDERHEAD_ID);
-        q.cells << Cell::Id;
-        Add(q, ColumnName(Col::ORDERHEAD_INVOICE_NO_STR), Cell::Text,
-            Text(ReportQuery::tr("Invoice No")));
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
-            Text(ReportQuery::tr("Partner Name")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_SHIPPED), Cell::Date,
-            Date(ReportQuery::tr("Date Shipped")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_CREATED), Cell::Date,
-            Date(ReportQuery::tr("Date Created")));
-        Add(q, ColumnName(Col::ORDERHEAD_DATE_PAYMENT_DUE), Cell::Date,
-            Date(ReportQuery::tr("Date Payment Due")));
+        AddInvoiceNo(q);
+        AddText(q, Col::ORDERHEAD_PARTNER_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Partner Name"));
+        AddDates(q, Col::ORDERHEAD_DATE_SHIPPED);
         AddCurrency(q);
         Add(q,
-            local ? ColumnName(Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS)
-                  : ColumnName(Col::ORDERHEAD_TOTAL_GROSS),
+            ColumnName(local ? Col::ORDERHEAD_TOTAL_LOCAL_CURRENCY_GROSS
+                             : Col::ORDERHEAD_TOTAL_GROSS),
             Cell::Number, Amount(ReportQuery::tr("Gross"), 0));
         // A null unpaid total stays null in either currency.
         Add(q,
@@ -207,8 +192,7 @@ Query Build(ReportKind kind, bool local)
         return q;
     case ReportKind::ReceivablesByPartners:
         q.from = ColumnName(Tbl::ORDERHEAD);
-        Add(q, ColumnName(Col::ORDERHEAD_PARTNER_NAME), Cell::Text,
-            Text(ReportQuery::tr("Partner Name")));
+        AddText(q, Col::ORDERHEAD_PARTNER_NAME, QT_TRANSLATE_NOOP("ReportQuery", "Partner Name"));
         if (!local)
             AddCurrency(q);
         Add(q,
