@@ -8,6 +8,7 @@
 #include "base/DateText.h"
 #include "base/FoldName.h"
 #include "base/MessageArgs.h"
+#include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 #include "orders/ConvertOrderType.h"
@@ -403,13 +404,7 @@ int RunOrdersCommand(CliContext& context, const QStringList& args)
         return Usage(context);
     if (!OpenChosenCompany(context))
         return ExitFailure;
-    {
-        SqlStatement limit(
-            QStringLiteral("select %1 from %2")
-                .arg(QLatin1StringView(Col::SETUP_RECORD_LIMIT), QLatin1StringView(Tbl::SETUP)));
-        if (limit.exec() && limit.next())
-            filter.limit = int(ToInteger(limit.value(Col::SETUP_RECORD_LIMIT)));
-    }
+    filter.limit = int(Setup::current().integer(Col::SETUP_RECORD_LIMIT));
     QList<OrderListRow> rows;
     bool more = false;
     if (Result r = OrderListQuery::load(filter, rows, more); !r) {

@@ -7,12 +7,11 @@
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
-#include "documents/QtfReader.h"
 #include "documents/ReportOutput.h"
 #include "documents/ReportQuery.h"
+#include "masterdata/MasterTables.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <optional>
 
@@ -42,11 +41,10 @@ std::optional<ReportKind> KindOf(const QString& name)
 
 bool WriteOut(CliContext& context, const QString& path, const QByteArray& bytes)
 {
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
-        return true;
-    PrintMessage(context, FillArgs(Tr("Unable to write file %s."), {QtfEscape(path)}));
-    return false;
+    const Result r = ReportOutput::write(path, bytes);
+    if (!r)
+        PrintMessage(context, r.message());
+    return bool(r);
 }
 
 } // namespace
@@ -121,10 +119,10 @@ int RunReportCommand(CliContext& context, const QStringList& args)
         return ExitFailure;
     if (filter.partnerId > 0) {
         // The printed filter line names the partner as it is called today.
-        filter.partnerText =
-            SelectValue(QStringLiteral("select PARTNER_NAME from PARTNER where PARTNER_ID = ?"),
-                        {filter.partnerId})
-                .toString();
+        Record partner;
+        filter.partnerText = PartnerStore().read(filter.partnerId, partner)
+                                 ? partner.value(ColumnName(Col::PARTNER_NAME)).toString()
+                                 : QString();
     }
     ReportTable table;
     if (Result r = ReportQuery::run(*kind, filter, table); !r)

@@ -4,6 +4,9 @@
 #include "QtfReader.h"
 
 #include "base/DateText.h"
+#include "base/MessageArgs.h"
+
+#include <QFile>
 
 #include <numeric>
 
@@ -220,4 +223,18 @@ Report ReportOutput::report(const ReportTable& table, const QString& seller, con
     r.setFooter(QStringLiteral("[1> $$P]"));
     r.setBody(qtf(table, seller, today));
     return r;
+}
+
+Result ReportOutput::write(const QString& path, const QByteArray& bytes)
+{
+    const QString temp = path + QStringLiteral(".part");
+    QFile file(temp);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()) {
+        file.close();
+        QFile::remove(path);
+        if (QFile::rename(temp, path))
+            return Result::success();
+    }
+    QFile::remove(temp);
+    return Result::failure(FillArgs(tr("Unable to write file %s."), {QtfEscape(path)}));
 }

@@ -36,4 +36,7 @@ public:
     // The paged report of qtf(), the date in each page's header; wide lists on landscape paper.
     static Report report(const ReportTable& table, const QString& seller,
                          const QDate& today = QDate::currentDate());
+    // Writes an export beside the target first, so that a failed write leaves an older export
+    // whole.
+    static Result write(const QString& path, const QByteArray& bytes);
 };

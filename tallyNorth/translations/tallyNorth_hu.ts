@@ -4244,6 +4244,10 @@ Folytatja?</translation>
     <context>
         <name>ReportOutput</name>
         <message>
+            <source>Unable to write file %s.</source>
+            <translation>A(z) %s fájl nem írható.</translation>
+        </message>
+        <message>
             <source>Printing Date: </source>
             <translation>Nyomtatás dátuma: </translation>
         </message>

@@ -18,7 +18,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QFile>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -31,21 +30,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-Result WriteBytes(const QString& path, const QByteArray& bytes)
-{
-    // Beside the target first, so that a failed write leaves an older export whole.
-    const QString temp = path + QStringLiteral(".part");
-    QFile file(temp);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()) {
-        file.close();
-        QFile::remove(path);
-        if (QFile::rename(temp, path))
-            return Result::success();
-    }
-    QFile::remove(temp);
-    return Result::failure(FillArgs(ReportDlg::tr("Unable to write file %s."), {QtfEscape(path)}));
-}
 
 QPushButton* Button(const QString& text, const QString& tip, const char* name)
 {
@@ -186,12 +170,12 @@ Result ReportDlg::exportPdf(const QString& path) const
 
 Result ReportDlg::exportTxt(const QString& path) const
 {
-    return WriteBytes(path, ReportOutput::text(m_model->table()).toUtf8());
+    return ReportOutput::write(path, ReportOutput::text(m_model->table()).toUtf8());
 }
 
 Result ReportDlg::exportCsv(const QString& path) const
 {
-    return WriteBytes(path, ReportOutput::csv(m_model->table()));
+    return ReportOutput::write(path, ReportOutput::csv(m_model->table()));
 }
 
 void ReportDlg::copyToClipboard() const
