@@ -3,11 +3,11 @@
 #include "AppCommands.h"
 
 #include "Columns.h"
-#include "base/SqlStatement.h"
 #include "base/SqlValue.h"
 #include "nav/InvoiceData.h"
 #include "nav/NavQueue.h"
 #include "nav/NavReporter.h"
+#include "orders/InvoiceNumbering.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,22 +35,6 @@ Result WriteDocument(const QString& path, const QByteArray& xml)
     if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size() || !file.commit())
         return Result::failure(QCoreApplication::translate("NavCommands", "Can't write %1.")
                                    .arg(QDir::toNativeSeparators(path)));
-    return Result::success();
-}
-
-// The number of an invoice given by its text.
-Result InvoiceNumber(const QString& text, qint64& number)
-{
-    SqlStatement st(Sql("select %1 from %2 where %3 = ? and %1 is not null",
-                        {Col::ORDERHEAD_INVOICE_NO, Tbl::ORDERHEAD, Col::ORDERHEAD_INVOICE_NO_STR}),
-                    {text});
-    if (!st.exec())
-        return st.failure(st.errorText());
-    if (!st.next())
-        return Result::failure(
-            QCoreApplication::translate("NavCommands", "There is no invoice with No. %1.")
-                .arg(text));
-    number = ToInteger(st.value(0));
     return Result::success();
 }
 
@@ -84,26 +68,17 @@ int Export(CliContext& context, const QStringList& args)
         return r ? int(ExitOk) : PrintFailure(context, r);
     }
 
-    qint64 from = 0;
-    qint64 to = 0;
-    if (Result r = InvoiceNumber(options.value("from-no"), from); !r)
-        return PrintFailure(context, r);
-    if (Result r = InvoiceNumber(options.value("to-no"), to); !r)
-        return PrintFailure(context, r);
+    QList<qint64> orders;
+    if (Result r =
+            InvoiceNumbering::findRange(options.value("from-no"), options.value("to-no"), orders);
+        !r)
+        return PrintFailure(context, r, true);
     const QDir dir(options.value("out"));
     if (!dir.exists() && !QDir().mkpath(dir.path()))
         return PrintFailure(
             context, Result::failure(
                          QCoreApplication::translate("NavCommands", "Can't create the folder %1.")
                              .arg(dir.path())));
-    SqlStatement st(Sql("select %1 from %2 where %3 between ? and ? order by %3",
-                        {Col::ORDERHEAD_ID, Tbl::ORDERHEAD, Col::ORDERHEAD_INVOICE_NO}),
-                    {std::min(from, to), std::max(from, to)});
-    if (!st.exec())
-        return PrintFailure(context, st.failure(st.errorText()), true);
-    QList<qint64> orders;
-    while (st.next())
-        orders << ToInteger(st.value(0));
     // A number text may hold characters a file name can not.
     static const QRegularExpression unsafe(QStringLiteral("[^A-Za-z0-9._-]"));
     for (qint64 orderId : std::as_const(orders)) {

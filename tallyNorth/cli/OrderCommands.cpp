@@ -6,11 +6,10 @@
 #include "Columns.h"
 #include "app/CompanyChoice.h"
 #include "base/DateText.h"
-#include "base/FoldName.h"
 #include "base/MessageArgs.h"
 #include "base/Setup.h"
-#include "base/SqlStatement.h"
 #include "base/SqlValue.h"
+#include "masterdata/MasterTables.h"
 #include "orders/ConvertOrderType.h"
 #include "orders/OrderFill.h"
 #include "orders/OrderListQuery.h"
@@ -141,32 +140,17 @@ Result FindPartner(const QString& text, qint64& id)
         id = *given;
         return Result::success();
     }
-    const QString folded = FoldName(text.trimmed());
-    for (const bool exact : {true, false}) {
-        SqlStatement st(
-            QStringLiteral("select %1 from %2 where %3 %4 limit 2")
-                .arg(QLatin1StringView(Col::PARTNER_ID), QLatin1StringView(Tbl::PARTNER),
-                     QLatin1StringView(Col::PARTNER_NAME_ASCII),
-                     exact ? QLatin1String("= ?") : QLatin1String("like ? escape '\\'")),
-            {exact ? folded
-                   : QString(folded)
-                             .replace(u'\\', QLatin1String("\\\\"))
-                             .replace(u'%', QLatin1String("\\%"))
-                             .replace(u'_', QLatin1String("\\_")) +
-                         u'%'});
-        if (!st.exec())
-            return st.failure(OrderCommands::tr("Unable to load data from database."));
-        QList<qint64> ids;
-        while (st.next())
-            ids << ToInteger(st.value(Col::PARTNER_ID));
-        if (ids.size() == 1) {
-            id = ids.first();
-            return Result::success();
-        }
-        if (ids.size() > 1)
-            return Result::failure(FillArgs(
-                OrderCommands::tr("More than one partner matches \"%s\"; give its id."), {text}));
+    QList<qint64> ids;
+    if (Result r = MatchPartners(text, ids); !r)
+        return Result::failure(OrderCommands::tr("Unable to load data from database."),
+                               r.sqlError());
+    if (ids.size() == 1) {
+        id = ids.first();
+        return Result::success();
     }
+    if (ids.size() > 1)
+        return Result::failure(FillArgs(
+            OrderCommands::tr("More than one partner matches \"%s\"; give its id."), {text}));
     return Result::failure(FillArgs(OrderCommands::tr("Partner not found: %s"), {text}));
 }
 

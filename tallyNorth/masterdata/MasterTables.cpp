@@ -1,6 +1,7 @@
 #include "MasterTables.h"
 
 #include "Columns.h"
+#include "base/FoldName.h"
 #include "base/Setup.h"
 #include "base/SqlStatement.h"
 #include "base/SqlValue.h"
@@ -38,6 +39,32 @@ void UpperCaseCode(Record& lang)
     const QVariant code = lang.value(ColumnName(LANG_CODE));
     if (!IsNullValue(code))
         lang.insert(ColumnName(LANG_CODE), code.toString().trimmed().toUpper());
+}
+
+Result MatchPartners(const QString& text, QList<qint64>& ids)
+{
+    const QString folded = FoldName(text.trimmed());
+    for (const bool exact : {true, false}) {
+        SqlStatement st(
+            QStringLiteral("select %1 from %2 where %3 %4 limit 2")
+                .arg(QLatin1StringView(PARTNER_ID), QLatin1StringView(Tbl::PARTNER),
+                     QLatin1StringView(PARTNER_NAME_ASCII),
+                     exact ? QLatin1String("= ?") : QLatin1String("like ? escape '\\'")),
+            {exact ? folded
+                   : QString(folded)
+                             .replace(u'\\', QLatin1String("\\\\"))
+                             .replace(u'%', QLatin1String("\\%"))
+                             .replace(u'_', QLatin1String("\\_")) +
+                         u'%'});
+        if (!st.exec())
+            return st.failure(QString());
+        ids.clear();
+        while (st.next())
+            ids << ToInteger(st.value(PARTNER_ID));
+        if (!ids.isEmpty())
+            return Result::success();
+    }
+    return Result::success();
 }
 
 int ListRecordLimit()

@@ -29,6 +29,10 @@ const TableStore& ProductStore();
 // Child tables of the payment method, no-VAT reason and product stores, in their order.
 enum class ProductChild { Translations, Prices };
 
+// The partners a typed name stands for: those whose folded name is the text's, else those it
+// begins; at most two, enough to tell one from many.
+Result MatchPartners(const QString& text, QList<qint64>& ids);
+
 // How many partners or products a list reads at most: SETUP_RECORD_LIMIT, 1000 when unset.
 int ListRecordLimit();
 

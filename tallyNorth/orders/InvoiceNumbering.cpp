@@ -212,3 +212,41 @@ Result InvoiceNumbering::findInvoice(const QString& numberText, qint64& orderId)
     orderId = ToInteger(st.value(0));
     return Result::success();
 }
+
+namespace {
+
+Result InvoiceNumberOf(const QString& numberText, qint64& number)
+{
+    SqlStatement st(Sql("select %1 from %2 where %3 = ? and %1 is not null",
+                        {Col::ORDERHEAD_INVOICE_NO, Tbl::ORDERHEAD, Col::ORDERHEAD_INVOICE_NO_STR}),
+                    {numberText});
+    if (!st.exec())
+        return DatabaseFailure(st);
+    if (!st.next())
+        return Result::failure(
+            FillArgs(InvoiceNumbering::tr("There is no invoice with No. %s."), {numberText}));
+    number = ToInteger(st.value(0));
+    return Result::success();
+}
+
+} // namespace
+
+Result InvoiceNumbering::findRange(const QString& fromText, const QString& toText,
+                                   QList<qint64>& orderIds)
+{
+    qint64 from = 0;
+    qint64 to = 0;
+    if (Result r = InvoiceNumberOf(fromText, from); !r)
+        return r;
+    if (Result r = InvoiceNumberOf(toText, to); !r)
+        return r;
+    SqlStatement st(Sql("select %1 from %2 where %3 between ? and ? order by %3",
+                        {Col::ORDERHEAD_ID, Tbl::ORDERHEAD, Col::ORDERHEAD_INVOICE_NO}),
+                    {std::min(from, to), std::max(from, to)});
+    if (!st.exec())
+        return DatabaseFailure(st);
+    orderIds.clear();
+    while (st.next())
+        orderIds << ToInteger(st.value(0));
+    return Result::success();
+}

@@ -68,4 +68,8 @@ public:
     static Result addPrintedCopies(qint64 orderId, int copies);
     // The order of an invoice number text (ORDERHEAD_INVOICE_NO_STR).
     static Result findInvoice(const QString& numberText, qint64& orderId);
+    // The orders of the invoices numbered from one number text's invoice to another's, in
+    // number order; the two may come in either order.
+    static Result findRange(const QString& fromText, const QString& toText,
+                            QList<qint64>& orderIds);
 };
