@@ -8,31 +8,7 @@ Result ChequeListModel::load(const ChequeListFilter& filter)
     QList<Cheque> rows;
     bool more = false;
     const Result r = ChequeStore::list(filter, rows, more);
-    setRows(r ? rows : QList<Cheque>());
-    m_more = r && more;
-    return r;
-}
-
-void ChequeListModel::setRows(QList<Cheque> rows)
-{
-    beginResetModel();
-    m_rows = std::move(rows);
-    m_more = false;
-    endResetModel();
-}
-
-int ChequeListModel::rowOf(qint64 id) const
-{
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        if (m_rows.at(i).id == id)
-            return int(i);
-    }
-    return -1;
-}
-
-int ChequeListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : int(m_rows.size());
+    return setRead(r, std::move(rows), more);
 }
 
 int ChequeListModel::columnCount(const QModelIndex& parent) const
@@ -44,7 +20,7 @@ QVariant ChequeListModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const Cheque& c = m_rows.at(index.row());
+    const Cheque& c = row(index.row());
     const auto column = Column(index.column());
     if (role == IdRole)
         return c.id;

@@ -38,31 +38,7 @@ Result OrderListModel::load(const OrderListFilter& filter)
     QList<OrderListRow> rows;
     bool more = false;
     const Result r = OrderListQuery::load(filter, rows, more);
-    // A failed query empties the list rather than leaving rows of another filter.
-    setRows(std::move(rows));
-    m_more = r && more;
-    return r;
-}
-
-void OrderListModel::setRows(QList<OrderListRow> rows)
-{
-    beginResetModel();
-    m_rows = std::move(rows);
-    m_more = false;
-    endResetModel();
-}
-
-int OrderListModel::rowOf(qint64 id) const
-{
-    for (int i = 0; i < m_rows.size(); ++i)
-        if (m_rows.at(i).id == id)
-            return i;
-    return -1;
-}
-
-int OrderListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : int(m_rows.size());
+    return setRead(r, std::move(rows), more);
 }
 
 int OrderListModel::columnCount(const QModelIndex& parent) const
@@ -74,7 +50,7 @@ QVariant OrderListModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const OrderListRow& row = m_rows.at(index.row());
+    const OrderListRow& row = RowListModel::row(index.row());
     const auto column = Column(index.column());
     switch (role) {
     case IdRole:

@@ -1,11 +1,10 @@
 // The rows of the order list as its view shows them: read-only, one row per order, newest first.
 #pragma once
 
+#include "base/ui/RowListModel.h"
 #include "orders/OrderListQuery.h"
 
-#include <QAbstractTableModel>
-
-class OrderListModel : public QAbstractTableModel
+class OrderListModel : public RowListModel<OrderListRow>
 {
     Q_OBJECT
 public:
@@ -30,24 +29,13 @@ public:
     // The value a column sorts by: dates and amounts as such, not as their text.
     static constexpr int SortRole = Qt::UserRole + 2;
 
-    using QAbstractTableModel::QAbstractTableModel;
+    using RowListModel::RowListModel;
 
     // Reads the rows under filter; more tells whether the limit cut the list short.
     Result load(const OrderListFilter& filter);
-    void setRows(QList<OrderListRow> rows);
-    bool more() const { return m_more; }
 
-    const OrderListRow& row(int index) const { return m_rows.at(index); }
-    // The row holding the order, or -1.
-    int rowOf(qint64 id) const;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
-
-private:
-    QList<OrderListRow> m_rows;
-    bool m_more = false;
 };
