@@ -390,19 +390,16 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
 {
     std::optional<qint64> id;
     if (!code.isEmpty()) {
-        if (!findCode(Tbl::NOVATREASON, Col::NOVATREASON_ID, Col::NOVATREASON_CODE, code, id))
-            return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."));
-        if (!id)
-            if (Result r = chooseRowForCode(
-                    MasterTable::NoVatReason, Tbl::NOVATREASON, Col::NOVATREASON_ID,
-                    Col::NOVATREASON_CODE, code,
-                    QT_TRANSLATE_NOOP("OrderImporter",
-                                      "There is no novatreason with code %s in database.&&Add or "
-                                      "select this novatreason in the next window."),
-                    QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."),
-                    QT_TRANSLATE_NOOP("OrderImporter", "Error saving novatreason selection."), id);
-                !r)
-                return r;
+        if (Result r = findOrChooseCode(
+                MasterTable::NoVatReason, Tbl::NOVATREASON, Col::NOVATREASON_ID,
+                Col::NOVATREASON_CODE, code,
+                QT_TRANSLATE_NOOP("OrderImporter",
+                                  "There is no novatreason with code %s in database.&&Add or "
+                                  "select this novatreason in the next window."),
+                QT_TRANSLATE_NOOP("OrderImporter", "Unable to load novatreason."),
+                QT_TRANSLATE_NOOP("OrderImporter", "Error saving novatreason selection."), id);
+            !r)
+            return r;
         if (Result r = requireTranslation(
                 Tbl::NOVATREASONTRANSLATION, Col::NOVATREASONTRANSLATION_NOVATREASON_ID,
                 Col::NOVATREASONTRANSLATION_LANG_ID, *id, order.langId, MasterTable::NoVatReason,
@@ -421,12 +418,16 @@ Result OrderImporter::resolveNoVatReason(const QString& code, Order& order)
     return Result::success();
 }
 
-Result OrderImporter::chooseRowForCode(MasterTable table, const char* tableName,
+Result OrderImporter::findOrChooseCode(MasterTable table, const char* tableName,
                                        const char* idColumn, const char* codeColumn,
                                        const QString& code, const char* unknown,
                                        const char* loadError, const char* saveError,
                                        std::optional<qint64>& id)
 {
+    if (!findCode(tableName, idColumn, codeColumn, code, id))
+        return Fail(loadError);
+    if (id)
+        return Result::success();
     m_interaction.exclamation(FillArgs(Text(unknown), {code}));
     forgetCaches(); // the user may change any row in the windows
     id = m_ask.chooseRow(table);
@@ -447,20 +448,17 @@ Result OrderImporter::resolvePaymentMethod(const QString& code, const QString& o
                               "ORDERHEAD_PAYMENTMETHOD_CODE is missing.&&ORDERHEAD_CODE=%s"),
             {orderCode});
     std::optional<qint64> id;
-    if (!findCode(Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID, Col::PAYMENTMETHOD_CODE, code, id))
-        return Fail(QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."));
-    if (!id)
-        if (Result r = chooseRowForCode(
-                MasterTable::PaymentMethod, Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID,
-                Col::PAYMENTMETHOD_CODE, code,
-                QT_TRANSLATE_NOOP("OrderImporter",
-                                  "There is no payment method with code %s in database.&&Add or "
-                                  "select this payment method and the translations in the next "
-                                  "window."),
-                QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."),
-                QT_TRANSLATE_NOOP("OrderImporter", "Error saving payment method selection."), id);
-            !r)
-            return r;
+    if (Result r = findOrChooseCode(
+            MasterTable::PaymentMethod, Tbl::PAYMENTMETHOD, Col::PAYMENTMETHOD_ID,
+            Col::PAYMENTMETHOD_CODE, code,
+            QT_TRANSLATE_NOOP("OrderImporter",
+                              "There is no payment method with code %s in database.&&Add or "
+                              "select this payment method and the translations in the next "
+                              "window."),
+            QT_TRANSLATE_NOOP("OrderImporter", "Unable to load payment method."),
+            QT_TRANSLATE_NOOP("OrderImporter", "Error saving payment method selection."), id);
+        !r)
+        return r;
     if (Result r = requireTranslation(
             Tbl::PAYMENTMETHODTRANSLATION, Col::PAYMENTMETHODTRANSLATION_PAYMENTMETHOD_ID,
             Col::PAYMENTMETHODTRANSLATION_LANG_ID, *id, order.langId, MasterTable::PaymentMethod,

@@ -56,9 +56,10 @@ private:
     Result readItem(const XmlRecord& element, const Order& order, OrderItem& item);
     Result resolveProduct(const Order& order, OrderItem& item);
     Result storeOrder(Order& order, const QString& timestamp);
-    // An unknown code: the user is told, picks a row of the table, and the code is stored on it.
-    // unknown is the message (with %s for the code); loadError and saveError end the order.
-    Result chooseRowForCode(MasterTable table, const char* tableName, const char* idColumn,
+    // The row of a code; an unknown code: the user is told, picks a row of the table, and the
+    // code is stored on it. unknown is the message (with %s for the code); loadError and
+    // saveError end the order.
+    Result findOrChooseCode(MasterTable table, const char* tableName, const char* idColumn,
                             const char* codeColumn, const QString& code, const char* unknown,
                             const char* loadError, const char* saveError,
                             std::optional<qint64>& id);
