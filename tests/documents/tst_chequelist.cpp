@@ -1,8 +1,8 @@
 // The "Csekkek" tab and the cheque editor on the offscreen platform against a real company:
 // the list and its limit, deleting a selection with printed cheques in it, the filter, and
 // saving a cheque with a payer new to the basic data.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "base/Setup.h"
@@ -39,14 +39,13 @@ void AddCheque(const QString& name, double amount, bool printed)
 
 } // namespace
 
-class TestChequeList : public QObject
+class TestChequeList : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         m_ask = ScriptedInteraction();
         const QStringList names{"Árvíztűrő Kft", "Béla", "Cecília", "Dénes", "Ernő"};
         for (int i = 0; i < names.size(); ++i)
@@ -58,7 +57,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_list.reset();
-        m_company.reset();
+        CompanyTestCase::cleanup();
     }
 
     // Newest first; the record limit cuts the list and says so.
@@ -225,7 +224,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     std::optional<ChequeList> m_list;
     ScriptedInteraction m_ask;
 };

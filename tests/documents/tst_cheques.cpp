@@ -1,8 +1,8 @@
 // Postal cheques against real company databases: the deletion rule for printed ones, printing
 // all unprinted ones only once, the slip-sized PDF page and its offsets, whole forints, a
 // missing template, and the cheque an invoice gets at issue inside the issuing transaction.
+#include "CompanyTestCase.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 #include "TestOrders.h"
 
@@ -60,20 +60,18 @@ QRect InkBox(const QString& pdf)
 
 } // namespace
 
-class TestCheques : public QObject
+class TestCheques : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         m_ask = ScriptedInteraction();
         ChequeTemplate installed;
         QVERIFY(ChequeTemplates::install(kShippedChequeTemplateDir, installed));
         QVERIFY(installed.certified());
     }
-    void cleanup() { m_company.reset(); }
 
     void printedChequesAreNeverDeleted()
     {
@@ -310,7 +308,6 @@ private:
         return ChequePrinting::print(mode, ids, output, m_ask, day, count);
     }
 
-    std::optional<TestCompany> m_company;
     ScriptedInteraction m_ask;
 };
 

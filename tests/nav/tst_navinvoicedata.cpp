@@ -1,8 +1,8 @@
 // The invoice documents reported to the tax authority, validated with libxml2 against the
 // authority's own schemas for every kind of invoice the program issues, and the values that a
 // valid document can still get wrong (customer kind, category, exemption, reference, amounts).
+#include "CompanyTestCase.h"
 #include "NavTestOrders.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "nav/InvoiceData.h"
@@ -29,18 +29,16 @@ QStringList All(const QDomDocument& doc, const QString& name)
 
 } // namespace
 
-class TestNavInvoiceData : public QObject
+class TestNavInvoiceData : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { QVERIFY(m_schema.isLoaded()); }
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         QVERIFY(PrepareNavSeller());
     }
-    void cleanup() { m_company.reset(); }
 
     void documentsValidate_data()
     {
@@ -189,7 +187,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<TestCompany> m_company;
     XmlSchemaCheck m_schema{XmlSchemaCheck::invoiceDataSchema()};
 };
 

@@ -1,10 +1,10 @@
 // Reporting against the local test double over loopback: every invoice issued reaches the
 // authority and gets its verdict, the double's fault modes end in the right states, a network
 // fault leaves the invoices waiting for their back-off, and a refused user or signature is told.
+#include "CompanyTestCase.h"
 #include "NavDouble.h"
 #include "NavTestOrders.h"
 #include "ScriptedInteraction.h"
-#include "TestCompany.h"
 #include "TestData.h"
 
 #include "nav/NavQueue.h"
@@ -21,14 +21,13 @@ QString States()
 
 } // namespace
 
-class TestNavReporting : public QObject
+class TestNavReporting : public CompanyTestCase
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        QVERIFY(m_company.emplace().isValid());
-        QVERIFY(Setup::current().load());
+        CompanyTestCase::init();
         QVERIFY(PrepareNavSeller());
         m_double.emplace();
         QVERIFY(m_double->listen());
@@ -42,7 +41,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_double.reset();
-        m_company.reset();
+        CompanyTestCase::cleanup();
     }
 
     // Five different invoices and a cancelling one go out in one request and are accepted.
@@ -246,7 +245,6 @@ private Q_SLOTS:
 private:
     static NavClientOptions Options() { return {1500, 2, 0}; }
 
-    std::optional<TestCompany> m_company;
     std::optional<NavDouble> m_double;
     NavSettings m_settings;
 };
