@@ -17,7 +17,6 @@
 #include "orders/OrderFill.h"
 #include "orders/OrderStore.h"
 
-#include <QBuffer>
 #include <QSqlError>
 #include <QXmlStreamReader>
 
@@ -62,14 +61,6 @@ OrderImporter::OrderImporter(Interaction& interaction, WebshopInteraction& ask)
 QString OrderImporter::documentVersion()
 {
     return VersionSlot();
-}
-
-bool OrderImporter::importDocument(const QByteArray& text, Progress* progress)
-{
-    QBuffer buffer;
-    buffer.setData(text);
-    buffer.open(QIODevice::ReadOnly);
-    return importDocument(buffer, progress);
 }
 
 bool OrderImporter::importDocument(QIODevice& device, Progress* progress)

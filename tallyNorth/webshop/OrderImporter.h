@@ -34,7 +34,6 @@ public:
     // Reads the document from device and stores its orders. False when the document is
     // unreadable or an order failed; the failure's message has then been shown.
     bool importDocument(QIODevice& device, Progress* progress = nullptr);
-    bool importDocument(const QByteArray& text, Progress* progress = nullptr);
 
     // What the last run stored.
     const QList<qint64>& createdOrders() const { return m_created; }

@@ -15,7 +15,6 @@
 #include "documents/QtfReader.h"
 #include "masterdata/MasterTables.h"
 
-#include <QBuffer>
 #include <QSqlError>
 #include <QXmlStreamReader>
 
@@ -52,14 +51,6 @@ const char* const kProductTexts[] = {Col::PRODUCT_NAME, Col::PRODUCT_STAT_NO, Co
 RecordImporter::RecordImporter(Kind kind, Interaction& interaction, WebshopInteraction& ask)
     : m_kind(kind), m_interaction(interaction), m_ask(ask)
 {
-}
-
-bool RecordImporter::importDocument(const QByteArray& text, Progress* progress)
-{
-    QBuffer buffer;
-    buffer.setData(text);
-    buffer.open(QIODevice::ReadOnly);
-    return importDocument(buffer, progress);
 }
 
 bool RecordImporter::importDocument(QIODevice& device, Progress* progress)

@@ -25,7 +25,6 @@ public:
 
     // False when the document is refused or a record failed; the message has been shown.
     bool importDocument(QIODevice& device, Progress* progress = nullptr);
-    bool importDocument(const QByteArray& text, Progress* progress = nullptr);
 
     // The rows inserted or updated by the last run.
     const QList<qint64>& stored() const { return m_stored; }

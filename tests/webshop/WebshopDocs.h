@@ -2,8 +2,10 @@
 // given as "TAG=value" pairs over a plain forint order that stores as it is.
 #pragma once
 
+#include "base/Interaction.h"
 #include "webshop/WebshopInteraction.h"
 
+#include <QBuffer>
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QHash>
@@ -73,6 +75,16 @@ inline QByteArray OrdersDoc(const QList<QByteArray>& orders,
                             const QByteArray& prolog = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>")
 {
     return Doc("ORDERS", orders, prolog);
+}
+
+// Runs an importer on a document held in memory.
+template <typename Importer>
+bool ImportBytes(Importer& importer, const QByteArray& xml, Progress* progress = nullptr)
+{
+    QBuffer buffer;
+    buffer.setData(xml);
+    buffer.open(QIODevice::ReadOnly);
+    return importer.importDocument(buffer, progress);
 }
 
 // Answers the editor and chooser questions from queues and records which were asked.

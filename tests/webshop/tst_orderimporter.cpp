@@ -257,7 +257,7 @@ private Q_SLOTS:
         auto progress = m_ui.progress("x");
         OrderImporter importer(m_ui, *m_ask);
         QVERIFY(
-            !importer.importDocument(OrdersDoc({OrderXml("W1"), OrderXml("W2")}), progress.get()));
+            !ImportBytes(importer, OrdersDoc({OrderXml("W1"), OrderXml("W2")}), progress.get()));
         QCOMPARE(m_ui.lastMessage(), QString("Operation canceled."));
         QCOMPARE(Stored(), QString("W1"));
     }
@@ -288,7 +288,7 @@ private:
     bool run(const QByteArray& doc)
     {
         OrderImporter importer(m_ui, *m_ask);
-        return importer.importDocument(doc);
+        return ImportBytes(importer, doc);
     }
 
     ScriptedInteraction m_ui;

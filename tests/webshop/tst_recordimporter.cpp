@@ -129,7 +129,7 @@ private:
     bool run(RecordImporter::Kind kind, const QByteArray& doc)
     {
         RecordImporter importer(kind, m_ui, *m_ask);
-        return importer.importDocument(doc);
+        return ImportBytes(importer, doc);
     }
 
     ScriptedInteraction m_ui;
