@@ -10,7 +10,6 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
-#include <QSqlRecord>
 
 #include "Columns.h"
 
@@ -79,18 +78,6 @@ QString YearInPrefixNotice()
         "A számlaszám előtagjában szerepel az évszám.&Az előtag az első számla kinyomtatása után "
         "már nem változtatható meg, a számlák sorszámozása pedig az év végén sem kezdődik újra. "
         "Új évhez új előtaggal új cégadatbázist kell kezdeni.");
-}
-
-SetupValues LoadHomeCurrency()
-{
-    SetupValues values;
-    SqlStatement st(Sql("select * from %1 where %2 = 0", {Tbl::CURRENCYY, Col::CURRENCY_ID}));
-    if (!st.exec() || !st.next())
-        return values;
-    const QSqlRecord row = st.query().record();
-    for (int i = 0; i < row.count(); ++i)
-        values.insert(row.fieldName(i), row.value(i));
-    return values;
 }
 
 QByteArray LogoPicture(qint64 logoId)

@@ -44,9 +44,6 @@ QString YearInPrefixNotice();
 Result SaveSetup(SetupChanges changes, Interaction& interaction, QString* badColumn = nullptr,
                  const QDate& today = QDate::currentDate());
 
-// The forint's row as the rounding page shows it; empty when it can not be read.
-SetupValues LoadHomeCurrency();
-
 // The picture file of a stored logo; empty when there is none.
 QByteArray LogoPicture(qint64 logoId);
 

@@ -12,6 +12,7 @@
 #include "documents/InvoiceTemplate.h"
 #include "documents/ui/InvoicePrinting.h"
 #include "masterdata/DiscountType.h"
+#include "masterdata/MasterTables.h"
 #include "masterdata/ui/CurrencyRoundingEditor.h"
 #include "masterdata/ui/FieldBinding.h"
 #include "masterdata/ui/MasterBrowses.h"
@@ -348,7 +349,9 @@ const char* const kDecimals[] = {
 void SetupRoundingPage::load(const Setup& setup)
 {
     SetupPage::load(setup);
-    const SetupValues forint = LoadHomeCurrency();
+    // A row that can not be read shows zeros.
+    Record forint;
+    (void)CurrencyStore().read(0, forint);
     // Printing decimals first, so that lowering one does not pull its rounding down.
     for (const char* column :
          {kDecimals[2], kDecimals[4], kDecimals[0], kDecimals[1], kDecimals[3]})
